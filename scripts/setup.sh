@@ -1,0 +1,110 @@
+#!/usr/bin/env bash
+# Sets up what building, running and testing need. Asks nothing; a second call finds everything there and is quick.
+#
+#   scripts/setup.sh             what ./run.sh and ./test.sh need
+#   scripts/setup.sh --checks    and what .ci/run needs besides
+#
+# With apt-get (Debian, Ubuntu) it installs what is missing. Elsewhere it names what is wanted and goes on: the build
+# then finds the same things under their local names, or says what it misses.
+set -euo pipefail
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+# Debian package | what stands for it when it comes from elsewhere: a command, or pc: and a pkg-config module.
+# A package with nothing behind the bar is looked for by its name alone.
+wanted_always='
+ca-certificates|
+g++|c++
+cmake|cmake
+ninja-build|ninja
+ccache|ccache
+qtbase5-dev|pc:Qt5Widgets
+libqt5webkit5-dev|pc:Qt5WebKitWidgets
+libqt5sql5-sqlite|
+qttools5-dev|
+qttools5-dev-tools|
+nodejs|node
+npm|npm
+xvfb|Xvfb
+xauth|xauth
+fonts-dejavu-core|
+fonts-liberation|
+'
+wanted_for_checks='
+git|git
+clang-format|clang-format
+clang-tidy|run-clang-tidy
+shellcheck|shellcheck
+'
+
+say() { printf '%s\n' "set-up: $*"; }
+
+stands_for_it() {
+    case $1 in
+        '') return 1 ;;
+        pc:*) command -v pkg-config >/dev/null && pkg-config --exists "${1#pc:}" ;;
+        *) command -v "$1" >/dev/null ;;
+    esac
+}
+
+debian_has() {
+    command -v dpkg-query >/dev/null &&
+        [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+# Prints the packages of the list on standard input that are neither installed nor stood for.
+missing_packages() {
+    local package substitute
+    while IFS='|' read -r package substitute; do
+        [ -n "$package" ] || continue
+        stands_for_it "$substitute" || debian_has "$package" || printf '%s ' "$package"
+    done
+}
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo -n "$@"
+    else
+        say 'not root, and no sudo to become it'
+        return 1
+    fi
+}
+
+install_with_apt() {
+    local apt=(env DEBIAN_FRONTEND=noninteractive apt-get -q -y -o Dpkg::Use-Pty=0)
+    say "installing: $*"
+    # Old package lists may still do, so a failing update is only told.
+    as_root "${apt[@]}" update </dev/null || say 'the package lists could not be brought up to date'
+    as_root "${apt[@]}" install --no-install-recommends "$@" </dev/null || {
+        say "these packages could not be installed; install them and call again: $*"
+        return 1
+    }
+}
+
+set_up_packages() {
+    local missing
+    read -r -a missing <<<"$(printf '%s' "$1" | missing_packages)" || true
+    [ "${#missing[@]}" -gt 0 ] || return 0
+    if command -v apt-get >/dev/null; then
+        install_with_apt "${missing[@]}"
+    else
+        say "no apt-get here; wanted, under the names that Debian gives them: ${missing[*]}"
+    fi
+}
+
+# The map page's own needs, as pinned in the lock file. npm leaves its own copy of that file behind when it is done.
+set_up_page_packages() {
+    local lock=$root/package-lock.json done_mark=$root/node_modules/.package-lock.json
+    [ -f "$lock" ] || return 0
+    [ "$done_mark" -nt "$lock" ] && return 0
+    command -v npm >/dev/null || { say 'no npm: the map page cannot be built'; return 0; }
+    say 'fetching what the map page is built from'
+    (cd "$root" && npm ci --no-audit --no-fund --ignore-scripts </dev/null)
+}
+
+wanted=$wanted_always
+[ "${1:-}" != --checks ] || wanted+=$wanted_for_checks
+set_up_packages "$wanted"
+set_up_page_packages

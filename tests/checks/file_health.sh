@@ -1,0 +1,45 @@
+#!/usr/bin/env bash
+# The health of the files under version control: LF, no blank at the end of a line, a newline at the end of the file,
+# nothing over a megabyte. Files that .gitattributes exempts with "-text" or "binary" are judged by their size alone:
+# some test data are broken on purpose. Long sources are only told.
+set -euo pipefail
+
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+largest_bytes=1000000
+bad=0
+
+complain() {
+    printf '%s\n' "$*"
+    bad=1
+}
+
+is_text() {
+    [ "$(git check-attr text -- "$1" | sed 's/.*: //')" != unset ] && [ -s "$1" ] && grep -Iq . "$1"
+}
+
+check_text() {
+    local file=$1
+    if grep -q $'\r' "$file"; then complain "$file: has a carriage return"; fi
+    if grep -nqE '[[:blank:]]+$' "$file"; then
+        complain "$file:$(grep -nE '[[:blank:]]+$' "$file" | head -n 1 | cut -d: -f1): blanks at the end of the line"
+    fi
+    if [ -n "$(tail -c 1 "$file")" ]; then complain "$file: no newline at the end"; fi
+}
+
+tell_long_source() {
+    local file=$1 limit=$2 lines
+    lines=$(wc -l <"$file")
+    if [ "$lines" -ge "$limit" ]; then printf '%s: %d lines, more than is easily read (told, not refused)\n' "$file" "$lines"; fi
+}
+
+while IFS= read -r file; do
+    [ -f "$file" ] || continue
+    if [ "$(wc -c <"$file")" -gt $largest_bytes ]; then complain "$file: over $largest_bytes bytes"; fi
+    if is_text "$file"; then check_text "$file"; fi
+    case $file in
+        *.cpp) tell_long_source "$file" 400 ;;
+        *.h) tell_long_source "$file" 150 ;;
+    esac
+done < <(git ls-files)
+
+exit $bad
