@@ -2,8 +2,6 @@
 
 #include "sqlmgr.h"
 
-#include "platformpath.h"
-
 #include <QDebug>
 #include <QMessageBox>
 #include <QVariant>
@@ -36,7 +34,7 @@ void SqlMgr::addDB(const QString& name, const QString& path)
         return;
     }
     lastConnection = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
-    lastConnection.setDatabaseName(QStringLiteral("%1/%2").arg(platformPath(path), name));
+    lastConnection.setDatabaseName(QStringLiteral("%1/%2").arg(path, name));
     if (!lastConnection.open()) {
         QMessageBox::critical(nullptr, tr("Ouverture de la base de données impossible."),
                               tr("Impossible d\"établir la connexion avec %1.").arg(name), QMessageBox::Ok,

@@ -55,14 +55,20 @@ public:
     /// so.
     int getVerticalBand(double latSec) const;
     /// The value of a `tile` column: the band, and from bit 16 upward the low 8 bits of the column.
+    /// West longitudes give columns from the top of the range, and columns 0 east and west have the same number.
     int getTileKey(double latSec, double lonSec) const;
-    /// The half band of a latitude, 0 to 511. NaN is reported to the debug log and gives the band of the pole row 0.
+    /// The half band of a latitude, 0 to 511, 256 the first one north of the equator. The same holds on an edge.
+    /// NaN is reported to the debug log and gives 127, where its search stands still.
     int getVerticalQgtNumber(double latSec) const;
+    /// True when the latitude's half band, halved, is greater than `band`.
     bool isAboveBand(double latSec, int band) const;
+    /// The counts of the table's last two fields for a row from 0 to 127, computed afresh; 0 for any other number.
     int countBandsUp(short band) const;
     int countBandsDown(short band) const;
 
+    /// Columns of half a tile, truncated towards zero.
     static int getHalfColumn(double lonSec);
+    /// The longitude divided by a column times 65536, truncated towards zero.
     static int getColumnHigh(double lonSec);
     /// "%1 %2": the high and the low 16 bits of a key given as decimal text.
     static QString tileKeyText(const QString& tile);
