@@ -1,1 +1,181 @@
-// Filled by its own change.
+#include "cpodmgr.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+constexpr int headerSize = 276;
+constexpr int numberSize = 4;
+constexpr int textSize = 80;
+constexpr int recordSize = 20;
+constexpr int recordsAtOnce = 1024;
+
+// The name table has no size of its own: it is read in blocks of about what its names need.
+constexpr int usualNameSize = 32;
+constexpr int smallestBlock = 512;
+constexpr int largestBlock = 1 << 16;
+
+/// A number of the file, little endian; 0 where the bytes are missing.
+qint32 number(const QByteArray& bytes, int offset)
+{
+    return offset + numberSize <= bytes.size() ? qFromLittleEndian<qint32>(bytes.constData() + offset) : 0;
+}
+
+/// A text of the file in its full length, zero bytes included.
+QString text(const QByteArray& bytes, int offset, int size)
+{
+    const QByteArray field = bytes.mid(offset, size);
+    return QString::fromUtf8(field.constData(), field.size());
+}
+
+/// Each byte is a character by itself, so only plain ASCII comes through.
+QString nameText(const char* bytes, int size)
+{
+    QString result = QString::fromLatin1(bytes, size);
+    for (QChar& character : result) {
+        if (character.unicode() >= 0x80) {
+            character = QChar::ReplacementCharacter;
+        }
+    }
+    return result;
+}
+
+/// The last entry that fits, or null: of several, only the last one's text would stay.
+template <typename Fits>
+const PodEntry* lastEntry(const QList<PodEntry*>& entries, Fits fits)
+{
+    const auto found = std::find_if(entries.crbegin(), entries.crend(), fits);
+    return found == entries.crend() ? nullptr : *found;
+}
+
+} // namespace
+
+CPodMgr::CPodMgr(const QString& fileName) : QFile(fileName)
+{
+    readDirectory(fileName);
+}
+
+CPodMgr::~CPodMgr()
+{
+    qDeleteAll(entries);
+}
+
+bool CPodMgr::readDirectory(const QString&)
+{
+    if (!open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    readHeader();
+    readRecords();
+    readNames();
+    return true;
+}
+
+void CPodMgr::readHeader()
+{
+    const QByteArray header = read(headerSize);
+    magic = text(header, 0, numberSize); // any magic passes
+    headerWord1 = number(header, 4);
+    headerText1 = text(header, 8, textSize);
+    entryCount = number(header, 88);
+    headerWord2 = number(header, 92);
+    headerWord3 = number(header, 96);
+    headerWord4 = number(header, 100);
+    headerText2 = text(header, 104, textSize);
+    headerText3 = text(header, 184, textSize);
+    directoryOffset = number(header, 264);
+    headerWord5 = number(header, 268);
+    headerWord6 = number(header, 272);
+}
+
+void CPodMgr::readRecords()
+{
+    // Records that run past the end of the file leave no room for a name, and without names nothing can be found.
+    const qint64 room = directoryOffset < 0 ? 0 : size() - directoryOffset;
+    if (entryCount <= 0 || entryCount > room / recordSize || !seek(directoryOffset)) {
+        return;
+    }
+    entries.reserve(entryCount);
+    while (entries.size() < entryCount) {
+        const int count = std::min(entryCount - entries.size(), recordsAtOnce);
+        const QByteArray records = read(count * recordSize);
+        if (records.size() < count * recordSize) {
+            return;
+        }
+        for (int offset = 0; offset < records.size(); offset += recordSize) {
+            entries += new PodEntry{QString(),
+                                    number(records, offset),
+                                    number(records, offset + 4),
+                                    number(records, offset + 8),
+                                    number(records, offset + 12),
+                                    number(records, offset + 16)};
+        }
+    }
+}
+
+void CPodMgr::readNames()
+{
+    int index = 0;
+    while (index < entries.size()) {
+        const int wanted = std::min(entries.size() - index, largestBlock / usualNameSize) * usualNameSize;
+        const QByteArray block = read(std::max(wanted, smallestBlock));
+        if (block.isEmpty()) {
+            return; // the end of the file ends every name
+        }
+        const char* at = block.constData();
+        const char* const end = at + block.size();
+        while (at < end && index < entries.size()) {
+            const void* const zero = std::memchr(at, 0, static_cast<size_t>(end - at));
+            const char* const nameEnd = zero != nullptr ? static_cast<const char*>(zero) : end;
+            entries.at(index)->name += nameText(at, static_cast<int>(nameEnd - at));
+            index += zero != nullptr ? 1 : 0;
+            at = nameEnd + 1;
+        }
+    }
+}
+
+void CPodMgr::readContent(const PodEntry& entry)
+{
+    QByteArray bytes;
+    if (entry.size > 0 && entry.offset >= 0 && seek(entry.offset)) {
+        bytes = read(std::clamp<qint64>(size() - entry.offset, 0, entry.size));
+    }
+    content = QString::fromUtf8(bytes.constData(), bytes.size());
+}
+
+bool CPodMgr::findBySuffix(const QString& suffix)
+{
+    const PodEntry* const entry =
+        lastEntry(entries, [&suffix](const PodEntry* candidate) { return candidate->name.endsWith(suffix); });
+    if (entry == nullptr) {
+        return false;
+    }
+    readContent(*entry);
+    return true;
+}
+
+void CPodMgr::findExact(const QString& name)
+{
+    const PodEntry* const entry =
+        lastEntry(entries, [&name](const PodEntry* candidate) { return candidate->name == name; });
+    if (entry != nullptr) {
+        readContent(*entry);
+    }
+}
+
+QString CPodMgr::lineAfter(const QString& tag)
+{
+    content.remove(QLatin1Char('\r'));
+    // The first line that holds the tag is the one of the tag's first place, as no tag goes over two lines.
+    const int place = tag.contains(QLatin1Char('\n')) ? -1 : content.indexOf(tag);
+    const int lineFeed = place < 0 ? -1 : content.indexOf(QLatin1Char('\n'), place);
+    if (lineFeed < 0) {
+        return {};
+    }
+    const int start = lineFeed + 1;
+    const int end = content.indexOf(QLatin1Char('\n'), start);
+    return content.mid(start, end < 0 ? -1 : end - start);
+}

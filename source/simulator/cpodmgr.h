@@ -52,4 +52,10 @@ public:
     QList<PodEntry*> entries;
     QList<PodEntry*> unusedEntries; ///< nothing fills it
     QString content;                ///< text of the entry last read
+
+private:
+    void readHeader();
+    void readRecords();
+    void readNames();
+    void readContent(const PodEntry& entry);
 };
