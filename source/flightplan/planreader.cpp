@@ -1,1 +1,100 @@
-// Filled by its own change.
+#include "planreader.h"
+
+#include <QStringList>
+#include <QTextStream>
+
+namespace {
+
+constexpr int tagLength = 6;
+
+using TakeValue = bool (*)(CFpLine& line, const QString& value);
+
+template <QString CFpLine::*field>
+bool takeText(CFpLine& line, const QString& value)
+{
+    line.*field = value;
+    return true;
+}
+
+bool takeAltitude(CFpLine& line, const QString& value)
+{
+    line.altd = value.toInt();
+    return true;
+}
+
+bool takePosition(CFpLine& line, const QString& value)
+{
+    const QStringList parts = value.split(QLatin1Char(','));
+    if (parts.size() < 3) {
+        return false;
+    }
+    line.latS = parts.at(0).toDouble();
+    line.lonS = parts.at(1).toDouble();
+    line.elev = parts.at(2).toInt();
+    return true;
+}
+
+struct FieldTag
+{
+    const char* tag;
+    TakeValue take;
+};
+
+const FieldTag fieldTags[] = {
+    {"<name>", takeText<&CFpLine::name>},  {"<iden>", takeText<&CFpLine::iden>},  {"<llps>", takePosition},
+    {"<dbky>", takeText<&CFpLine::dbKey>}, {"<user>", takeText<&CFpLine::usage>}, {"<altd>", takeAltitude},
+    {"<tkof>", takeText<&CFpLine::tkof>},  {"<land>", takeText<&CFpLine::land>},  {"<mark>", takeText<&CFpLine::mark>},
+};
+
+// The tags whose next line is read and left: were it not read, it could be taken for a tag.
+const char* const ignoredTags[] = {"<desc>", "<form>", "<ceil>"};
+
+TakeValue fieldOf(const QString& tag)
+{
+    for (const FieldTag& field : fieldTags) {
+        if (tag == QLatin1String(field.tag)) {
+            return field.take;
+        }
+    }
+    return nullptr;
+}
+
+bool isIgnored(const QString& tag)
+{
+    for (const char* ignored : ignoredTags) {
+        if (tag == QLatin1String(ignored)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+PlanFile readPlan(QIODevice& device, const std::function<CFpLinePtr()>& newLine)
+{
+    PlanFile plan;
+    QTextStream stream(&device);
+    const auto nextLine = [&stream] { return stream.readLine().trimmed(); };
+    while (!stream.atEnd()) {
+        const QString line = nextLine();
+        const QString tag = line.left(tagLength);
+        if (tag == QLatin1String("<wpnt>")) {
+            plan.lines += newLine();
+            plan.lines.last()->fpType = nextLine();
+        } else if (tag == QLatin1String("<vers>")) {
+            // The tag's own line, which is no number: every loaded plan starts again at 0.
+            plan.version = line.toInt();
+            plan.versionSeen = true;
+            nextLine();
+        } else if (const TakeValue take = fieldOf(tag)) {
+            const QString value = nextLine();
+            if (plan.lines.isEmpty() || !take(*plan.lines.last(), value)) {
+                ++plan.skipped;
+            }
+        } else if (isIgnored(tag)) {
+            nextLine();
+        }
+    }
+    return plan;
+}
