@@ -1,6 +1,6 @@
 #include "plantext.h"
 
-#include "positions.h"
+#include "mapscript.h"
 
 namespace {
 
@@ -65,13 +65,10 @@ QString planFileName(const CFpLine& first, const CFpLine& last)
 
 QString routeScript(const QList<CFpLinePtr>& lines)
 {
-    QStringList scripts{QStringLiteral("clearFP()")};
+    QStringList scripts{mapscript::clearFp()};
     for (const CFpLinePtr& line : lines) {
-        scripts += QStringLiteral("addPointToFp(new google.maps.LatLng(%1,%2),%3)")
-                       .arg(line->latS / arcSecondsPerDegree, 3, 'f', 5)
-                       .arg(wrapScriptDegrees(line->lonS / arcSecondsPerDegree), 3, 'f', 5)
-                       .arg(QStringLiteral("\"%1\"").arg(line->name));
+        scripts += mapscript::addPointToFp(mapscript::storedPlace(line->latS, line->lonS), line->name);
     }
-    scripts += QStringLiteral("pushFP();");
+    scripts += mapscript::pushFp();
     return scripts.join(QLatin1Char(';'));
 }
