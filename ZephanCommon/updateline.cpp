@@ -1,0 +1,32 @@
+// The grammar of an update line, shared by whoever reads or writes one.
+
+#include "updateline.h"
+
+namespace {
+
+constexpr QLatin1Char separator(';');
+
+} // namespace
+
+QStringList splitUpdateLine(const QByteArray& line)
+{
+    // From the character pointer: the text ends at the first NUL byte.
+    const QString text = QString::fromLatin1(line.trimmed().constData());
+    return text.split(separator, Qt::KeepEmptyParts);
+}
+
+QString updateField(const QStringList& fields, int number)
+{
+    const bool present = number >= 0 && number < fields.size() && !fields.at(number).isNull();
+    return present ? fields.at(number) : QStringLiteral("");
+}
+
+QString composeRowLine(const QString& database, const QString& table, const QStringList& values)
+{
+    return (QStringList{database, table, QStringLiteral("+")} + values).join(separator);
+}
+
+QString composeDeleteLine(const QString& database, const QString& table, const QString& keyColumn, const QString& key)
+{
+    return QStringList{database, table, QStringLiteral("-"), keyColumn, key}.join(separator);
+}

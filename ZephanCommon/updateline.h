@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+/// One line of an update file: one database operation as fields between semicolons. There is no quoting, so that no
+/// value can hold a semicolon. Fields past the ones that a table takes are harmless.
+///
+///   GEN;NAV;+;65705;ABB4FR;ABB;...   writes a row: database, table, "+", the values in the order of the statement
+///   GEN;NAV;-;ukey;ABB4FR            deletes rows: database, table, "-", key column, key
+
+/// Numbers of the fields.
+namespace updatefield {
+constexpr int database = 0;
+constexpr int table = 1;
+constexpr int action = 2;
+constexpr int firstValue = 3; ///< of a line that writes a row
+constexpr int keyColumn = 3;  ///< of a line that deletes
+constexpr int key = 4;        ///< of a line that deletes; empty means the whole table
+} // namespace updatefield
+
+/// The fields of a raw line: white space is taken from both ends, the text ends at the first NUL byte, and each byte
+/// is one character, whatever wrote the file. Never empty: an empty line has one empty field.
+QStringList splitUpdateLine(const QByteArray& line);
+
+/// A field, or an empty text (never a null one, which a database would take for NULL) where the line has none.
+QString updateField(const QStringList& fields, int number);
+
+/// The line that writes a row, without a line end and with nothing behind the last value.
+QString composeRowLine(const QString& database, const QString& table, const QStringList& values);
+
+/// The line that deletes the rows with a key, without a line end.
+QString composeDeleteLine(const QString& database, const QString& table, const QString& keyColumn, const QString& key);
