@@ -2,12 +2,34 @@
 #include "childprocess.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QProcessEnvironment>
 
-ChildRun runChildProcess(const QStringList& arguments, const QVector<QPair<QString, QString>>& variables)
+namespace {
+
+const char childMark[] = "ZEPHAN_TEST_CHILD";
+
+/// Path of the program to run: the present one, or a fresh copy of it in a folder.
+QString programIn(const QString& copyIn)
+{
+    const QString program = QCoreApplication::applicationFilePath();
+    if (copyIn.isEmpty())
+        return program;
+    const QString copy = QDir(copyIn).filePath(QFileInfo(program).fileName());
+    if (!QFile::copy(program, copy))
+        qFatal("cannot copy the test program to %s", qPrintable(copy));
+    return copy;
+}
+
+} // namespace
+
+ChildRun runChildProcess(const QStringList& arguments, const QVector<QPair<QString, QString>>& variables,
+                         const QString& copyIn)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_FORCE_STDERR_LOGGING", "1");
+    environment.insert(childMark, "1");
     for (const auto& variable : variables) {
         if (variable.second.isNull())
             environment.remove(variable.first);
@@ -16,7 +38,7 @@ ChildRun runChildProcess(const QStringList& arguments, const QVector<QPair<QStri
     }
     QProcess process;
     process.setProcessEnvironment(environment);
-    process.start(QCoreApplication::applicationFilePath(), arguments);
+    process.start(programIn(copyIn), arguments);
     ChildRun run;
     run.finished = process.waitForFinished(60000);
     if (!run.finished) {
@@ -28,4 +50,9 @@ ChildRun runChildProcess(const QStringList& arguments, const QVector<QPair<QStri
     run.output = QString::fromUtf8(process.readAllStandardOutput());
     run.log = QString::fromUtf8(process.readAllStandardError());
     return run;
+}
+
+bool inChildProcess()
+{
+    return qEnvironmentVariableIsSet(childMark);
 }

@@ -18,4 +18,8 @@ struct ChildRun
 
 /// Runs the present program once more in the current directory with these arguments, for what cannot be undone in one
 /// process: an abort, another language. A variable with a null text is removed from the environment, others are set.
-ChildRun runChildProcess(const QStringList& arguments, const QVector<QPair<QString, QString>>& variables = {});
+/// With `copyIn` a copy of the program in that folder runs, which finds nothing beside itself.
+ChildRun runChildProcess(const QStringList& arguments, const QVector<QPair<QString, QString>>& variables = {},
+                         const QString& copyIn = QString());
+/// True in a program that runChildProcess has started: a test function that runs itself once more asks this.
+bool inChildProcess();
