@@ -18,6 +18,12 @@
 #include <QDebug>
 #include <QWebFrame>
 
+/// Icons in a static library are linked in by this call alone. Outside any namespace, as the macro wants it.
+static void registerIcons()
+{
+    Q_INIT_RESOURCE(trajector);
+}
+
 namespace {
 
 void writeStartMark()
@@ -50,6 +56,7 @@ void arrangeDocks(QMainWindow& window, const Ui::MainWindow& ui)
 
 MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(std::make_unique<Ui::MainWindow>())
 {
+    registerIcons();
     writeStartMark();
     settings = CNavGlobalVar::instance();
     locateFolders(*settings);

@@ -38,6 +38,8 @@ const Column planColumns[] = {
     {QT_TRANSLATE_NOOP("MainWindow", "Altitude"), 60},
 };
 
+constexpr int narrowestColumn = 20; // pixels
+
 QIcon resourceIcon(QLatin1String name)
 {
     return QIcon(QStringLiteral(":/icon/images/%1.bmp").arg(name));
@@ -88,6 +90,9 @@ void MainWindow::setupGridHeaders()
     labels << tr("Lat.") << tr("Long.") << tr("Latitude") << tr("Longitude");
     ui->fltplnGrid->setHorizontalHeaderLabels(labels);
 
+    // A style's own minimum would widen the narrow columns.
+    ui->treeWFound->header()->setMinimumSectionSize(narrowestColumn);
+    ui->fltplnGrid->horizontalHeader()->setMinimumSectionSize(narrowestColumn);
     for (int i = 0; i < int(std::size(foundColumns)); ++i) {
         ui->treeWFound->setColumnWidth(i, foundColumns[i].width);
     }
