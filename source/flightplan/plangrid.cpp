@@ -1,5 +1,6 @@
 #include "plangrid.h"
 
+#include <QHeaderView>
 #include <QIcon>
 #include <QSignalBlocker>
 #include <QTableWidget>
@@ -10,7 +11,7 @@ constexpr int firstValueColumn = 3;
 constexpr int columnCount = 10;
 constexpr int identityColumn = 1;
 constexpr int rowHeight = 20; // pixels
-constexpr int vorType = 8;
+constexpr int ndbType = 8;
 
 struct Kind
 {
@@ -23,7 +24,7 @@ struct Kind
 // The first row that fits decides. The words are the design's own and are not translated.
 const Kind kinds[] = {
     {"airp", -1, ":/icon/images/Img08.bmp", "Airport"},
-    {"snav", vorType, ":/icon/images/Img03.bmp", "Navaid"},
+    {"snav", ndbType, ":/icon/images/Img03.bmp", "Navaid"},
     {"snav", -1, ":/icon/images/Img05.bmp", "Navaid"},
     {"uswp", -1, ":/icon/images/Img12.bmp", "Waypoint"},
 };
@@ -85,6 +86,8 @@ void fillPlanGrid(QTableWidget& grid, const QList<CFpLinePtr>& lines)
     for (int row = 0; row < lines.size(); ++row) {
         fillRow(grid, row, *lines.at(row));
     }
+    // A style's own minimum would make the rows higher.
+    grid.verticalHeader()->setMinimumSectionSize(rowHeight);
     for (int row = 0; row < lines.size(); ++row) {
         grid.setRowHeight(row, rowHeight);
     }
