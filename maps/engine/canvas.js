@@ -1,0 +1,115 @@
+/**
+ * A canvas under the moving part of the map. It reaches beyond the view on every side and is painted again only when
+ * the view leaves it, the zoom changes or what it shows has changed: a pan mostly moves ready pixels.
+ */
+(function () {
+  'use strict';
+  const engine = window.mapEngine;
+
+  /** How far the canvas reaches beyond the view on each side, as a part of the view. */
+  const reach = 0.25;
+
+  /**
+   * What a painter gets.
+   * @typedef {Object} Frame
+   * @property {CanvasRenderingContext2D} context its unit is the CSS pixel
+   * @property {number} scale pixels of the whole world's width: unit coordinates times this minus left or top
+   * @property {number} left pixels from the world's west edge to the canvas's
+   * @property {number} top pixels from the projection's northern limit to the canvas's upper edge
+   * @property {number} width @property {number} height CSS pixels of the canvas
+   * @property {number} zoom
+   * @property {number} firstWorld @property {number} lastWorld the copies of the world in the canvas, 0 the first
+   */
+
+  engine.ChartCanvas = L.Layer.extend({
+    /**
+     * @param {string} pane the Leaflet pane
+     * @param {Array<{paint: function(Frame)}>} painters called in this order
+     */
+    initialize: function (pane, painters) {
+      L.setOptions(this, { pane: pane });
+      this.painters = painters;
+      this.area = { zoom: NaN };
+    },
+
+    onAdd: function (leaflet) {
+      this.leaflet = leaflet;
+      this.canvas = L.DomUtil.create('canvas', 'chart-canvas', this.getPane());
+      this.paint();
+    },
+
+    getEvents: function () {
+      return { move: this.follow, resize: this.paint };
+    },
+
+    /** Something shown has changed: paint with the next frame, once for all changes until then. */
+    invalidate: function () {
+      if (!this.pending)
+        this.pending = window.requestAnimationFrame(() => this.paint());
+    },
+
+    /** The view in pixels of the whole world at this zoom. */
+    view: function () {
+      const corner = this.leaflet.containerPointToLayerPoint([0, 0]).add(this.leaflet.getPixelOrigin());
+      const size = this.leaflet.getSize();
+      return { left: corner.x, top: corner.y, width: size.x, height: size.y, zoom: this.leaflet.getZoom() };
+    },
+
+    follow: function () {
+      const view = this.view();
+      const area = this.area;
+      const inside = area.zoom === view.zoom && view.left >= area.left && view.top >= area.top
+        && view.left + view.width <= area.left + area.width && view.top + view.height <= area.top + area.height;
+      if (inside)
+        this.place();
+      else
+        this.paint();
+    },
+
+    place: function () {
+      L.DomUtil.setPosition(this.canvas, L.point(this.area.left, this.area.top).subtract(this.leaflet.getPixelOrigin()));
+    },
+
+    paint: function () {
+      if (this.pending)
+        window.cancelAnimationFrame(this.pending);
+      this.pending = 0;
+      const view = this.view();
+      const spareX = Math.ceil(view.width * reach);
+      const spareY = Math.ceil(view.height * reach);
+      this.area = {
+        zoom: view.zoom,
+        left: view.left - spareX,
+        top: view.top - spareY,
+        width: view.width + 2 * spareX,
+        height: view.height + 2 * spareY,
+      };
+      this.place();
+      const frame = this.frame();
+      this.painters.forEach(painter => painter.paint(frame));
+    },
+
+    frame: function () {
+      const area = this.area;
+      const ratio = window.devicePixelRatio || 1;
+      const scale = engine.tileSize * Math.pow(2, area.zoom);
+      const width = Math.round(area.width * ratio);
+      const height = Math.round(area.height * ratio);
+      if (this.canvas.width !== width || this.canvas.height !== height) {
+        this.canvas.width = width;
+        this.canvas.height = height;
+        this.canvas.style.width = `${area.width}px`;
+        this.canvas.style.height = `${area.height}px`;
+      }
+      const context = this.canvas.getContext('2d');
+      context.setTransform(ratio, 0, 0, ratio, 0, 0);
+      context.clearRect(0, 0, area.width, area.height);
+      return Object.assign({
+        context: context,
+        scale: scale,
+        firstWorld: Math.floor(area.left / scale),
+        lastWorld: Math.floor((area.left + area.width) / scale),
+      }, area);
+    },
+  });
+})();

@@ -1,0 +1,130 @@
+/** `google.maps.Map`: the view with its base map, its canvases and its controls. */
+(function () {
+  'use strict';
+  const maps = window.google.maps;
+  const engine = window.mapEngine;
+
+  const zoomLimits = { least: 2, most: 18 };
+
+  const leafletOptions = {
+    // Any zoom may be set; the wheel goes from one whole zoom to the next (pointer.js).
+    zoomSnap: 0,
+    scrollWheelZoom: false,
+    // A zoom is done when the call returns: scripts read back what they have set.
+    zoomAnimation: false,
+    fadeAnimation: false,
+    markerZoomAnimation: false,
+    inertia: false,
+    // The size of the window is followed here, so that the centre stays what it was to the last digit.
+    trackResize: false,
+    worldCopyJump: true,
+    attributionControl: false,
+    zoomControl: false,
+    minZoom: zoomLimits.least,
+    maxZoom: zoomLimits.most,
+  };
+
+  class ChartMap extends maps.MVCObject {
+    /**
+     * @param {Element} element
+     * @param {{center: LatLng, zoom: number, zoomControl: boolean, scaleControl: boolean}} options
+     */
+    constructor(element, options) {
+      super();
+      const wanted = options || {};
+      const centre = engine.isFinitePosition(wanted.center) ? wanted.center : new maps.LatLng(0, 0);
+      this.element = element;
+      this.lines = new engine.Lines();
+      this.points = new engine.Points();
+      this.quiet = false;
+      this.exactCentre = centre;
+      this.leaflet = L.map(element, leafletOptions);
+      this.leaflet.setView([centre.lat(), centre.lng()], wanted.zoom || 0);
+      this.base = new engine.ChartCanvas('tilePane', [new engine.Outlines(window.worldOutlines), new engine.Graticule()]);
+      this.chart = new engine.ChartCanvas('overlayPane', [this.lines, this.points]);
+      this.base.addTo(this.leaflet);
+      this.chart.addTo(this.leaflet);
+      this.addControls(wanted);
+      this.listen();
+      engine.listenToPointer(this);
+    }
+
+    addControls(wanted) {
+      if (wanted.zoomControl !== false)
+        L.control.zoom({ position: 'topright', zoomInTitle: '', zoomOutTitle: '' }).addTo(this.leaflet);
+      if (wanted.scaleControl)
+        new engine.ScaleBar().addTo(this.leaflet);
+    }
+
+    listen() {
+      this.leaflet.on('move', () => {
+        if (this.quiet)
+          return;
+        this.exactCentre = null;
+        maps.event.trigger(this, 'center_changed');
+      });
+      this.leaflet.on('zoomend', () => {
+        if (!this.quiet)
+          maps.event.trigger(this, 'zoom_changed');
+      });
+      ['dragstart', 'dragend'].forEach(name => this.leaflet.on(name, () => maps.event.trigger(this, name)));
+      this.leaflet.on('moveend', () => maps.event.trigger(this, 'idle'));
+      window.addEventListener('resize', () => this.fitWindow());
+    }
+
+    /** Moves the view without the events of a move by the user. */
+    setQuietly(centre, zoom, reset) {
+      this.quiet = true;
+      this.leaflet.setView([centre.lat(), centre.lng()], zoom, { animate: false, reset: reset });
+      this.quiet = false;
+      this.exactCentre = centre;
+    }
+
+    fitWindow() {
+      const centre = this.getCenter();
+      this.quiet = true;
+      this.leaflet.invalidateSize({ animate: false, pan: false });
+      this.quiet = false;
+      this.setQuietly(centre, this.getZoom(), true);
+    }
+
+    /** @return {LatLng} what was set last, to the last digit, as long as the user has not moved the map */
+    getCenter() {
+      if (this.exactCentre)
+        return this.exactCentre;
+      const centre = this.leaflet.getCenter();
+      return new maps.LatLng(centre.lat, centre.lng);
+    }
+
+    /** A position that is no number is ignored. */
+    setCenter(position) {
+      if (!engine.isFinitePosition(position))
+        return;
+      this.setQuietly(position, this.getZoom());
+      maps.event.trigger(this, 'center_changed');
+    }
+
+    panTo(position) {
+      this.setCenter(position);
+    }
+
+    getZoom() {
+      return this.leaflet.getZoom();
+    }
+
+    /** Whole and broken zooms, cut to what the map can show; the centre stays. What is no number is ignored. */
+    setZoom(zoom) {
+      const wanted = Number(zoom);
+      if (isNaN(wanted))
+        return;
+      this.setQuietly(this.getCenter(), Math.max(zoomLimits.least, Math.min(zoomLimits.most, wanted)));
+      maps.event.trigger(this, 'zoom_changed');
+    }
+
+    getDiv() {
+      return this.element;
+    }
+  }
+
+  maps.Map = ChartMap;
+})();

@@ -1,0 +1,133 @@
+/** `google.maps.Marker` for the few things that move by themselves or are dragged: an element of its own on the map. */
+(function () {
+  'use strict';
+  const maps = window.google.maps;
+  const engine = window.mapEngine;
+
+  const names = { click: 'click', contextmenu: 'rightclick', dragstart: 'dragstart', drag: 'drag', dragend: 'dragend' };
+
+  class Marker extends maps.MVCObject {
+    /** @param options position, map, icon (a Symbol), title, draggable, zIndex */
+    constructor(options) {
+      super();
+      this.map = null;
+      this.pin = null;
+      this.dragged = false;
+      this.options = Object.assign({}, options);
+      this.follow = () => this.place();
+      this.setMap(this.options.map);
+    }
+
+    getPosition() {
+      return this.options.position;
+    }
+
+    /** A position that is no number is ignored. */
+    setPosition(position) {
+      if (!engine.isFinitePosition(position))
+        return;
+      this.options.position = position;
+      if (this.map && !this.pin)
+        this.enter();
+      else
+        this.place();
+    }
+
+    getTitle() {
+      return this.options.title;
+    }
+
+    setTitle(title) {
+      this.options.title = title;
+      this.dress();
+    }
+
+    getIcon() {
+      return this.options.icon;
+    }
+
+    setIcon(icon) {
+      this.options.icon = icon;
+      this.dress();
+    }
+
+    getMap() {
+      return this.map;
+    }
+
+    setMap(map) {
+      const next = map || null;
+      if (next === this.map)
+        return;
+      if (this.map)
+        this.leave();
+      this.map = next;
+      if (next && engine.isFinitePosition(this.options.position))
+        this.enter();
+    }
+
+    enter() {
+      this.pin = L.marker([0, 0], {
+        icon: L.divIcon({ className: 'chart-marker', iconSize: null }),
+        draggable: !!this.options.draggable,
+        zIndexOffset: this.options.zIndex || 0,
+        keyboard: false,
+      });
+      Object.keys(names).forEach(name => this.pin.on(name, leafletEvent => this.tell(name, leafletEvent)));
+      this.place();
+      this.pin.addTo(this.map.leaflet);
+      this.dress();
+      this.map.leaflet.on('moveend', this.follow);
+    }
+
+    leave() {
+      this.map.leaflet.off('moveend', this.follow);
+      if (this.pin)
+        this.pin.remove();
+      this.pin = null;
+    }
+
+    /** What nobody listens for on the marker happens on the map below it. */
+    tell(name, leafletEvent) {
+      if (name.indexOf('drag') === 0) {
+        const at = this.pin.getLatLng();
+        this.options.position = new maps.LatLng(at.lat, at.lng);
+        this.dragged = name !== 'dragend';
+      }
+      const target = maps.event.hasListeners(this, names[name]) || this.dragged ? this : this.map;
+      maps.event.trigger(target, names[name], {
+        latLng: this.options.position,
+        domEvent: leafletEvent.originalEvent,
+      });
+    }
+
+    /** In the copy of the world that is in view; a marker in the user's hand stays there. */
+    place() {
+      if (!this.pin || this.dragged)
+        return;
+      const centre = this.map.leaflet.getCenter().lng;
+      const longitude = this.options.position.lng();
+      this.pin.setLatLng([this.options.position.lat(), longitude + 360 * Math.round((centre - longitude) / 360)]);
+    }
+
+    dress() {
+      const element = this.pin && this.pin.getElement();
+      if (!element)
+        return;
+      element.title = this.options.title || '';
+      if (!this.options.icon)
+        return;
+      const drawing = engine.drawSymbol(this.options.icon);
+      Object.assign(drawing.canvas.style, {
+        width: `${drawing.size}px`,
+        height: `${drawing.size}px`,
+        marginLeft: `${-drawing.middle}px`,
+        marginTop: `${-drawing.middle}px`,
+      });
+      element.innerHTML = '';
+      element.appendChild(drawing.canvas);
+    }
+  }
+
+  maps.Marker = Marker;
+})();

@@ -1,0 +1,89 @@
+/**
+ * The mouse on the map: what lies under it gets the event, a point of a data layer before the map itself. The wheel
+ * zooms about the pointer.
+ */
+(function () {
+  'use strict';
+  const maps = window.google.maps;
+  const engine = window.mapEngine;
+
+  /** Wheel travel of one zoom step, in the pixels that Leaflet counts; one notch of a common wheel is at least this. */
+  const wheelStep = 30;
+
+  /** Leaflet's names of the mouse's events and the map service's. */
+  const names = { click: 'click', dblclick: 'dblclick', contextmenu: 'rightclick' };
+
+  function mouseEvent(leafletEvent) {
+    return {
+      latLng: new maps.LatLng(leafletEvent.latlng.lat, leafletEvent.latlng.lng),
+      domEvent: leafletEvent.originalEvent,
+    };
+  }
+
+  function featureAt(map, leafletEvent) {
+    const scale = engine.tileSize * Math.pow(2, map.getZoom());
+    return map.points.nearest(engine.unitX(leafletEvent.latlng.lng), engine.unitY(leafletEvent.latlng.lat), scale);
+  }
+
+  function tell(feature, name, leafletEvent) {
+    maps.event.trigger(feature.layer, name, Object.assign(mouseEvent(leafletEvent), { feature: feature }));
+  }
+
+  function listenToButtons(map) {
+    Object.keys(names).forEach(name => map.leaflet.on(name, leafletEvent => {
+      const feature = featureAt(map, leafletEvent);
+      if (feature)
+        tell(feature, names[name], leafletEvent);
+      else
+        maps.event.trigger(map, names[name], mouseEvent(leafletEvent));
+    }));
+  }
+
+  function listenToMoves(map) {
+    let under = null;
+    const enter = (feature, leafletEvent) => {
+      if (feature === under)
+        return;
+      if (under && under.layer)
+        tell(under, 'mouseout', leafletEvent);
+      under = feature;
+      map.element.classList.toggle('over-point', !!feature);
+      if (feature)
+        tell(feature, 'mouseover', leafletEvent);
+    };
+    map.leaflet.on('mousemove', leafletEvent => {
+      enter(featureAt(map, leafletEvent), leafletEvent);
+      maps.event.trigger(map, 'mousemove', mouseEvent(leafletEvent));
+    });
+    map.leaflet.on('mouseout', leafletEvent => {
+      enter(null, leafletEvent);
+      maps.event.trigger(map, 'mouseout', mouseEvent(leafletEvent));
+    });
+  }
+
+  /** The next whole zoom in the wheel's direction. */
+  function nextZoom(zoom, inwards) {
+    return inwards ? Math.floor(zoom + 1 + 1e-6) : Math.ceil(zoom - 1 - 1e-6);
+  }
+
+  function listenToWheel(map) {
+    const leaflet = map.leaflet;
+    let travel = 0;
+    L.DomEvent.on(map.element, 'wheel', domEvent => {
+      L.DomEvent.stop(domEvent);
+      travel += L.DomEvent.getWheelDelta(domEvent);
+      if (Math.abs(travel) < wheelStep)
+        return;
+      const zoom = Math.max(leaflet.getMinZoom(), Math.min(leaflet.getMaxZoom(), nextZoom(leaflet.getZoom(), travel > 0)));
+      travel = 0;
+      if (zoom !== leaflet.getZoom())
+        leaflet.setZoomAround(leaflet.mouseEventToContainerPoint(domEvent), zoom, { animate: false });
+    });
+  }
+
+  engine.listenToPointer = map => {
+    listenToButtons(map);
+    listenToMoves(map);
+    listenToWheel(map);
+  };
+})();

@@ -1,0 +1,102 @@
+/** Paints the points of all data layers of a map, each as a copy of its symbol's sprite, and finds them by place. */
+(function () {
+  'use strict';
+  const engine = window.mapEngine;
+
+  /** A point answers the mouse this many pixels around its middle. */
+  const touchPixels = 10;
+
+  class Points {
+    constructor() {
+      this.layers = new Set();
+      this.forget();
+    }
+
+    show(layer) {
+      this.layers.add(layer);
+      this.forget();
+    }
+
+    hide(layer) {
+      this.layers.delete(layer);
+      this.forget();
+    }
+
+    /** A layer has changed: the order of drawing and the grid are made anew when they are asked for. */
+    forget() {
+      this.ordered = null;
+      this.grid = null;
+    }
+
+    /** All points, those of a higher zIndex later; within one zIndex as they were added. */
+    inOrder() {
+      if (this.ordered)
+        return this.ordered;
+      const byHeight = new Map();
+      this.layers.forEach(layer => layer.features.forEach(feature => {
+        const height = feature.look.zIndex || 0;
+        const level = byHeight.get(height);
+        if (level)
+          level.push(feature);
+        else
+          byHeight.set(height, [feature]);
+      }));
+      const heights = Array.from(byHeight.keys()).sort((a, b) => a - b);
+      this.ordered = [].concat.apply([], heights.map(height => byHeight.get(height)));
+      this.ordered.forEach((feature, order) => {
+        feature.order = order;
+      });
+      return this.ordered;
+    }
+
+    /** @return the point nearest to a place in unit coordinates, or null when none is near enough to be meant */
+    nearest(x, y, scale) {
+      if (!this.grid)
+        this.grid = new engine.HitGrid(this.inOrder().filter(feature => feature.look.clickable !== false));
+      return this.grid.nearest(x, y, touchPixels / scale);
+    }
+
+    paint(frame) {
+      const points = this.inOrder();
+      const labels = [];
+      for (let world = frame.firstWorld; world <= frame.lastWorld; ++world)
+        this.paintWorld(frame, points, frame.left - world * frame.scale, labels);
+      this.write(frame, labels);
+    }
+
+    paintWorld(frame, points, left, labels) {
+      const context = frame.context;
+      const scale = frame.scale;
+      const top = frame.top;
+      for (let i = 0; i < points.length; ++i) {
+        const point = points[i];
+        const x = point.x * scale - left;
+        const y = point.y * scale - top;
+        const sprite = point.sprite;
+        if (x < -sprite.middle || y < -sprite.middle || x > frame.width + sprite.middle || y > frame.height + sprite.middle)
+          continue;
+        context.drawImage(sprite.canvas, Math.round(x) - sprite.middle, Math.round(y) - sprite.middle, sprite.size, sprite.size);
+        if (point.look.label)
+          labels.push({ x: Math.round(x) + sprite.middle, y: Math.round(y), label: point.look.label });
+      }
+    }
+
+    /** Labels stand right of their symbols, over all of them, with a light rim against whatever lies below. */
+    write(frame, labels) {
+      const context = frame.context;
+      context.textBaseline = 'middle';
+      context.lineJoin = 'round';
+      context.lineWidth = 3;
+      context.strokeStyle = 'rgba(255, 255, 255, 0.85)';
+      labels.forEach(item => {
+        context.font = `${item.label.fontWeight || 'normal'} ${item.label.fontSize || '11px'} sans-serif`;
+        context.strokeText(item.label.text, item.x, item.y);
+        context.fillStyle = item.label.color || '#000';
+        context.fillText(item.label.text, item.x, item.y);
+      });
+      context.textBaseline = 'alphabetic';
+    }
+  }
+
+  engine.Points = Points;
+})();

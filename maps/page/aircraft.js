@@ -1,0 +1,55 @@
+/** The simulator's aircraft. */
+(function () {
+  'use strict';
+
+  const path = 'M 0 -14 L 2 -11 L 2 -5 L 13 2 L 13 5 L 2 2 L 1.5 9 L 5 11.5 L 5 13.5 L 0 12 L -5 13.5 L -5 11.5 L -1.5 9 L -2 2 L -13 5 L -13 2 L -2 -5 L -2 -11 Z';
+  let marker = null;
+  let drawn = NaN;
+
+  function iconFor(heading) {
+    drawn = heading;
+    return { path: path, rotation: heading, fillColor: '#d32f2f', fillOpacity: 1, strokeColor: '#4a0d0d', strokeWeight: 1.2 };
+  }
+
+  page.eraseAircraft = function () {
+    if (marker)
+      marker.setMap(null);
+    marker = null;
+  };
+
+  page.showAircraft = function (position, title, heading) {
+    page.eraseAircraft();
+    marker = new google.maps.Marker({
+      position: position,
+      map: map,
+      icon: iconFor(heading),
+      title: title || pageWords.aircraft,
+      zIndex: 2000,
+    });
+  };
+
+  /** Moves the aircraft; the picture is drawn again only when it turns. */
+  page.moveAircraft = function (position, heading) {
+    if (!marker)
+      return;
+    if (page.isPlace(position))
+      marker.setPosition(position);
+    if (heading !== drawn)
+      marker.setIcon(iconFor(heading));
+  };
+})();
+
+/** Shows the aircraft; the title comes empty. */
+function addAcftMrkr(position, title, heading) {
+  page.showAircraft(position, title, page.heading(heading));
+}
+
+/** Moves the aircraft; comes with every tick of the trace. */
+function setAcftMrkr(position, heading) {
+  page.moveAircraft(position, page.heading(heading));
+}
+
+/** Removes the aircraft. */
+function eraseAcftMrkr() {
+  page.eraseAircraft();
+}

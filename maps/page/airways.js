@@ -1,0 +1,48 @@
+/** Airways by level: "L" low, "H" high, "B" both. */
+(function () {
+  'use strict';
+
+  const colours = { L: '#6d8c3c', H: '#3c6d8c', B: '#7a5c99' };
+  const routes = [];
+  const shown = {};
+
+  /** Opens a new route; what `page.addToAirway` brings next belongs to it. */
+  page.openAirway = function (level) {
+    const line = new google.maps.Polyline({
+      strokeColor: colours[level] || '#666666',
+      strokeWeight: 1.5,
+      strokeOpacity: 0.8,
+      geodesic: true,
+      clickable: false,
+      zIndex: 5,
+    });
+    routes.push({ level: level, line: line });
+    line.setMap(shown[level] ? map : null);
+  };
+
+  /** Without a route there is nothing to add to. */
+  page.addToAirway = function (position) {
+    if (routes.length && page.isPlace(position))
+      routes[routes.length - 1].line.getPath().push(position);
+  };
+
+  page.showAirways = function (level, on) {
+    shown[level] = on;
+    routes.filter(route => route.level === level).forEach(route => route.line.setMap(on ? map : null));
+  };
+})();
+
+/** A new route of a level, told as one character. */
+function addATS(level) {
+  page.openAirway(level);
+}
+
+/** A point of the current route. The program's script closes the bracket early, so its second value never comes. */
+function addToATS(position) {
+  page.addToAirway(position);
+}
+
+/** Shows (1) or hides (0) the routes of a level, those that come later too. */
+function showATS(level, on) {
+  page.showAirways(level, !!on);
+}

@@ -1,0 +1,78 @@
+/** Single markers after an edit in the program's dialogs, and the end of the marker last used. */
+
+/** The marker that the user clicked last, with either button. */
+var theLast = null;
+
+(function () {
+  'use strict';
+
+  /** The layer that holds a marker, or null. */
+  function layerOf(marker) {
+    return page.layers.find(layer => layer.list.indexOf(marker) >= 0) || null;
+  }
+
+  function removeMarker(marker) {
+    const layer = layerOf(marker);
+    if (!layer)
+      return;
+    layer.list.splice(layer.list.indexOf(marker), 1);
+    layer.manager().removeMarker(marker);
+    page.closePopup(marker);
+  }
+
+  /** An edited row comes again under its key: its former marker goes. */
+  function takePredecessor(marker) {
+    const key = marker.key();
+    let found = null;
+    page.layers.forEach(layer => layer.list.forEach(other => {
+      if (other !== marker && other.family === marker.family && key && other.key() === key)
+        found = other;
+    }));
+    if (found)
+      removeMarker(found);
+    return found;
+  }
+
+  /** Shows a marker at once, whether its layer is to be seen or not. */
+  page.showEdited = function (marker) {
+    if (!marker)
+      return null;
+    const former = takePredecessor(marker);
+    // The dialog sends a navaid's usage where the feed has its type, so only the former marker knows the symbol.
+    if (former && listVOR.indexOf(marker) >= 0 && former.symbol.indexOf('ndb') !== 0)
+      marker.symbol = former.symbol;
+    layerOf(marker).manager().addMarker(marker);
+    return marker;
+  };
+
+  page.removeLast = function () {
+    if (theLast)
+      removeMarker(theLast);
+    theLast = null;
+  };
+})();
+
+/** A VOR after an edit. The number is the usage, not the type: a new one gets the plain symbol. */
+function addVORMarker2(position, title, use, html) {
+  return page.showEdited(page.collect(listVOR, 'navaid', 'vor', position, title, html));
+}
+
+/** An NDB after an edit. */
+function addNDBMarker2(position, title, use, html) {
+  return page.showEdited(addNDBMarker(position, title, use, html));
+}
+
+/** A waypoint after an edit. */
+function addWPTMarker2(position, title, use, html) {
+  return page.showEdited(addWPTMarker(position, title, use, html));
+}
+
+/** Removes the marker last used: the program has deleted its navaid. */
+function delNavaid() {
+  page.removeLast();
+}
+
+/** Removes the marker last used: the program has deleted its waypoint. */
+function delWaypoint() {
+  page.removeLast();
+}

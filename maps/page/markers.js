@@ -1,0 +1,77 @@
+/** The markers of the feed: every row of the databases that the map can show, sorted into the lists of the layers. */
+
+var listApt = [];
+var listVOR = [];
+var listNDBRte = [];
+var listNDBTerm = [];
+var listWptRte = [];
+var listWptTerm = [];
+var listWptVfr = [];
+
+(function () {
+  'use strict';
+
+  /** Usage numbers as the databases hold them, for navaids and waypoints alike; all others are en route. */
+  const usage = { terminal: 4, rnav: 5, vfr: 6 };
+
+  /** What a marker stands for; decides the commands of its menu. */
+  page.families = { airport: 'airport', navaid: 'navaid', waypoint: 'waypoint' };
+
+  /**
+   * One marker. The title joins it to its row: `iden` of an airport, `iden-ukey` of a navaid, `name-ukey` of a waypoint.
+   * It is text and never markup; the HTML is that of the pop-up.
+   */
+  class ChartMarker {
+    constructor(family, symbol, position, title, html) {
+      this.family = family;
+      this.symbol = symbol;
+      this.position = position;
+      this.title = String(title);
+      this.html = String(html);
+    }
+
+    /** @return {string} the key of the row behind the last "-" of the title; empty for an airport */
+    key() {
+      return this.family === page.families.airport ? '' : this.title.slice(this.title.lastIndexOf('-') + 1);
+    }
+  }
+
+  /** Makes a marker and puts it into a list. @return {?ChartMarker} null without a place to draw it */
+  page.collect = function (list, family, symbol, position, title, html) {
+    if (!page.isPlace(position))
+      return null;
+    const marker = new ChartMarker(family, symbol, position, title, html);
+    list.push(marker);
+    return marker;
+  };
+
+  page.ndbIsTerminal = use => use === usage.terminal;
+
+  page.waypointList = use => (use === usage.terminal ? listWptTerm : use === usage.vfr ? listWptVfr : listWptRte);
+
+  page.waypointSymbol = use => (use === usage.terminal ? 'waypointTerminal'
+    : use === usage.vfr ? 'waypointVfr'
+      : use === usage.rnav ? 'waypointRnav' : 'waypointRoute');
+})();
+
+/** The number is always 1. */
+function addAPTMarker(position, title, number, html) {
+  return page.collect(listApt, 'airport', 'airport', position, title, html);
+}
+
+/** A VOR, TACAN or DME; its type decides its symbol. */
+function addVORMarker(position, title, type, html) {
+  return page.collect(listVOR, 'navaid', page.vorSymbol(type), position, title, html);
+}
+
+/** An NDB; its usage decides its layer. */
+function addNDBMarker(position, title, use, html) {
+  return page.ndbIsTerminal(use)
+    ? page.collect(listNDBTerm, 'navaid', 'ndbTerminal', position, title, html)
+    : page.collect(listNDBRte, 'navaid', 'ndbRoute', position, title, html);
+}
+
+/** A waypoint; its usage decides its layer. */
+function addWPTMarker(position, title, use, html) {
+  return page.collect(page.waypointList(use), 'waypoint', page.waypointSymbol(use), position, title, html);
+}

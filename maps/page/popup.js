@@ -1,0 +1,53 @@
+/** The pop-up of a marker: the HTML text that the program sent with it. */
+(function () {
+  'use strict';
+
+  const infoWindow = new google.maps.InfoWindow();
+  let shown = null;
+
+  /** What the program's texts are made of. Anything else in them came with a name and is shown as its text. */
+  const allowed = ['B', 'BR', 'FONT', 'I', 'U'];
+
+  /** Copies the children of a node, with the allowed elements only, colours being their only attribute. */
+  function copyChildren(from, to) {
+    Array.from(from.childNodes).forEach(node => {
+      if (node.nodeType === Node.TEXT_NODE) {
+        to.appendChild(document.createTextNode(node.nodeValue));
+      } else if (node.nodeType === Node.ELEMENT_NODE) {
+        const known = allowed.indexOf(node.nodeName) >= 0;
+        const target = known ? to.appendChild(document.createElement(node.nodeName)) : to;
+        if (known && node.hasAttribute('color'))
+          target.setAttribute('color', node.getAttribute('color'));
+        copyChildren(node, target);
+      }
+    });
+  }
+
+  /** Reads the text in a document of its own, in which nothing loads and nothing runs. */
+  function contentOf(html) {
+    const reader = document.implementation.createHTMLDocument('');
+    reader.body.innerHTML = html;
+    const content = document.createElement('div');
+    content.className = 'popup-text';
+    copyChildren(reader.body, content);
+    return content;
+  }
+
+  page.openPopup = function (marker) {
+    shown = marker;
+    infoWindow.close();
+    infoWindow.setContent(contentOf(marker.html));
+    infoWindow.setPosition(marker.position);
+    infoWindow.open(map);
+  };
+
+  /** Closes the pop-up if it is that of the marker; without a marker in any case. */
+  page.closePopup = function (marker) {
+    if (marker && marker !== shown)
+      return;
+    shown = null;
+    infoWindow.close();
+  };
+
+  google.maps.event.addListener(map, 'click', () => page.closePopup());
+})();

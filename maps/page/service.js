@@ -1,0 +1,49 @@
+/**
+ * Where the map comes from. With an address the page takes an outside map service, without one (as shipped) the map
+ * engine that lies beside the page. A service that does not come within the wait is given up: the page starts again
+ * with the engine, and the program feeds the new page as it feeds any.
+ */
+var mapService = {
+  /** The address of the service's script, without the key; empty: no service. */
+  address: '',
+  /** The key that the service asks for; empty: none is sent. */
+  key: '',
+  /** Seconds after which the service is given up. */
+  wait: 4,
+};
+
+(function () {
+  'use strict';
+  const withEngine = '?engine';
+
+  function startAgainWithEngine() {
+    window.location.replace(window.location.href.replace(/[?#].*$/, '') + withEngine);
+  }
+
+  function scriptAddress() {
+    const mark = mapService.address.indexOf('?') < 0 ? '?' : '&';
+    return mapService.key ? `${mapService.address}${mark}key=${encodeURIComponent(mapService.key)}` : mapService.address;
+  }
+
+  /**
+   * Writes the script of the service, or the engine, into the page. Both run before the scripts that follow, so that
+   * `google.maps` stands when these need it, and the program's load event comes after all of them.
+   */
+  window.loadMapService = function () {
+    if (!mapService.address || window.location.search === withEngine) {
+      loadMapEngine();
+      return;
+    }
+    mapService.timer = window.setTimeout(startAgainWithEngine, mapService.wait * 1000);
+    const element = document.createElement('script');
+    element.src = scriptAddress();
+    document.write(element.outerHTML);
+  };
+
+  /** Runs behind the service's script: takes the engine when the service has answered, but not with a map. */
+  window.settleMapService = function () {
+    window.clearTimeout(mapService.timer);
+    if (!(window.google && window.google.maps && window.google.maps.Map))
+      loadMapEngine();
+  };
+})();

@@ -1,0 +1,41 @@
+/** The start position of the flight: one marker, which the user may drag. */
+(function () {
+  'use strict';
+
+  const path = 'M 0 -15 L 4 -4 L 11 2 L 11 5 L 3 3 L 2 9 L 5 12 L 5 14 L 0 12.5 L -5 14 L -5 12 L -2 9 L -3 3 L -11 5 L -11 2 L -4 -4 Z';
+  let marker = null;
+
+  function iconFor(heading) {
+    return { path: path, rotation: heading, fillColor: '#f2a900', fillOpacity: 1, strokeColor: '#5b3d00', strokeWeight: 1.4 };
+  }
+
+  /** Puts the marker to a place; there is never more than one. */
+  page.setStart = function (position, aircraft, heading) {
+    if (!page.isPlace(position))
+      return;
+    const title = `${pageWords.start} ${aircraft}`.trim();
+    if (marker) {
+      marker.setPosition(position);
+      marker.setTitle(title);
+      marker.setIcon(iconFor(heading));
+      return;
+    }
+    marker = new google.maps.Marker({
+      position: position,
+      map: map,
+      icon: iconFor(heading),
+      title: title,
+      draggable: true,
+      zIndex: 1000,
+    });
+    google.maps.event.addListener(marker, 'dragend', () => {
+      const place = marker.getPosition();
+      page.call('doMoveSIT', place.lat(), place.lng());
+    });
+  };
+})();
+
+/** Shows the start marker: the place, the aircraft's name, the heading in degrees. */
+function addSitMarker(position, aircraft, heading) {
+  page.setStart(position, aircraft, page.heading(heading));
+}
