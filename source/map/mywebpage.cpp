@@ -9,6 +9,11 @@ myWebPage::myWebPage(QObject* parent) : QWebPage(parent)
     QWebSettings::setMaximumPagesInCache(0);
 }
 
+bool myWebPage::supportsExtension(Extension extension) const
+{
+    return extension != ErrorPageExtension && QWebPage::supportsExtension(extension);
+}
+
 void myWebPage::javaScriptAlert(QWebFrame* frame, const QString& msg)
 {
     Q_UNUSED(frame)

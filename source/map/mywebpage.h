@@ -10,6 +10,9 @@ class myWebPage : public QWebPage
 public:
     explicit myWebPage(QObject* parent = nullptr);
 
+    /// False for the engine's own error page: a missing map page leaves the map blank.
+    bool supportsExtension(Extension extension) const override;
+
 public slots:
     void javaScriptAlert(QWebFrame* frame, const QString& msg) override;
 

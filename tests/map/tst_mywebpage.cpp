@@ -50,6 +50,16 @@ private slots:
         QVERIFY(QApplication::activeModalWidget() == nullptr);
     }
 
+    void aMissingPageLeavesNothingToSee()
+    {
+        OpenPage page;
+        QSignalSpy finished(&page, &QWebPage::loadFinished);
+        page.mainFrame()->load(QUrl::fromLocalFile("/no/such/folder/gm_trajector_fr.html"));
+        QTRY_COMPARE(finished.count(), 1);
+        QCOMPARE(finished.at(0).at(0).toBool(), false);
+        QCOMPARE(page.mainFrame()->toPlainText(), QString());
+    }
+
     void noPageStaysInTheCache()
     {
         QWebSettings::setMaximumPagesInCache(3);
