@@ -1,0 +1,88 @@
+// The feed of the map page, against a bare loop that reads the same columns of the same rows and does nothing with
+// them.
+#include "benchwindow.h"
+#include "cnavglobalvar.h"
+#include "mainwindow.h"
+#include "measure.h"
+
+#include <QApplication>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+namespace {
+
+constexpr int rounds = 5;
+
+/// The page keeps what it was fed; each round starts from the state that a load of the page gives.
+const char* const emptyPage = R"js(
+    [ArptMgr, VORMgr, NDBRteMgr, NDBTermMgr, WPTRteMgr, WPTTermMgr, WPTVfrMgr].forEach(function (manager) {
+        manager.clearMarkers();
+    });
+    [listApt, listVOR, listNDBRte, listNDBTerm, listWptRte, listWptTerm, listWptVfr].forEach(function (list) {
+        list.length = 0;
+    });
+)js";
+
+struct Stage
+{
+    QString connection;
+    QString statement;
+    int countryColumn;
+    QVector<int> columns; ///< read of the rows that the map shows
+};
+
+QVector<Stage> stages()
+{
+    const CNavGlobalVar* global = CNavGlobalVar::instance();
+    return {{global->dbGEN, "SELECT * from APT;", 5, {3, 4, 9, 10}},
+            {global->dbGEN, "SELECT * from NAV;", 7, {1, 2, 3, 4, 9, 11, 12, 13}},
+            {global->dbWPT, "SELECT * FROM WPT WHERE wloc = 78;", 4, {1, 2, 3, 8, 9, 10}}};
+}
+
+/// Returns the number of rows of the map, so that the reading is not thrown away.
+int readBare(const QVector<Stage>& all)
+{
+    int shown = 0;
+    for (const Stage& stage : all) {
+        QSqlQuery query(QSqlDatabase::database(stage.connection));
+        query.exec(stage.statement);
+        while (query.next()) {
+            if (query.value(stage.countryColumn).toString() != QLatin1String("FR")) {
+                continue;
+            }
+            ++shown;
+            for (int column : stage.columns) {
+                const QVariant value = query.value(column);
+                Q_UNUSED(value)
+            }
+        }
+    }
+    return shown;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    enterSimulator(application.arguments().value(1));
+    MainWindow window;
+    window.show();
+    waitUntilLoaded(window);
+
+    std::vector<double> times;
+    for (int round = 0; round < rounds; ++round) {
+        window.runMapScript(emptyPage);
+        times.push_back(elapsedMs([&] { QMetaObject::invokeMethod(&window, "readDataFromDB"); }));
+    }
+    const double feed = median(times);
+
+    int shown = 0;
+    const QVector<Stage> all = stages();
+    const double bare = medianMs(rounds, [&] { shown = readBare(all); });
+
+    printFigure("rows that the map shows", shown, "");
+    printFigure("readDataFromDB", feed, "ms");
+    printFigure("the same rows by a bare QSqlQuery loop", bare, "ms");
+    printFigure("ratio", feed / bare, "");
+}
