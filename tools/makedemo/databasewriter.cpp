@@ -25,7 +25,8 @@ struct TableKeys
 const TableKeys tableKeys[] = {
     {"GEN", "APT", "ukey", "iden,name"},
     {"GEN", "COM", "ckey", "capt,cnam"},
-    {"GEN", "RWY", "rapt,nseq", ""},
+    // A near search asks for the runways of each airport found: LIKE goes by an index only where that has no case.
+    {"GEN", "RWY", "rapt,nseq", "rapt COLLATE NOCASE"},
     {"GEN", "ILS", "ikey", "iapt,iils,name"},
     {"GEN", "NAV", "ukey", "iden,name"},
     {"GEN", "CTY", "cuid", ""},
@@ -160,9 +161,11 @@ void DatabaseWriter::finish()
         const TableKeys* keys = keysOf(databaseLayout.group, table.name);
         if (keys == nullptr)
             continue;
-        for (const QString& column : QString::fromLatin1(keys->lookups).split(QLatin1Char(','), Qt::SkipEmptyParts))
+        for (const QString& lookup : QString::fromLatin1(keys->lookups).split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+            const QString column = lookup.section(QLatin1Char(' '), 0, 0);
             execute(QStringLiteral("CREATE INDEX %1 ON %2 (%3)")
-                        .arg(quoted(table.name + QLatin1Char('_') + column), quoted(table.name), quoted(column)));
+                        .arg(quoted(table.name + QLatin1Char('_') + column), quoted(table.name), lookup));
+        }
     }
     prepared.clear();
     execute(QStringLiteral("COMMIT"));
