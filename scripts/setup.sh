@@ -101,7 +101,10 @@ set_up_page_packages() {
     [ "$done_mark" -nt "$lock" ] && return 0
     command -v npm >/dev/null || { say 'no npm: the map page cannot be built'; return 0; }
     say 'fetching what the map page is built from'
-    (cd "$root" && npm ci --no-audit --no-fund --ignore-scripts </dev/null)
+    (cd "$root" && npm ci --no-audit --no-fund --ignore-scripts </dev/null) || {
+        say 'npm could not fetch them; is there a way to the network?'
+        return 1
+    }
 }
 
 wanted=$wanted_always
