@@ -137,12 +137,12 @@ QString fill(const Writers& writers, const DemoSize& size)
 {
     OwnTables own;
     for (const QString& name : QDir(updatesFolder).entryList(QDir::Files, QDir::Name)) {
-        const QString error = applyUpdates(updatesFolder + QLatin1Char('/') + name, writers, own);
+        QString error = applyUpdates(updatesFolder + QLatin1Char('/') + name, writers, own);
         if (!error.isEmpty())
             return error;
     }
     for (const QString& name : QDir(tablesFolder).entryList(QDir::Files, QDir::Name)) {
-        const QString error = applyTable(tablesFolder + QLatin1Char('/') + name, writers);
+        QString error = applyTable(tablesFolder + QLatin1Char('/') + name, writers);
         if (!error.isEmpty())
             return error;
     }
@@ -163,7 +163,7 @@ QString writeDemoDatabases(const QDir& folder, const DemoSize& size)
     for (const DatabaseLayout& layout : databaseLayouts())
         writers.push_back(
             std::make_unique<DatabaseWriter>(folder.filePath(layout.prefix + QStringLiteral(".db")), layout));
-    const QString error = fill(writers, size);
+    QString error = fill(writers, size);
     if (!error.isEmpty())
         return error;
     for (const auto& writer : writers) {

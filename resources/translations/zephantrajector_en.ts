@@ -1,0 +1,515 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="fr">
+<context>
+    <name>CFlightPlan</name>
+    <message>
+        <source>Ouvrir un plan de vol existant</source>
+        <translation>Open an existing flight plan</translation>
+    </message>
+    <message>
+        <source>Fichier plan de vol (*.fpl)</source>
+        <translation>Flight plan file (*.fpl)</translation>
+    </message>
+    <message>
+        <source>Chargement plan de vol</source>
+        <translation>Load flight plan</translation>
+    </message>
+    <message>
+        <source>Le fichier %1 n&apos;est pas un plan de vol : il ne contient aucun point</source>
+        <translation>The file %1 is no flight plan: it holds no point</translation>
+    </message>
+    <message>
+        <source>Le plan de vol %1 est endommagé, champs ignorés : %2</source>
+        <translation>The flight plan %1 is damaged, fields ignored: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Zephan Trajector</source>
+        <translation>Zephan Trajector</translation>
+    </message>
+    <message>
+        <source>about:blank</source>
+        <translation>about:blank</translation>
+    </message>
+    <message>
+        <source>Plan de vol</source>
+        <translation>Flight plan</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>A propos</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>Recherche</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Exact</source>
+        <translation>Exact</translation>
+    </message>
+    <message>
+        <source>Approx.</source>
+        <translation>Approx.</translation>
+    </message>
+    <message>
+        <source>Nouveau</source>
+        <translation>New</translation>
+    </message>
+    <message>
+        <source>Ctrl+L</source>
+        <translation>Ctrl+L</translation>
+    </message>
+    <message>
+        <source>Enregistrer</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Charger</source>
+        <translation>Load</translation>
+    </message>
+    <message>
+        <source>Départ</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>SID</source>
+        <translation>SID</translation>
+    </message>
+    <message>
+        <source>STAR</source>
+        <translation>STAR</translation>
+    </message>
+    <message>
+        <source>POD</source>
+        <translation>POD</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>Track</translation>
+    </message>
+    <message>
+        <source>Centre avion</source>
+        <translation>Centre aircraft</translation>
+    </message>
+    <message>
+        <source>Nom</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Point de report</source>
+        <translation>Waypoint</translation>
+    </message>
+    <message>
+        <source>Ajouter au plan de vol</source>
+        <translation>Add to flight plan</translation>
+    </message>
+    <message>
+        <source>Supprimer</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Supprimer tout</source>
+        <translation>Delete all</translation>
+    </message>
+    <message>
+        <source>Avion</source>
+        <translation>Aircraft</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Vitesse de croisère maxi(kts)</source>
+        <translation>Maximum cruise speed (kts)</translation>
+    </message>
+    <message>
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message>
+        <source>Vitesse de croisière (kts)</source>
+        <translation>Cruise speed (kts)</translation>
+    </message>
+    <message>
+        <source>Vitesse en approche (kts)</source>
+        <translation>Approach speed (kts)</translation>
+    </message>
+    <message>
+        <source>Vitesse acensionnelle (ft/mn)</source>
+        <translation>Rate of climb (ft/min)</translation>
+    </message>
+    <message>
+        <source>Plafond (ft)</source>
+        <translation>Ceiling (ft)</translation>
+    </message>
+    <message>
+        <source>Altitude maxi de croisière (ft)</source>
+        <translation>Maximum cruise altitude (ft)</translation>
+    </message>
+    <message>
+        <source>Immatriculation</source>
+        <translation>Registration</translation>
+    </message>
+    <message>
+        <source>Debug info</source>
+        <translation>Debug info</translation>
+    </message>
+    <message>
+        <source>toolBar</source>
+        <translation>toolBar</translation>
+    </message>
+    <message>
+        <source>Nouveau plan de vol</source>
+        <translation>New flight plan</translation>
+    </message>
+    <message>
+        <source>Ctrl+N</source>
+        <translation>Ctrl+N</translation>
+    </message>
+    <message>
+        <source>Enregistrer le plan de vol</source>
+        <translation>Save flight plan</translation>
+    </message>
+    <message>
+        <source>Ctrl+S</source>
+        <translation>Ctrl+S</translation>
+    </message>
+    <message>
+        <source>Charger un plan de vol</source>
+        <translation>Load flight plan</translation>
+    </message>
+    <message>
+        <source>Quitter</source>
+        <translation>Quit</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Importer mise à jour</source>
+        <translation>Import update</translation>
+    </message>
+    <message>
+        <source>A propos de Qt</source>
+        <translation>About Qt</translation>
+    </message>
+    <message>
+        <source>Sélectionner le répertoire de Aeo Zephan</source>
+        <translation>Select the Aeo Zephan folder</translation>
+    </message>
+    <message>
+        <source>Sélectionner le répertoire de travail</source>
+        <translation>Select the work folder</translation>
+    </message>
+    <message>
+        <source>Zephan Trajector - Version %1</source>
+        <translation>Zephan Trajector - Version %1</translation>
+    </message>
+    <message>
+        <source>Ouvrir un POD</source>
+        <translation>Open a POD</translation>
+    </message>
+    <message>
+        <source>Fichier POD (*pod)</source>
+        <translation>POD file (*pod)</translation>
+    </message>
+    <message>
+        <source>SID : %1</source>
+        <translation>SID: %1</translation>
+    </message>
+    <message>
+        <source>STAR : %1</source>
+        <translation>STAR: %1</translation>
+    </message>
+    <message>
+        <source>Voulez vous effacer le plan de vol en cours ?</source>
+        <translation>Do you want to clear the current flight plan?</translation>
+    </message>
+    <message>
+        <source>SID : </source>
+        <translation>SID: </translation>
+    </message>
+    <message>
+        <source>STAR : </source>
+        <translation>STAR: </translation>
+    </message>
+    <message>
+        <source>Enregistrement plan de vol</source>
+        <translation>Save flight plan</translation>
+    </message>
+    <message>
+        <source>Un plan de vol doit comporté au moins deux points</source>
+        <translation>A flight plan needs at least two points</translation>
+    </message>
+    <message>
+        <source>Le plan de vol %1 a été enregistré</source>
+        <translation>The flight plan %1 has been saved</translation>
+    </message>
+    <message>
+        <source>Enregistrement point de départ</source>
+        <translation>Save start position</translation>
+    </message>
+    <message>
+        <source>Vous devez choisir un aéroport en première ligne.</source>
+        <translation>The first line must be an airport.</translation>
+    </message>
+    <message>
+        <source>Voulez vous définir %1 comme départ dans AeoZephan ?</source>
+        <translation>Do you want AeoZephan to start at %1?</translation>
+    </message>
+    <message>
+        <source>Enregistrement position initiale</source>
+        <translation>Save initial position</translation>
+    </message>
+    <message>
+        <source>Airport: %1 éléments chargés</source>
+        <translation>Airport: %1 items loaded</translation>
+    </message>
+    <message>
+        <source>Navaid: %1 éléments chargés</source>
+        <translation>Navaid: %1 items loaded</translation>
+    </message>
+    <message>
+        <source>Waypoint: %1 élément chargés</source>
+        <translation>Waypoint: %1 items loaded</translation>
+    </message>
+    <message>
+        <source>ATS: %1 élément chargés</source>
+        <translation>ATS: %1 items loaded</translation>
+    </message>
+    <message>
+        <source>OACI</source>
+        <translation>ICAO</translation>
+    </message>
+    <message>
+        <source>Pays</source>
+        <translation>Country</translation>
+    </message>
+    <message>
+        <source>Clé unique</source>
+        <translation>Unique key</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Fréq.</source>
+        <translation>Freq.</translation>
+    </message>
+    <message>
+        <source>Vitesse</source>
+        <translation>Speed</translation>
+    </message>
+    <message>
+        <source>Route</source>
+        <translation>Course</translation>
+    </message>
+    <message>
+        <source>Dist</source>
+        <translation>Dist</translation>
+    </message>
+    <message>
+        <source>Durée</source>
+        <translation>ETE</translation>
+    </message>
+    <message>
+        <source>Temps</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>Altitude</source>
+        <translation>Altitude</translation>
+    </message>
+    <message>
+        <source>Lat.</source>
+        <translation>Lat.</translation>
+    </message>
+    <message>
+        <source>Long.</source>
+        <translation>Long.</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitude</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitude</translation>
+    </message>
+    <message>
+        <source>Centrer sur ce point</source>
+        <translation>Centre on this point</translation>
+    </message>
+    <message>
+        <source>Supprimer la ligne</source>
+        <translation>Delete line</translation>
+    </message>
+    <message>
+        <source>Monter la ligne</source>
+        <translation>Move line up</translation>
+    </message>
+    <message>
+        <source>Descendre la ligne</source>
+        <translation>Move line down</translation>
+    </message>
+    <message>
+        <source>A propos de Zephan Trajector</source>
+        <translation>About Zephan Trajector</translation>
+    </message>
+    <message>
+        <source>Zephan Trajector
+version %1</source>
+        <translation>Zephan Trajector
+version %1</translation>
+    </message>
+    <message>
+        <source>Chargement terminé</source>
+        <translation>Loading finished</translation>
+    </message>
+    <message>
+        <source>Centre: %1  %2
+ %3 %4
+%5 %6</source>
+        <translation>Centre: %1  %2
+ %3 %4
+%5 %6</translation>
+    </message>
+    <message>
+        <source>Aéroport</source>
+        <translation>Airport</translation>
+    </message>
+    <message>
+        <source>Affiche les aéroports</source>
+        <translation>Shows the airports</translation>
+    </message>
+    <message>
+        <source>VOR</source>
+        <translation>VOR</translation>
+    </message>
+    <message>
+        <source>Affiche les VOR</source>
+        <translation>Shows the VOR</translation>
+    </message>
+    <message>
+        <source>NDB Rte</source>
+        <translation>NDB Rte</translation>
+    </message>
+    <message>
+        <source>Affiche les NDB en route</source>
+        <translation>Shows the en route NDB</translation>
+    </message>
+    <message>
+        <source>NDB Ter</source>
+        <translation>NDB Ter</translation>
+    </message>
+    <message>
+        <source>Affiche les NDB terminaux</source>
+        <translation>Shows the terminal NDB</translation>
+    </message>
+    <message>
+        <source>Waypoint en route</source>
+        <translation>En route waypoints</translation>
+    </message>
+    <message>
+        <source>Affiche les points de report en route</source>
+        <translation>Shows the en route waypoints</translation>
+    </message>
+    <message>
+        <source>Waypoint terminaux</source>
+        <translation>Terminal waypoints</translation>
+    </message>
+    <message>
+        <source>Affiche les points de report terminaux</source>
+        <translation>Shows the terminal waypoints</translation>
+    </message>
+    <message>
+        <source>Waypoint VFR</source>
+        <translation>VFR waypoints</translation>
+    </message>
+    <message>
+        <source>Affiche les points de report VFR</source>
+        <translation>Shows the VFR waypoints</translation>
+    </message>
+    <message>
+        <source>ATS Low</source>
+        <translation>ATS Low</translation>
+    </message>
+    <message>
+        <source>Affiche les routes basse altitude</source>
+        <translation>Shows the low altitude airways</translation>
+    </message>
+    <message>
+        <source>ATS High</source>
+        <translation>ATS High</translation>
+    </message>
+    <message>
+        <source>Affiche les routes haute altitude</source>
+        <translation>Shows the high altitude airways</translation>
+    </message>
+    <message>
+        <source>ATS High/Low</source>
+        <translation>ATS High/Low</translation>
+    </message>
+    <message>
+        <source>Affiche les routes mixtes</source>
+        <translation>Shows the airways of both levels</translation>
+    </message>
+    <message>
+        <source>Zone de contôle</source>
+        <translation>Control zones</translation>
+    </message>
+    <message>
+        <source>Affiche les zones de contrôle</source>
+        <translation>Shows the control zones</translation>
+    </message>
+    <message>
+        <source>Plein écran</source>
+        <translation>Full screen</translation>
+    </message>
+    <message>
+        <source>Mode plein écran</source>
+        <translation>Full screen mode</translation>
+    </message>
+</context>
+<context>
+    <name>SqlMgr</name>
+    <message>
+        <source>SQL Error</source>
+        <translation>SQL error</translation>
+    </message>
+    <message>
+        <source>Ouverture de la base de données impossible.</source>
+        <translation>The database cannot be opened.</translation>
+    </message>
+    <message>
+        <source>Impossible d&quot;établir la connexion avec %1.</source>
+        <translation>Cannot connect to %1.</translation>
+    </message>
+    <message>
+        <source>Erreur de version de base de données</source>
+        <translation>Database version error</translation>
+    </message>
+    <message>
+        <source>M3D : La version attendue est %1.
+La version trouvée est %2.
+Le programme va s&apos;arréter.</source>
+        <translation>M3D: the version expected is %1.
+The version found is %2.
+The program will now end.</translation>
+    </message>
+</context>
+</TS>
