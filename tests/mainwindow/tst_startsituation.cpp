@@ -168,6 +168,16 @@ private slots:
                     .contains("\t\t22 48' 00.00\" S\n\t\t043 12' 00.00\" W\n\t\t27\n"));
     }
 
+    void aStartNorthAndWestIsKept()
+    {
+        win->add({"KSFO"});
+        win->window->findChild<QSpinBox*>("spInertial")->setValue(90);
+        save("KSFO");
+        QCOMPARE(win->plan().startLine.heading, 90.0);
+        QVERIFY(win->sandbox.readFile("Saved Simulations/SAN FRANCISCO INTL.SIT")
+                    .contains("\t\t37 42' 00.00\" N\n\t\t122 24' 00.00\" W\n\t\t12\n"));
+    }
+
     void anUnknownStartIsTakenFromTheRunways()
     {
         // A plan out of a file right after the start of the program.
