@@ -99,26 +99,34 @@ void TestPopulation::airportMarkers()
 
 void TestPopulation::vorMarkers()
 {
-    sandbox->addNavaid({{"ukey", "RBT1"}, {"nuse", 3}});
+    sandbox->addNavaid({{"ukey", "RBT1"}, {"nuse", 3}, {"nlat", 48.5 * 3600}, {"nlon", 1.75 * 3600}});
     sandbox->addNavaid({{"ukey", "CPT"}, {"ctry", "UK"}});
     load();
     QCOMPARE(calls("addVORMarker"),
-             QStringList{"addVORMarker(LatLng(48.65,1.98333),\"RBT-RBT1\",6,\"<font color=blue><b>VOR RBT</b><font "
-                         "color=black><br/>RAMBOUILLET<br/>114.7 Mhz<br/>48 39' 00.00 N - 001 59' 00.00 E\")"});
+             QStringList{"addVORMarker(LatLng(48.5,1.75),\"RBT-RBT1\",6,\"<font color=blue><b>VOR RBT</b><font "
+                         "color=black><br/>RAMBOUILLET<br/>114.7 Mhz<br/>48 30' 00.00 N - 001 45' 00.00 E\")"});
     QCOMPARE(session->page().titles("listVOR"), QStringList{"RBT-RBT1"});
 }
 
 void TestPopulation::ndbMarkers()
 {
-    sandbox->addNavaid(
-        {{"ukey", "ORW1"}, {"iden", "ORW"}, {"name", "ORLY W"}, {"ntyp", 8}, {"nuse", 5}, {"nfrq", 402}});
+    sandbox->addNavaid({{"ukey", "ORW1"},
+                        {"iden", "ORW"},
+                        {"name", "ORLY W"},
+                        {"ntyp", 8},
+                        {"nuse", 4},
+                        {"nfrq", 402},
+                        {"nlat", 48.5 * 3600},
+                        {"nlon", 1.75 * 3600}});
+    sandbox->addNavaid({{"ukey", "EN"}, {"ntyp", 8}, {"nuse", 1}});
     load();
     QCOMPARE(calls("addVORMarker"), QStringList());
-    QCOMPARE(calls("addNDBMarker"),
-             QStringList{"addNDBMarker(LatLng(48.65,1.98333),\"ORW-ORW1\",5,\"<font color=blue><b>NDB ORW</b><font "
-                         "color=black><br/>ORLY W<br/>402 Khz<br/>48 39' 00.00 N - 001 59' 00.00 E\")"});
+    QCOMPARE(calls("addNDBMarker").size(), 2);
+    QCOMPARE(calls("addNDBMarker").first(),
+             QString("addNDBMarker(LatLng(48.5,1.75),\"ORW-ORW1\",4,\"<font color=blue><b>NDB ORW</b><font "
+                     "color=black><br/>ORLY W<br/>402 Khz<br/>48 30' 00.00 N - 001 45' 00.00 E\")"));
     QCOMPARE(session->page().titles("listNDBTerm"), QStringList{"ORW-ORW1"});
-    QCOMPARE(session->page().titles("listNDBRte"), QStringList());
+    QCOMPARE(session->page().titles("listNDBRte"), QStringList{"RBT-EN"});
 }
 
 void TestPopulation::waypointMarkers()

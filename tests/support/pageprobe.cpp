@@ -161,7 +161,7 @@ QVariant PageProbe::evaluate(const QString& script)
 
 QStringList PageProbe::titles(const QString& list)
 {
-    return evaluate(list + ".map(function (marker) { return marker.getTitle(); })").toStringList();
+    return evaluate(list + ".map(function (marker) { return marker.title; })").toStringList();
 }
 
 QPoint PageProbe::pointOf(double latitude, double longitude)

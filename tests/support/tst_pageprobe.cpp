@@ -22,7 +22,7 @@ var map = {
 let listVOR = [];
 var VORMgr;
 let addNavMgr = function () { VORMgr = {addMarkers: function (list) { this.n = list.length; }, clearMarkers: function () {}}; };
-function addVORMarker(position, title, type, html) { listVOR.push({getTitle: function () { return title; }}); }
+function addVORMarker(position, title, type, html) { listVOR.push({title: title}); }
 ['mousedown', 'mouseup', 'contextmenu', 'wheel'].forEach(function (name) {
     document.addEventListener(name, function (event) {
         events.push(name + ' ' + event.button + ' ' + event.clientX + ' ' + event.clientY);
