@@ -23,8 +23,7 @@ private slots:
     void emptyScriptNeverReachesThePage();
     void scriptGivesItsResult();
     void failedScriptGivesAnInvalidResult();
-    void slotIsOpenToThePage_data();
-    void slotIsOpenToThePage();
+    void slotsAreOpenToThePage();
     void doSomethingWritesADebugMessage();
     void alertGoesToTheLogWithoutABox();
     void pageHasTheFixedUserAgent();
@@ -100,20 +99,13 @@ void TestBridge::failedScriptGivesAnInvalidResult()
     QCOMPARE(session->window().runMapScript("map.getZoom()").toDouble(), 9.0);
 }
 
-void TestBridge::slotIsOpenToThePage_data()
+void TestBridge::slotsAreOpenToThePage()
 {
-    QTest::addColumn<QString>("slot");
+    QVERIFY(session->load());
     for (const char* name : {"doSomething", "doCenter", "doZoom", "doData", "doViewRwy", "doMoveSIT", "sAddAptToFp",
                              "sAddNavToFp", "sAddWptToFp", "sAddNewWptToFp", "sAddSitToFp", "sAddWptToDB",
                              "sAddNavToDB", "sDelNavFromDB", "sDelWptFromDB", "sATS"})
-        QTest::newRow(name) << name;
-}
-
-void TestBridge::slotIsOpenToThePage()
-{
-    QFETCH(QString, slot);
-    QVERIFY(session->load());
-    QCOMPARE(evaluate("typeof mainWindow." + slot).toString(), QString("function"));
+        QVERIFY2(evaluate(QStringLiteral("typeof mainWindow.%1").arg(name)).toString() == "function", name);
 }
 
 void TestBridge::doSomethingWritesADebugMessage()

@@ -40,8 +40,7 @@ private slots:
     void reportsInOrder();
     void smallLettersFrAreAnotherCountry();
     void countryIsFrWhateverTheRouteSetting();
-    void navaidKind_data();
-    void navaidKind();
+    void types8And24AreNdbAllOthersVor();
     void airportMarkerAlwaysHasOne();
     void frequencyIsAShortNumber();
     void uncheckedVorAreOnThePageAndHiddenUntilChecked();
@@ -202,33 +201,27 @@ void TestPopulation::countryIsFrWhateverTheRouteSetting()
     QCOMPARE(session->page().titles("listApt"), QStringList{"LFPO"});
 }
 
-void TestPopulation::navaidKind_data()
+void TestPopulation::types8And24AreNdbAllOthersVor()
 {
-    QTest::addColumn<bool>("ndb");
-    QTest::newRow("0") << false;
-    QTest::newRow("1") << false;
-    QTest::newRow("4") << false;
-    QTest::newRow("8") << true;
-    QTest::newRow("9") << false;
-    QTest::newRow("16") << false;
-    QTest::newRow("17") << false;
-    QTest::newRow("24") << true;
-    QTest::newRow("32") << false;
-    QTest::newRow("40") << false;
-}
-
-void TestPopulation::navaidKind()
-{
-    QFETCH(bool, ndb);
-    const int type = QString(QTest::currentDataTag()).toInt();
-    sandbox->addNavaid({{"ntyp", type}, {"nuse", 5}});
+    const QVector<int> types{0, 1, 4, 6, 8, 9, 16, 17, 24, 32, 40};
+    for (int type : types)
+        sandbox->addNavaid({{"ukey", QString::number(type)}, {"ntyp", type}, {"nuse", 5}});
     load();
-    QCOMPARE(calls("addNDBMarker").size(), ndb ? 1 : 0);
-    QCOMPARE(calls("addVORMarker").size(), ndb ? 0 : 1);
-    // The page tells NDBs apart by usage, VORs by type.
-    const QString call = (calls("addNDBMarker") + calls("addVORMarker")).first();
-    QVERIFY2(call.contains(QStringLiteral(",\"RBT-RBT\",%1,").arg(ndb ? 5 : type)), qPrintable(call));
-    QVERIFY2(call.contains(ndb ? "<br/>114.7 Khz<br/>" : "<br/>114.7 Mhz<br/>"), qPrintable(call));
+    QStringList ndb;
+    for (const QString& call : calls("addNDBMarker")) {
+        ndb << call.section('"', 1, 1);
+        QVERIFY2(call.contains("<br/>114.7 Khz<br/>"), qPrintable(call));
+        // The page tells NDBs apart by usage, VORs by type.
+        QVERIFY2(call.section('"', 2, 2) == ",5,", qPrintable(call));
+    }
+    QCOMPARE(ndb, (QStringList{"RBT-8", "RBT-24"}));
+    QStringList vor;
+    for (const QString& call : calls("addVORMarker")) {
+        vor << call.section('"', 1, 1) + call.section('"', 2, 2);
+        QVERIFY2(call.contains("<br/>114.7 Mhz<br/>"), qPrintable(call));
+    }
+    QCOMPARE(vor, (QStringList{"RBT-0,0,", "RBT-1,1,", "RBT-4,4,", "RBT-6,6,", "RBT-9,9,", "RBT-16,16,", "RBT-17,17,",
+                               "RBT-32,32,", "RBT-40,40,"}));
 }
 
 void TestPopulation::airportMarkerAlwaysHasOne()

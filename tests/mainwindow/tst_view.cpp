@@ -15,8 +15,6 @@ namespace {
 const QStringList docks{"dockWSearch", "dockWFlightPlan", "dockWSid", "dockWStar", "dockWAircraft", "dockWDebug"};
 }
 
-Q_DECLARE_METATYPE(bool CNavGlobalVar::*)
-
 class TestView : public QObject
 {
     Q_OBJECT
@@ -24,8 +22,7 @@ class TestView : public QObject
 private slots:
     void init();
     void cleanup();
-    void layer_data();
-    void layer();
+    void layersFollowTheirActions();
     void airwaysAreAskedForThoughThePageHasNone();
     void boundaryIsRememberedWithNoVisibleEffect();
     void firstClickOnFullScreenHidesAllSixDocks();
@@ -72,42 +69,39 @@ void TestView::cleanup()
     sandbox.reset();
 }
 
-void TestView::layer_data()
+void TestView::layersFollowTheirActions()
 {
-    QTest::addColumn<bool CNavGlobalVar::*>("flag");
-    QTest::addColumn<QString>("show");
-    QTest::addColumn<QString>("hide");
-    const auto add = [](const char* action, bool CNavGlobalVar::*flag, const QString& show, const QString& hide) {
-        QTest::newRow(action) << flag << show << hide;
+    const struct
+    {
+        const char* action;
+        bool CNavGlobalVar::*flag;
+        QString show;
+        QString hide;
+    } layers[] = {
+        {"actApt", &CNavGlobalVar::showAirport, "ArptMgr.addMarkers(listApt)", "ArptMgr.clearMarkers()"},
+        {"actVor", &CNavGlobalVar::showVor, "VORMgr.addMarkers(listVOR)", "VORMgr.clearMarkers()"},
+        {"actNdbRte", &CNavGlobalVar::showNdbRte, "NDBRteMgr.addMarkers(listNDBRte)", "NDBRteMgr.clearMarkers()"},
+        {"actNdbTerm", &CNavGlobalVar::showNdbTerm, "NDBTermMgr.addMarkers(listNDBTerm)", "NDBTermMgr.clearMarkers()"},
+        {"actWptRte", &CNavGlobalVar::showWaypointRte, "WPTRteMgr.addMarkers(listWptRte)", "WPTRteMgr.clearMarkers()"},
+        {"actWptTerm", &CNavGlobalVar::showWaypointTerm, "WPTTermMgr.addMarkers(listWptTerm)",
+         "WPTTermMgr.clearMarkers()"},
+        {"actWptVfr", &CNavGlobalVar::showWaypointVfr, "WPTVfrMgr.addMarkers(listWptVfr)", "WPTVfrMgr.clearMarkers()"},
+        {"actAtsLo", &CNavGlobalVar::showATSL, "showATS(\"L\",1)", "showATS(\"L\",0)"},
+        {"actAtsHi", &CNavGlobalVar::showATSH, "showATS(\"H\",1)", "showATS(\"H\",0)"},
+        {"actAtsB", &CNavGlobalVar::showATSB, "showATS(\"B\",1)", "showATS(\"B\",0)"},
     };
-    add("actApt", &CNavGlobalVar::showAirport, "ArptMgr.addMarkers(listApt)", "ArptMgr.clearMarkers()");
-    add("actVor", &CNavGlobalVar::showVor, "VORMgr.addMarkers(listVOR)", "VORMgr.clearMarkers()");
-    add("actNdbRte", &CNavGlobalVar::showNdbRte, "NDBRteMgr.addMarkers(listNDBRte)", "NDBRteMgr.clearMarkers()");
-    add("actNdbTerm", &CNavGlobalVar::showNdbTerm, "NDBTermMgr.addMarkers(listNDBTerm)", "NDBTermMgr.clearMarkers()");
-    add("actWptRte", &CNavGlobalVar::showWaypointRte, "WPTRteMgr.addMarkers(listWptRte)", "WPTRteMgr.clearMarkers()");
-    add("actWptTerm", &CNavGlobalVar::showWaypointTerm, "WPTTermMgr.addMarkers(listWptTerm)",
-        "WPTTermMgr.clearMarkers()");
-    add("actWptVfr", &CNavGlobalVar::showWaypointVfr, "WPTVfrMgr.addMarkers(listWptVfr)", "WPTVfrMgr.clearMarkers()");
-    add("actAtsLo", &CNavGlobalVar::showATSL, "showATS(\"L\",1)", "showATS(\"L\",0)");
-    add("actAtsHi", &CNavGlobalVar::showATSH, "showATS(\"H\",1)", "showATS(\"H\",0)");
-    add("actAtsB", &CNavGlobalVar::showATSB, "showATS(\"B\",1)", "showATS(\"B\",0)");
-}
-
-void TestView::layer()
-{
-    QFETCH(bool CNavGlobalVar::*, flag);
-    QFETCH(QString, show);
-    QFETCH(QString, hide);
     QVERIFY(session->load());
-    page().clear();
-    QAction* action = session->action(QTest::currentDataTag());
-    action->trigger();
-    QCOMPARE(page().calls(), QStringList{hide});
-    QVERIFY(!(CNavGlobalVar::instance()->*flag));
-    page().clear();
-    action->trigger();
-    QCOMPARE(page().calls(), QStringList{show});
-    QVERIFY(CNavGlobalVar::instance()->*flag);
+    for (const auto& layer : layers) {
+        page().clear();
+        QAction* action = session->action(layer.action);
+        action->trigger();
+        QCOMPARE(page().calls(), QStringList{layer.hide});
+        QVERIFY2(!(CNavGlobalVar::instance()->*layer.flag), layer.action);
+        page().clear();
+        action->trigger();
+        QCOMPARE(page().calls(), QStringList{layer.show});
+        QVERIFY2(CNavGlobalVar::instance()->*layer.flag, layer.action);
+    }
 }
 
 void TestView::airwaysAreAskedForThoughThePageHasNone()
