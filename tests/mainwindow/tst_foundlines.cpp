@@ -22,6 +22,7 @@ private slots:
     void cleanup();
     void firstDoubleClickEnablesThePlanCommands();
     void doubleClickGoesBehindTheCurrentRow();
+    void withoutACurrentRowTheLineGoesToPlaceOne();
     void doubleClickOnARunwayEnd();
     void doubleClickRedrawsTheRouteAndRaisesThePlan();
     void doubleClickFillsTheProceduresOfTheAirport();
@@ -105,6 +106,18 @@ void TestFoundLines::doubleClickGoesBehindTheCurrentRow()
     QCOMPARE(planNames(), (QStringList{"PARIS ORLY", "BAMES", "RAMBOUILLET"}));
     QCOMPARE(grid()->rowCount(), 3);
     QCOMPARE(grid()->currentRow(), 2);
+}
+
+void TestFoundLines::withoutACurrentRowTheLineGoesToPlaceOne()
+{
+    search("", false);
+    doubleClick(tree()->topLevelItem(0));
+    doubleClick(tree()->topLevelItem(1));
+    grid()->setCurrentCell(-1, -1);
+    session->window().setPlanActions(false);
+    doubleClick(tree()->topLevelItem(2));
+    QCOMPARE(planNames(), (QStringList{"PARIS ORLY", "BAMES", "RAMBOUILLET"}));
+    QVERIFY(session->find<QPushButton>("btnSaveFlightPlan")->isEnabled());
 }
 
 void TestFoundLines::doubleClickOnARunwayEnd()
