@@ -25,10 +25,14 @@ qint32 number(const QByteArray& bytes, int offset)
 }
 
 /// A text of the file in its full length, zero bytes included.
+QString utf8Text(const QByteArray& bytes)
+{
+    return QString::fromUtf8(bytes.constData(), std::max(bytes.size(), 0));
+}
+
 QString text(const QByteArray& bytes, int offset, int size)
 {
-    const QByteArray field = bytes.mid(offset, size);
-    return QString::fromUtf8(field.constData(), field.size());
+    return utf8Text(bytes.mid(offset, size));
 }
 
 /// Each byte is a character by itself, so only plain ASCII comes through.
@@ -143,7 +147,7 @@ void CPodMgr::readContent(const PodEntry& entry)
     if (entry.size > 0 && entry.offset >= 0 && seek(entry.offset)) {
         bytes = read(std::clamp<qint64>(size() - entry.offset, 0, entry.size));
     }
-    content = QString::fromUtf8(bytes.constData(), bytes.size());
+    content = utf8Text(bytes);
 }
 
 bool CPodMgr::findBySuffix(const QString& suffix)
