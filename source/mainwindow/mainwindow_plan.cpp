@@ -5,6 +5,7 @@
 
 #include "cflightplan.h"
 #include "cnavglobalvar.h"
+#include "legs.h"
 #include "mapscript.h"
 #include "plangrid.h"
 #include "positions.h"
@@ -195,10 +196,7 @@ void MainWindow::on_fltplnGrid_currentCellChanged(int currentRow, int currentCol
         return;
     }
     // An altitude holds from its line on; the destination keeps its own. No point moves, so the map stays.
-    const int altitude = cell->text().toInt();
-    for (int row = previousRow; row < flightPlan->lines.size() - 1; ++row) {
-        flightPlan->lines.at(row)->altd = altitude;
-    }
+    copyAltitudeDown(flightPlan->lines, previousRow, cell->text().toInt());
     flightPlan->refresh();
 }
 
