@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -11,12 +12,17 @@ constexpr int headerSize = 276;
 constexpr int numberSize = 4;
 constexpr int textSize = 80;
 constexpr int recordSize = 20;
-constexpr int recordsAtOnce = 1024;
+constexpr int recordsAtOnce = 512;
 
 // The name table has no size of its own: it is read in blocks of about what its names need.
-constexpr int usualNameSize = 32;
-constexpr int smallestBlock = 512;
+constexpr int usualNameSize = 48;
+constexpr int smallestBlock = 1 << 12;
 constexpr int largestBlock = 1 << 16;
+
+// Far above what any archive holds: a damaged one must not fill the memory with what its numbers claim.
+constexpr int largestDirectory = 1 << 22; // entries
+constexpr int longestName = 1 << 20;      // characters
+constexpr qint64 longestText = 1 << 26;   // bytes
 
 /// A number of the file, little endian; 0 where the bytes are missing.
 qint32 number(const QByteArray& bytes, int offset)
@@ -35,15 +41,21 @@ QString text(const QByteArray& bytes, int offset, int size)
     return utf8Text(bytes.mid(offset, size));
 }
 
-/// Each byte is a character by itself, so only plain ASCII comes through.
-QString nameText(const char* bytes, int size)
+bool isPlainAscii(const QByteArray& bytes)
+{
+    uint allBits = 0;
+    for (const char byte : bytes) {
+        allBits |= static_cast<uchar>(byte);
+    }
+    return allBits < 0x80;
+}
+
+/// Each byte of a name is a character by itself, so only plain ASCII comes through.
+QString foreignNameText(const char* bytes, int size)
 {
     QString result = QString::fromLatin1(bytes, size);
-    for (QChar& character : result) {
-        if (character.unicode() >= 0x80) {
-            character = QChar::ReplacementCharacter;
-        }
-    }
+    const auto isForeign = [](QChar character) { return character.unicode() >= 0x80; };
+    std::replace_if(result.begin(), result.end(), isForeign, QChar(QChar::ReplacementCharacter));
     return result;
 }
 
@@ -62,14 +74,9 @@ CPodMgr::CPodMgr(const QString& fileName) : QFile(fileName)
     readDirectory(fileName);
 }
 
-CPodMgr::~CPodMgr()
-{
-    qDeleteAll(entries);
-}
-
 bool CPodMgr::readDirectory(const QString&)
 {
-    if (!open(QIODevice::ReadOnly)) {
+    if (!open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return false;
     }
     readHeader();
@@ -99,7 +106,8 @@ void CPodMgr::readRecords()
 {
     // Records that run past the end of the file leave no room for a name, and without names nothing can be found.
     const qint64 room = directoryOffset < 0 ? 0 : size() - directoryOffset;
-    if (entryCount <= 0 || entryCount > room / recordSize || !seek(directoryOffset)) {
+    if (entryCount <= 0 || entryCount > std::min<qint64>(room / recordSize, largestDirectory) ||
+        !seek(directoryOffset)) {
         return;
     }
     entries.reserve(entryCount);
@@ -110,12 +118,10 @@ void CPodMgr::readRecords()
             return;
         }
         for (int offset = 0; offset < records.size(); offset += recordSize) {
-            entries += new PodEntry{QString(),
-                                    number(records, offset),
-                                    number(records, offset + 4),
-                                    number(records, offset + 8),
-                                    number(records, offset + 12),
-                                    number(records, offset + 16)};
+            storage.push_back({QString(), number(records, offset), number(records, offset + 4),
+                               number(records, offset + 8), number(records, offset + 12),
+                               number(records, offset + 16)});
+            entries += &storage.back();
         }
     }
 }
@@ -124,28 +130,43 @@ void CPodMgr::readNames()
 {
     int index = 0;
     while (index < entries.size()) {
-        const int wanted = std::min(entries.size() - index, largestBlock / usualNameSize) * usualNameSize;
-        const QByteArray block = read(std::max(wanted, smallestBlock));
+        const qint64 wanted = static_cast<qint64>(entries.size() - index) * usualNameSize;
+        const QByteArray block = read(std::clamp<qint64>(wanted, smallestBlock, largestBlock));
         if (block.isEmpty()) {
             return; // the end of the file ends every name
         }
-        const char* at = block.constData();
-        const char* const end = at + block.size();
-        while (at < end && index < entries.size()) {
-            const void* const zero = std::memchr(at, 0, static_cast<size_t>(end - at));
-            const char* const nameEnd = zero != nullptr ? static_cast<const char*>(zero) : end;
-            entries.at(index)->name += nameText(at, static_cast<int>(nameEnd - at));
-            index += zero != nullptr ? 1 : 0;
-            at = nameEnd + 1;
-        }
+        index = takeNames(block, index);
     }
+}
+
+/// Hands a block of the name table out, from entry `index` on. Returns the entry that the next block goes on with.
+int CPodMgr::takeNames(const QByteArray& block, int index)
+{
+    const bool plain = isPlainAscii(block);
+    const char* at = block.constData();
+    const char* const end = at + block.size();
+    while (at < end && index < entries.size()) {
+        const void* const zero = std::memchr(at, 0, static_cast<size_t>(end - at));
+        const char* const nameEnd = zero == nullptr ? end : static_cast<const char*>(zero);
+        const int size = static_cast<int>(nameEnd - at);
+        QString piece = plain ? QString::fromLatin1(at, size) : foreignNameText(at, size);
+        QString& name = entries.at(index)->name;
+        if (name.isEmpty()) {
+            name = std::move(piece);
+        } else if (name.size() < longestName) {
+            name += piece; // the rest of a name that began in the block before
+        }
+        index += zero == nullptr ? 0 : 1;
+        at = zero == nullptr ? end : nameEnd + 1;
+    }
+    return index;
 }
 
 void CPodMgr::readContent(const PodEntry& entry)
 {
     QByteArray bytes;
     if (entry.size > 0 && entry.offset >= 0 && seek(entry.offset)) {
-        bytes = read(std::clamp<qint64>(size() - entry.offset, 0, entry.size));
+        bytes = read(std::clamp<qint64>(size() - entry.offset, 0, std::min<qint64>(entry.size, longestText)));
     }
     content = utf8Text(bytes);
 }

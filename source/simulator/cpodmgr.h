@@ -4,7 +4,7 @@
 #include <QList>
 #include <QString>
 
-#include <cstdint>
+#include <deque>
 
 /// One directory entry of an archive.
 struct PodEntry
@@ -18,14 +18,14 @@ struct PodEntry
 };
 
 /// Reads one POD archive: its directory, the text of an entry, single lines of that text.
-/// A damaged or missing archive finds nothing; what the file claims is capped by the file's size.
+/// A damaged or missing archive finds nothing; what the file claims is capped by the file's size and by what the
+/// memory stands.
 class CPodMgr : public QFile
 {
     Q_OBJECT
 
 public:
     explicit CPodMgr(const QString& fileName);
-    ~CPodMgr() override;
 
     /// Opens the archive and reads its directory. The argument is not looked at: the base already has the name.
     /// True when the file opened.
@@ -57,5 +57,8 @@ private:
     void readHeader();
     void readRecords();
     void readNames();
+    int takeNames(const QByteArray& block, int index);
     void readContent(const PodEntry& entry);
+
+    std::deque<PodEntry> storage; ///< what `entries` points to: a large directory costs few allocations
 };
