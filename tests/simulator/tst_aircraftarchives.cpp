@@ -31,10 +31,10 @@ class TestAircraftArchives : public QObject
         QCOMPARE(file.write(bytes), static_cast<qint64>(bytes.size()));
     }
 
-    static CAircraftData aircraft(const QList<PodBytes::Entry>& entries)
+    static CAircraftData aircraft(const QVector<QPair<QByteArray, QByteArray>>& entries)
     {
         const QTemporaryDir folder;
-        write(folder.filePath("a.pod"), PodBytes::archive(entries));
+        write(folder.filePath("a.pod"), podArchive(entries));
         return readAircraftArchive(folder.filePath("a.pod"));
     }
 

@@ -3,13 +3,42 @@
 #include "podbytes.h"
 
 #include <QTemporaryDir>
+#include <QtEndian>
 #include <QtTest>
 
 #include <limits>
 
 namespace {
 
-const qint32 largest = std::numeric_limits<qint32>::max();
+constexpr qint32 largest = std::numeric_limits<qint32>::max();
+constexpr int headerSize = 276;
+constexpr int recordSize = 20;
+
+using Entries = QVector<QPair<QByteArray, QByteArray>>;
+
+void setNumber(QByteArray& bytes, int offset, qint32 value)
+{
+    qToLittleEndian(value, bytes.data() + offset);
+}
+
+/// The header of an archive with nothing behind it.
+QByteArray header(int entryCount)
+{
+    QByteArray bytes(headerSize, '\0');
+    setNumber(bytes, 88, entryCount);
+    return bytes;
+}
+
+QByteArray record(int size, int offset)
+{
+    QByteArray bytes(recordSize, '\0');
+    setNumber(bytes, 0, 11);
+    setNumber(bytes, 4, size);
+    setNumber(bytes, 8, offset);
+    setNumber(bytes, 12, 33);
+    setNumber(bytes, 16, 44);
+    return bytes;
+}
 
 } // namespace
 
@@ -29,9 +58,9 @@ class TestCPodMgr : public QObject
         return path;
     }
 
-    QString write(const QList<PodBytes::Entry>& entries)
+    QString write(const Entries& entries)
     {
-        return write(PodBytes::archive(entries));
+        return write(podArchive(entries));
     }
 
     static QStringList names(const CPodMgr& pod)
@@ -46,19 +75,19 @@ class TestCPodMgr : public QObject
 private slots:
     void headerGoesIntoTheFields()
     {
-        QByteArray bytes(PodBytes::headerSize, 'x');
+        QByteArray bytes(headerSize, 'x');
         bytes.replace(0, 4, "ABCD");
-        PodBytes::setNumber(bytes, 4, 1);
+        setNumber(bytes, 4, 1);
         bytes.replace(8, 80, "first" + QByteArray(75, '\0'));
-        PodBytes::setNumber(bytes, 88, 0);
-        PodBytes::setNumber(bytes, 92, 2);
-        PodBytes::setNumber(bytes, 96, 3);
-        PodBytes::setNumber(bytes, 100, -4);
+        setNumber(bytes, 88, 0);
+        setNumber(bytes, 92, 2);
+        setNumber(bytes, 96, 3);
+        setNumber(bytes, 100, -4);
         bytes.replace(104, 80, QByteArray(80, 's'));
         bytes.replace(184, 80, "\xC3\xA9" + QByteArray(78, 't'));
-        PodBytes::setNumber(bytes, 264, 276);
-        PodBytes::setNumber(bytes, 268, 5);
-        PodBytes::setNumber(bytes, 272, 0x01020304);
+        setNumber(bytes, 264, 276);
+        setNumber(bytes, 268, 5);
+        setNumber(bytes, 272, 0x01020304);
         const CPodMgr pod(write(bytes));
         QCOMPARE(pod.magic, QString("ABCD"));
         QCOMPARE(pod.headerWord1, 1);
@@ -76,7 +105,10 @@ private slots:
 
     void directoryGoesIntoTheEntries()
     {
-        const CPodMgr pod(write({{"DATA\\PLANE.NFO", "abc"}, {"DATA\\PLANE.SVH", "defgh"}}));
+        QByteArray bytes = header(2) + "abcdefgh";
+        setNumber(bytes, 264, bytes.size());
+        bytes += record(3, 276) + record(5, 279) + QByteArray("DATA\\PLANE.NFO\0DATA\\PLANE.SVH\0", 30);
+        CPodMgr pod(write(bytes));
         QCOMPARE(names(pod), QStringList({"DATA\\PLANE.NFO", "DATA\\PLANE.SVH"}));
         QCOMPARE(pod.entryCount, 2);
         QCOMPARE(pod.entries.at(1)->word0, 11);
@@ -87,26 +119,28 @@ private slots:
         QVERIFY(pod.isOpen());
         QVERIFY(pod.unusedEntries.isEmpty());
         QCOMPARE(pod.content, QString());
+        QVERIFY(pod.findBySuffix("SVH"));
+        QCOMPARE(pod.content, QString("defgh"));
     }
 
     void anyMagicPasses()
     {
-        QByteArray bytes = PodBytes::archive({{"A.SVH", "x"}});
+        QByteArray bytes = podArchive({{"A.SVH", "x"}});
         bytes.replace(0, 4, QByteArray("\0\xFF\0\0", 4));
         QVERIFY(CPodMgr(write(bytes)).findBySuffix("SVH"));
     }
 
     void whatStandsBehindTheNamesIsNotRead()
     {
-        const CPodMgr pod(write(PodBytes::archive({{"A", "x"}}) + "more" + QByteArray(3, '\0')));
+        const CPodMgr pod(write(podArchive({{"A", "x"}}) + "more" + QByteArray(3, '\0')));
         QCOMPARE(names(pod), QStringList{"A"});
     }
 
     void manyEntriesWithNamesOfAllLengths()
     {
-        QList<PodBytes::Entry> entries;
+        Entries entries;
         for (int i = 0; i < 5000; ++i) {
-            entries << PodBytes::Entry{QByteArray(i % 97, 'n') + QByteArray::number(i), QByteArray::number(i)};
+            entries << qMakePair(QByteArray(i % 97, 'n') + QByteArray::number(i), QByteArray::number(i));
         }
         CPodMgr pod(write(entries));
         QCOMPARE(pod.entries.size(), 5000);
@@ -137,7 +171,7 @@ private slots:
 
     void noEntriesFindNothing()
     {
-        CPodMgr pod(write(PodBytes::archive({})));
+        CPodMgr pod(write(podArchive({})));
         QVERIFY(pod.entries.isEmpty());
         QVERIFY(!pod.findBySuffix("SVH"));
         QVERIFY(!pod.findBySuffix(""));
@@ -145,8 +179,8 @@ private slots:
 
     void negativeEntryCountFindsNothing()
     {
-        QByteArray bytes = PodBytes::archive({{"A.SVH", "x"}});
-        PodBytes::setNumber(bytes, 88, -1);
+        QByteArray bytes = podArchive({{"A.SVH", "x"}});
+        setNumber(bytes, 88, -1);
         CPodMgr pod(write(bytes));
         QCOMPARE(pod.entryCount, -1);
         QVERIFY(!pod.findBySuffix("SVH"));
@@ -316,8 +350,8 @@ private slots:
 
     void headerCutShortFindsNothing()
     {
-        const QByteArray whole = PodBytes::archive({{"A.SVH", "x"}});
-        for (int size = 0; size < PodBytes::headerSize; ++size) {
+        const QByteArray whole = podArchive({{"A.SVH", "x"}});
+        for (int size = 0; size < headerSize; ++size) {
             CPodMgr pod(write(whole.left(size)));
             QVERIFY(!pod.findBySuffix("SVH"));
             QCOMPARE(pod.headerText1.size(), qBound(0, size - 8, 80));
@@ -326,8 +360,8 @@ private slots:
 
     void archiveCutAnywhereIsReadAsFarAsItGoes()
     {
-        const QByteArray whole = PodBytes::archive({{"A.NFO", "<make>\nBoeing\n"}, {"A.SVH", "<acid>\nF-GABC\n"}});
-        for (int size = PodBytes::headerSize; size < whole.size() - 1; ++size) {
+        const QByteArray whole = podArchive({{"A.NFO", "<make>\nBoeing\n"}, {"A.SVH", "<acid>\nF-GABC\n"}});
+        for (int size = headerSize; size < whole.size() - 1; ++size) {
             CPodMgr pod(write(whole.left(size)));
             QVERIFY(!pod.findBySuffix("SVH"));
         }
@@ -350,16 +384,16 @@ private slots:
     void directoryOutsideTheFileFindsNothing()
     {
         QFETCH(int, offset);
-        QByteArray bytes = PodBytes::archive({{"A.SVH", "x"}});
-        PodBytes::setNumber(bytes, 264, offset == -1 ? bytes.size() : offset);
+        QByteArray bytes = podArchive({{"A.SVH", "x"}});
+        setNumber(bytes, 264, offset == -1 ? bytes.size() : offset);
         CPodMgr pod(write(bytes));
         QVERIFY(!pod.findBySuffix("SVH"));
     }
 
     void entryCountBeyondTheFileTakesNoMemory()
     {
-        QByteArray bytes = PodBytes::archive({{"A.SVH", "x"}});
-        PodBytes::setNumber(bytes, 88, largest);
+        QByteArray bytes = podArchive({{"A.SVH", "x"}});
+        setNumber(bytes, 88, largest);
         CPodMgr pod(write(bytes));
         QCOMPARE(pod.entryCount, largest);
         QVERIFY(pod.entries.size() < bytes.size());
@@ -382,9 +416,9 @@ private slots:
     {
         QFETCH(int, size);
         QFETCH(int, offset);
-        QByteArray bytes = PodBytes::header(1);
-        PodBytes::setNumber(bytes, 264, bytes.size());
-        bytes += PodBytes::record(size, offset) + QByteArray("A.SVH\0", 6);
+        QByteArray bytes = header(1);
+        setNumber(bytes, 264, bytes.size());
+        bytes += record(size, offset) + QByteArray("A.SVH\0", 6);
         CPodMgr pod(write(bytes));
         pod.content = "before";
         QVERIFY(pod.findBySuffix("SVH"));
@@ -393,11 +427,11 @@ private slots:
 
     void entryLargerThanTheFileGivesWhatIsThere()
     {
-        QByteArray bytes = PodBytes::archive({{"A.SVH", "text"}});
-        PodBytes::setNumber(bytes, PodBytes::headerSize + 4 + 4, largest);
+        QByteArray bytes = podArchive({{"A.SVH", "text"}});
+        setNumber(bytes, headerSize + 4 + 4, largest);
         CPodMgr pod(write(bytes));
         QVERIFY(pod.findBySuffix("SVH"));
-        QCOMPARE(pod.content.size(), bytes.size() - PodBytes::headerSize);
+        QCOMPARE(pod.content.size(), bytes.size() - headerSize);
         QVERIFY(pod.content.startsWith("text"));
     }
 };
