@@ -36,6 +36,7 @@ private slots:
     void startMarkerHasEightDecimals();
     void startMarkerCarriesAircraftAndHeading();
     void boxInsideASlotOfThePageBlocksItsScript();
+    void titleOfNoRowIsToldByTheDialogSlots();
     void slotOfThePageMayCallThePageBack();
 
 private:
@@ -220,15 +221,25 @@ void TestBridge::startMarkerCarriesAircraftAndHeading()
 
 void TestBridge::boxInsideASlotOfThePageBlocksItsScript()
 {
+    sandbox->addAirport(); // with no runway, which the departure's look-up reports
+    BoxResponder boxes;
+    QVERIFY(session->load());
+    boxes.expectAnyMessage();
+    evaluate("mainWindow.doData('before the box'); mainWindow.sAddAptToFp('LFPO'); mainWindow.doData('after the box')");
+    QVERIFY(boxes.allUsed());
+    QCOMPARE(boxes.seen().first().title, QString("SQL Error"));
+    QCOMPARE(session->find<QLabel>("lblData")->text(), QString("after the box"));
+    QCOMPARE(session->find<QTableWidget>("fltplnGrid")->rowCount(), 1);
+}
+
+void TestBridge::titleOfNoRowIsToldByTheDialogSlots()
+{
     BoxResponder boxes;
     QVERIFY(session->load());
     boxes.expectMessage("Modification d'un waypoint", "Le waypoint NOKEY n'existe pas dans la base");
     boxes.expectMessage("Modification d'un navaid", "Le navaid NOKEY n'existe pas dans la base");
-    // Each statement runs once the box before it has gone.
-    evaluate("mainWindow.sAddWptToDB('X-NOKEY', 0, 0); mainWindow.sAddNavToDB(' X-NOKEY ', 0, 0);"
-             "mainWindow.doData('after the boxes')");
+    evaluate("mainWindow.sAddWptToDB('X-NOKEY', 0, 0); mainWindow.sAddNavToDB(' X-NOKEY ', 0, 0)");
     QVERIFY(boxes.allUsed());
-    QCOMPARE(session->find<QLabel>("lblData")->text(), QString("after the boxes"));
 }
 
 void TestBridge::slotOfThePageMayCallThePageBack()

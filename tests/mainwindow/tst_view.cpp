@@ -26,8 +26,6 @@ private slots:
     void airwaysAreAskedForThoughThePageHasNone();
     void boundaryIsRememberedWithNoVisibleEffect();
     void firstClickOnFullScreenHidesAllSixDocks();
-    void fullScreenLeavesTheAirspaceOffAtTheNextStart();
-    void mixedAirwaysOffComeBackAsHighAirwaysOff();
     void zoomOfTheFile_data();
     void zoomOfTheFile();
     void centreOfTheFile_data();
@@ -140,25 +138,6 @@ void TestView::firstClickOnFullScreenHidesAllSixDocks()
     QVERIFY(CNavGlobalVar::instance()->showDock);
     for (const QString& dock : docks)
         QVERIFY2(!session->find<QDockWidget>(dock)->isHidden(), qPrintable(dock));
-}
-
-void TestView::fullScreenLeavesTheAirspaceOffAtTheNextStart()
-{
-    session->action("actDock")->trigger();
-    session->close();
-    session.reset(new WindowSession);
-    QVERIFY(!session->action("actBdry")->isChecked());
-    QVERIFY2(!session->action("actDock")->isChecked(), "the docks' action starts from the airspace flag");
-    QVERIFY2(CNavGlobalVar::instance()->showDock, "the docks' own flag is never written");
-}
-
-void TestView::mixedAirwaysOffComeBackAsHighAirwaysOff()
-{
-    session->action("actAtsB")->trigger();
-    session->close();
-    session.reset(new WindowSession);
-    QVERIFY(!session->action("actAtsHi")->isChecked());
-    QVERIFY(session->action("actAtsB")->isChecked());
 }
 
 void TestView::zoomOfTheFile_data()
