@@ -91,6 +91,7 @@ PlanWindow::PlanWindow(const std::function<void(const Sandbox&)>& prepare)
     window = std::make_unique<MainWindow>(nullptr);
     probe = std::make_unique<PageProbe>(window.get());
     window->show();
+    // No window manager does it on a virtual display, and keys go to the active window only.
     QApplication::setActiveWindow(window.get());
     if (!probe->waitUntilLoaded())
         qFatal("the map page did not load");

@@ -120,6 +120,14 @@ private slots:
         QCOMPARE(win->idents(), QString("LFXX LFPO"));
     }
 
+    void aBoxInsideThePagesCallLetsThePageGoOn()
+    {
+        boxes->expectAnyMessage();
+        QCOMPARE(win->probe->evaluate("mainWindow.sAddAptToFp('LFXX'); 'after'").toString(), QString("after"));
+        QVERIFY(boxes->allUsed());
+        QCOMPARE(win->idents(), QString("LFXX"));
+    }
+
     void aNavaidFirstLandsAtTheHeadWithoutMarkerAndLeavesTheCommands()
     {
         win->window->sAddNavToFp("PGS-N1");

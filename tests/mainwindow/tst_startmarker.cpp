@@ -113,6 +113,21 @@ private slots:
         QCOMPARE(win->plan().startLine.lonS, arcSeconds);
     }
 
+    void theMouseDragsTheMarkerAndMovesTheStart()
+    {
+        win->add({"LFPO"});
+        win->probe->evaluate("map.setZoom(9);map.setCenter(new google.maps.LatLng(48.73333333,2.40277778))");
+        const QPoint marker = win->probe->pointOf(48.73333333, 2.40277778);
+        win->clearCalls();
+        win->probe->drag(marker, marker + QPoint(60, -40));
+        // 60 points east and 40 north at this zoom; the page knows the marker's place to a point or so.
+        QTRY_VERIFY(qAbs(win->plan().startLine.lonS - (8650.0 + 593.0)) < 20.0);
+        QVERIFY(qAbs(win->plan().startLine.latS - (175440.0 + 261.0)) < 20.0);
+        QCOMPARE(win->told(), QString());
+        QCOMPARE(win->plan().startLine.elev, 290);
+        QCOMPARE(win->plan().startLine.heading, 243.5);
+    }
+
     void thePageMovesTheStart()
     {
         win->probe->evaluate("mainWindow.doMoveSIT(48.5, 2.25)");
