@@ -35,7 +35,7 @@ bool hasDriveLetter(const QString& path)
 /// The path of a database folder: a relative one starts at the root, whose own part is not resolved.
 QString folderPath(const QString& root, const QString& setting)
 {
-    const QString path = platformPath(setting);
+    QString path = platformPath(setting);
     if (QDir(path).isRelative() && !hasDriveLetter(path)) {
         return QStringLiteral("%1/%2").arg(root, QDir::cleanPath(path));
     }

@@ -193,7 +193,8 @@ int TileGrid::countBandsUp(short band) const
     int count = 1;
     float reach = remainingReach(static_cast<float>(reachNm), bands[static_cast<std::size_t>(band)].widthNm);
     while (reach > 0.0F && count != lastCountedBand - band) {
-        reach = remainingReach(reach, bands[static_cast<std::size_t>(band + count)].widthNm);
+        const int next = band + count;
+        reach = remainingReach(reach, bands[static_cast<std::size_t>(next)].widthNm);
         ++count;
     }
     return count;

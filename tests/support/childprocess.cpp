@@ -13,10 +13,10 @@ const char childMark[] = "ZEPHAN_TEST_CHILD";
 /// Path of the program to run: the present one, or a fresh copy of it in a folder.
 QString programIn(const QString& copyIn)
 {
-    const QString program = QCoreApplication::applicationFilePath();
+    QString program = QCoreApplication::applicationFilePath();
     if (copyIn.isEmpty())
         return program;
-    const QString copy = QDir(copyIn).filePath(QFileInfo(program).fileName());
+    QString copy = QDir(copyIn).filePath(QFileInfo(program).fileName());
     if (!QFile::copy(program, copy))
         qFatal("cannot copy the test program to %s", qPrintable(copy));
     return copy;
