@@ -8,8 +8,6 @@
 # then finds the same things under their local names, or says what it misses.
 set -euo pipefail
 
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-
 # Debian package | what stands for it when it comes from elsewhere: a command, or pc: and a pkg-config module.
 # A package with nothing behind the bar is looked for by its name alone.
 wanted_always='
@@ -94,20 +92,6 @@ set_up_packages() {
     fi
 }
 
-# The map page's own needs, as pinned in the lock file. npm leaves its own copy of that file behind when it is done.
-set_up_page_packages() {
-    local lock=$root/package-lock.json done_mark=$root/node_modules/.package-lock.json
-    [ -f "$lock" ] || return 0
-    [ "$done_mark" -nt "$lock" ] && return 0
-    command -v npm >/dev/null || { say 'no npm: the map page cannot be built'; return 0; }
-    say 'fetching what the map page is built from'
-    (cd "$root" && npm ci --no-audit --no-fund --ignore-scripts </dev/null) || {
-        say 'npm could not fetch them; is there a way to the network?'
-        return 1
-    }
-}
-
 wanted=$wanted_always
 [ "${1:-}" != --checks ] || wanted+=$wanted_for_checks
 set_up_packages "$wanted"
-set_up_page_packages
