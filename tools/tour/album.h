@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+/// Saves pictures of widgets under one number after the other: "01-start.png", "02-layers.png".
+class Album
+{
+public:
+    /// Makes the folder, and empties it of the pictures of an earlier tour.
+    explicit Album(const QString& folder);
+
+    /// Takes a picture of a window or a dialog as it stands. False when it cannot be saved.
+    bool take(QWidget* widget, const QString& name);
+
+    int pictures() const;
+    QString folderPath() const;
+
+private:
+    QString folder;
+    int taken = 0;
+};
