@@ -162,8 +162,9 @@ QString CFlightPlan::loadFpl()
     lines += plan.lines;
     const QString script = refresh();
     if (plan.skipped > 0) {
-        QMessageBox::warning(nullptr, tr("Chargement plan de vol"),
-                             tr("Le plan de vol %1 est endommagé, champs ignorés : %2").arg(path).arg(plan.skipped));
+        QMessageBox::warning(
+            nullptr, tr("Chargement plan de vol"),
+            tr("Le plan de vol %1 est endommagé, champs ignorés : %2").arg(path, QString::number(plan.skipped)));
     }
     return script;
 }

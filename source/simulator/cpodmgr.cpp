@@ -112,9 +112,9 @@ void CPodMgr::readRecords()
     }
     entries.reserve(entryCount);
     while (entries.size() < entryCount) {
-        const int count = std::min(entryCount - entries.size(), recordsAtOnce);
-        const QByteArray records = read(count * recordSize);
-        if (records.size() < count * recordSize) {
+        const qint64 wanted = qint64{recordSize} * std::min(entryCount - entries.size(), recordsAtOnce);
+        const QByteArray records = read(wanted);
+        if (records.size() < wanted) {
             return;
         }
         for (int offset = 0; offset < records.size(); offset += recordSize) {

@@ -80,7 +80,7 @@ private slots:
 
     void fieldsThatAreNotInTheFileAreThoseOfANewLine()
     {
-        const CFpLine& navaid = *read(airportAndNavaidText).lines.last();
+        const CFpLine navaid = *read(airportAndNavaidText).lines.last();
         QCOMPARE(navaid.speed, 110);
         QCOMPARE(navaid.navType, 0);
         QCOMPARE(navaid.freq, 0.0);
@@ -154,7 +154,7 @@ private slots:
 
     void positionKeepsEmptyParts()
     {
-        const CFpLine& line = *read("<wpnt>\nuswp\n<llps>\n,,12\n").lines.first();
+        const CFpLine line = *read("<wpnt>\nuswp\n<llps>\n,,12\n").lines.first();
         QCOMPARE(line.latS, 0.0);
         QCOMPARE(line.lonS, 0.0);
         QCOMPARE(line.elev, 12);
@@ -171,7 +171,7 @@ private slots:
 
     void shortPositionLeavesThePointWhereANewOneIs()
     {
-        const CFpLine& line = *read("<wpnt>\nuswp\n<llps>\n1.5,2.5\n").lines.first();
+        const CFpLine line = *read("<wpnt>\nuswp\n<llps>\n1.5,2.5\n").lines.first();
         QCOMPARE(line.latS, 0.0);
         QCOMPARE(line.lonS, 0.0);
         QCOMPARE(line.elev, 0);
@@ -179,7 +179,7 @@ private slots:
 
     void numbersThatAreNoneGiveZero()
     {
-        const CFpLine& line = *read("<wpnt>\nuswp\n<altd>\nabc\n<llps>\nx,y,z\n").lines.first();
+        const CFpLine line = *read("<wpnt>\nuswp\n<altd>\nabc\n<llps>\nx,y,z\n").lines.first();
         QCOMPARE(line.altd, 0);
         QCOMPARE(line.latS, 0.0);
         QCOMPARE(line.elev, 0);
