@@ -10,8 +10,8 @@
   page.openAirway = function (level) {
     const line = new google.maps.Polyline({
       strokeColor: colours[level] || '#666666',
-      strokeWeight: 1.5,
-      strokeOpacity: 0.8,
+      strokeWeight: 2,
+      strokeOpacity: 1,
       geodesic: true,
       clickable: false,
       zIndex: 5,

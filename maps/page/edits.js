@@ -33,16 +33,15 @@ var theLast = null;
     return found;
   }
 
-  /** Shows a marker at once, whether its layer is to be seen or not. */
+  /** Shows a marker at once, whether its layer is to be seen or not, in place of its predecessor. */
   page.showEdited = function (marker) {
     if (!marker)
-      return null;
+      return;
     const former = takePredecessor(marker);
     // The dialog sends a navaid's usage where the feed has its type, so only the former marker knows the symbol.
-    if (former && listVOR.indexOf(marker) >= 0 && former.symbol.indexOf('ndb') !== 0)
+    if (former && layerOf(marker).list === listVOR && former.symbol.indexOf('ndb') !== 0)
       marker.symbol = former.symbol;
     layerOf(marker).manager().addMarker(marker);
-    return marker;
   };
 
   page.removeLast = function () {
@@ -54,17 +53,17 @@ var theLast = null;
 
 /** A VOR after an edit. The number is the usage, not the type: a new one gets the plain symbol. */
 function addVORMarker2(position, title, use, html) {
-  return page.showEdited(page.collect(listVOR, 'navaid', 'vor', position, title, html));
+  page.showEdited(page.collectVor(position, title, 'vor', html));
 }
 
 /** An NDB after an edit. */
 function addNDBMarker2(position, title, use, html) {
-  return page.showEdited(addNDBMarker(position, title, use, html));
+  page.showEdited(page.collectNdb(position, title, use, html));
 }
 
 /** A waypoint after an edit. */
 function addWPTMarker2(position, title, use, html) {
-  return page.showEdited(addWPTMarker(position, title, use, html));
+  page.showEdited(page.collectWaypoint(position, title, use, html));
 }
 
 /** Removes the marker last used: the program has deleted its navaid. */

@@ -30,6 +30,14 @@ var listWptVfr = [];
       this.html = String(html);
     }
 
+    getTitle() {
+      return this.title;
+    }
+
+    getPosition() {
+      return this.position;
+    }
+
     /** @return {string} the key of the row behind the last "-" of the title; empty for an airport */
     key() {
       return this.family === page.families.airport ? '' : this.title.slice(this.title.lastIndexOf('-') + 1);
@@ -45,33 +53,40 @@ var listWptVfr = [];
     return marker;
   };
 
-  page.ndbIsTerminal = use => use === usage.terminal;
+  const waypointSymbols = { [usage.terminal]: 'waypointTerminal', [usage.rnav]: 'waypointRnav', [usage.vfr]: 'waypointVfr' };
 
-  page.waypointList = use => (use === usage.terminal ? listWptTerm : use === usage.vfr ? listWptVfr : listWptRte);
+  page.collectAirport = (position, title, html) =>
+    page.collect(listApt, page.families.airport, 'airport', position, title, html);
 
-  page.waypointSymbol = use => (use === usage.terminal ? 'waypointTerminal'
-    : use === usage.vfr ? 'waypointVfr'
-      : use === usage.rnav ? 'waypointRnav' : 'waypointRoute');
+  page.collectVor = (position, title, symbol, html) =>
+    page.collect(listVOR, page.families.navaid, symbol, position, title, html);
+
+  page.collectNdb = (position, title, use, html) => (use === usage.terminal
+    ? page.collect(listNDBTerm, page.families.navaid, 'ndbTerminal', position, title, html)
+    : page.collect(listNDBRte, page.families.navaid, 'ndbRoute', position, title, html));
+
+  page.collectWaypoint = function (position, title, use, html) {
+    const list = use === usage.terminal ? listWptTerm : use === usage.vfr ? listWptVfr : listWptRte;
+    return page.collect(list, page.families.waypoint, waypointSymbols[use] || 'waypointRoute', position, title, html);
+  };
 })();
 
-/** The number is always 1. */
+/** An airport. The number is always 1. */
 function addAPTMarker(position, title, number, html) {
-  return page.collect(listApt, 'airport', 'airport', position, title, html);
+  page.collectAirport(position, title, html);
 }
 
 /** A VOR, TACAN or DME; its type decides its symbol. */
 function addVORMarker(position, title, type, html) {
-  return page.collect(listVOR, 'navaid', page.vorSymbol(type), position, title, html);
+  page.collectVor(position, title, page.vorSymbol(type), html);
 }
 
 /** An NDB; its usage decides its layer. */
 function addNDBMarker(position, title, use, html) {
-  return page.ndbIsTerminal(use)
-    ? page.collect(listNDBTerm, 'navaid', 'ndbTerminal', position, title, html)
-    : page.collect(listNDBRte, 'navaid', 'ndbRoute', position, title, html);
+  page.collectNdb(position, title, use, html);
 }
 
 /** A waypoint; its usage decides its layer. */
 function addWPTMarker(position, title, use, html) {
-  return page.collect(page.waypointList(use), 'waypoint', page.waypointSymbol(use), position, title, html);
+  page.collectWaypoint(position, title, use, html);
 }

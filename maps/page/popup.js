@@ -7,13 +7,15 @@
 
   /** What the program's texts are made of. Anything else in them came with a name and is shown as its text. */
   const allowed = ['B', 'BR', 'FONT', 'I', 'U'];
+  /** Elements whose inside is no text for a reader. */
+  const mute = ['SCRIPT', 'STYLE', 'TITLE', 'TEXTAREA'];
 
   /** Copies the children of a node, with the allowed elements only, colours being their only attribute. */
   function copyChildren(from, to) {
     Array.from(from.childNodes).forEach(node => {
       if (node.nodeType === Node.TEXT_NODE) {
         to.appendChild(document.createTextNode(node.nodeValue));
-      } else if (node.nodeType === Node.ELEMENT_NODE) {
+      } else if (node.nodeType === Node.ELEMENT_NODE && mute.indexOf(node.nodeName) < 0) {
         const known = allowed.indexOf(node.nodeName) >= 0;
         const target = known ? to.appendChild(document.createElement(node.nodeName)) : to;
         if (known && node.hasAttribute('color'))

@@ -9,7 +9,7 @@
       this.line = new google.maps.Polyline({
         strokeColor: style.colour,
         strokeWeight: style.weight,
-        strokeOpacity: 0.9,
+        strokeOpacity: 1,
         geodesic: true,
         clickable: false,
         zIndex: style.zIndex,

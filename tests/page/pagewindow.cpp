@@ -1,0 +1,144 @@
+#include "pagewindow.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QNetworkAccessManager>
+#include <QNetworkRequest>
+#include <QSignalSpy>
+#include <QWebFrame>
+#include <QtTest>
+
+namespace {
+
+/// Notes every request and lets it go on.
+class NotingNetwork : public QNetworkAccessManager
+{
+public:
+    NotingNetwork(QList<QUrl>* noted, QObject* parent) : QNetworkAccessManager(parent), requests(noted) {}
+
+protected:
+    QNetworkReply* createRequest(Operation operation, const QNetworkRequest& request, QIODevice* data) override
+    {
+        requests->append(request.url());
+        return QNetworkAccessManager::createRequest(operation, request, data);
+    }
+
+private:
+    QList<QUrl>* requests;
+};
+
+} // namespace
+
+void LoudWebPage::javaScriptConsoleMessage(const QString& message, int lineNumber, const QString& sourceID)
+{
+    messages.append(QString("%1:%2: %3").arg(sourceID).arg(lineNumber).arg(message));
+}
+
+PageWindow::PageWindow(ProgramSide* program) : view(new QWebView(this)), page(new LoudWebPage(view))
+{
+    resize(800, 600);
+    view->setObjectName("map");
+    view->setGeometry(0, 0, 800, 600);
+    page->setNetworkAccessManager(new NotingNetwork(&requests, page));
+    view->setPage(page);
+    QWebFrame* frame = page->mainFrame();
+    if (program)
+        connect(frame, &QWebFrame::javaScriptWindowObjectCleared, this,
+                [frame, program] { frame->addToJavaScriptWindowObject("mainWindow", program); });
+    mouse.reset(new PageProbe(this));
+    show();
+}
+
+bool PageWindow::load(const QString& file)
+{
+    return load(QUrl::fromLocalFile(QCoreApplication::applicationDirPath() + '/' + file));
+}
+
+bool PageWindow::load(const QUrl& url)
+{
+    QSignalSpy finished(view, &QWebView::loadFinished);
+    view->load(url);
+    if (finished.isEmpty() && !finished.wait(30000))
+        return false;
+    return finished.last().value(0).toBool();
+}
+
+QVariant PageWindow::run(const QString& script)
+{
+    return page->mainFrame()->evaluateJavaScript(script);
+}
+
+void PageWindow::settle()
+{
+    run("var settledFrames = 0;"
+        "requestAnimationFrame(function () { requestAnimationFrame(function () { settledFrames = 2; }); });");
+    QTRY_COMPARE(run("settledFrames").toInt(), 2);
+}
+
+QImage PageWindow::picture()
+{
+    settle();
+    return view->grab().toImage();
+}
+
+QColor PageWindow::colourAt(double latitude, double longitude)
+{
+    return picture().pixelColor(mouse->pointOf(latitude, longitude));
+}
+
+int PageWindow::pixelsAround(double latitude, double longitude, int reach, const QColor& colour)
+{
+    const QImage image = picture();
+    const QPoint middle = mouse->pointOf(latitude, longitude);
+    const QRect area = QRect(middle - QPoint(reach, reach), middle + QPoint(reach, reach)) & image.rect();
+    int count = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            count += image.pixelColor(x, y) == colour ? 1 : 0;
+    return count;
+}
+
+QStringList PageWindow::menuAt(double latitude, double longitude)
+{
+    closeMenu();
+    mouse->contextMenu(mouse->pointOf(latitude, longitude));
+    return menuEntries();
+}
+
+void PageWindow::closeMenu()
+{
+    QMouseEvent press(QEvent::MouseButtonPress, QPoint(1, 1), Qt::RightButton, Qt::RightButton, Qt::NoModifier);
+    QMouseEvent release(QEvent::MouseButtonRelease, QPoint(1, 1), Qt::RightButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(view, &press);
+    QApplication::sendEvent(view, &release);
+}
+
+QStringList PageWindow::menuEntries()
+{
+    return run("var menu = document.getElementById('menu');"
+               "menu.hidden ? [] : Array.from(menu.querySelectorAll('.menu-entry')).map(e => e.textContent)")
+        .toStringList();
+}
+
+bool PageWindow::chooseEntry(const QString& text)
+{
+    const int index = menuEntries().indexOf(text);
+    if (index < 0)
+        return false;
+    const QVariantList place = run(QString("var box = document.querySelectorAll('.menu-entry')[%1]"
+                                           ".getBoundingClientRect(); [box.left + 10, box.top + box.height / 2]")
+                                       .arg(index))
+                                   .toList();
+    mouse->click(QPoint(place.value(0).toInt(), place.value(1).toInt()));
+    return true;
+}
+
+void PageWindow::click(double latitude, double longitude)
+{
+    mouse->click(mouse->pointOf(latitude, longitude));
+}
+
+QString PageWindow::popupText()
+{
+    return run("var popup = document.querySelector('.popup-text'); popup ? popup.innerText : ''").toString();
+}

@@ -1,0 +1,287 @@
+// The pages as they are shipped: both load in silence, ask for nothing outside their folder, offer every name that the
+// program uses, and show the world.
+#include "pagewindow.h"
+
+#include <QDirIterator>
+#include <QSignalSpy>
+#include <QtTest>
+
+class TestPageBase : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void thePageLoadsInSilence_data();
+    void thePageLoadsInSilence();
+    void everyShippedScriptIsLoaded();
+    void nothingIsAskedOfTheNetwork();
+    void everyNameOfTheInterfaceStands_data();
+    void everyNameOfTheInterfaceStands();
+    void bothPagesHaveTheSameWords();
+    void theFirstScriptsRunInsideTheLoad();
+    void anAlertGoesToTheLog();
+    void theEnginesOwnMenuStaysAway();
+    void aReloadStartsWithEmptyLists();
+    void landAndSeaAreWhereTheyAre_data();
+    void landAndSeaAreWhereTheyAre();
+    void noFalseLineRunsAroundTheWorld();
+    void theDateLineIsNoCoast();
+    void theScaleTellsMilesAndKilometres();
+    void thePageWorksInAViewWithoutSize();
+
+private:
+    QScopedPointer<ProgramSide> program;
+    QScopedPointer<PageWindow> window;
+
+    void open(const QString& page = "gm_trajector_fr.html")
+    {
+        window.reset();
+        program.reset(new FullProgramSide);
+        window.reset(new PageWindow(program.data()));
+        QVERIFY(window->load(page));
+    }
+};
+
+namespace {
+
+const QColor land("#f6f3ea");
+const QColor sea("#d3e4ee");
+const QColor coast("#7f9cab");
+
+} // namespace
+
+void TestPageBase::thePageLoadsInSilence_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("language");
+    QTest::newRow("French") << "gm_trajector_fr.html"
+                            << "fr";
+    QTest::newRow("English") << "gm_trajector_en.html"
+                             << "en";
+}
+
+void TestPageBase::thePageLoadsInSilence()
+{
+    QFETCH(QString, page);
+    QFETCH(QString, language);
+    open(page);
+    window->settle();
+    QCOMPARE(window->page->messages, QStringList());
+    QCOMPARE(window->run("document.documentElement.lang").toString(), language);
+}
+
+void TestPageBase::everyShippedScriptIsLoaded()
+{
+    open();
+    QStringList shipped;
+    const QDir folder(QCoreApplication::applicationDirPath());
+    QDirIterator files(folder.filePath("maps"), {"*.js"}, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext())
+        shipped.append(folder.relativeFilePath(files.next()));
+    QVERIFY(shipped.size() > 30);
+    QStringList loaded =
+        window->run("Array.from(document.scripts).map(s => s.getAttribute('src') || '').filter(s => s)").toStringList();
+    shipped.sort();
+    loaded.sort();
+    QCOMPARE(loaded, shipped);
+}
+
+void TestPageBase::nothingIsAskedOfTheNetwork()
+{
+    open();
+    window->run("addAPTMarker(new google.maps.LatLng(46.50000, 2.50000),\"LFXX\",1,\"<b>X</b>\");pushAPT();"
+                "map.setCenter(new google.maps.LatLng(46.50000, 2.50000));");
+    for (double zoom : {2, 5, 8, 14}) {
+        window->run(QString("map.setZoom(%1)").arg(zoom));
+        window->settle();
+    }
+    window->click(46.5, 2.5);
+    QCOMPARE(window->popupText(), "X");
+    window->menuAt(46.5, 2.5);
+    QTest::qWait(50);
+    QVERIFY(window->requests.size() > 30);
+    const QString folder = QUrl::fromLocalFile(QCoreApplication::applicationDirPath()).toString() + '/';
+    for (const QUrl& url : qAsConst(window->requests))
+        QVERIFY2(url.scheme() == "data" || url.toString().startsWith(folder), qPrintable(url.toString()));
+}
+
+void TestPageBase::everyNameOfTheInterfaceStands_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("type");
+    for (const char* name : {"addAPTMarker",  "addVORMarker",  "addNDBMarker",       "addWPTMarker",
+                             "pushAPT",       "addNavMgr",     "addWptMgr",          "addVORMarker2",
+                             "addNDBMarker2", "addWPTMarker2", "delNavaid",          "delWaypoint",
+                             "showATS",       "addATS",        "addToATS",           "clearRunway",
+                             "drawRwy",       "clearFP",       "addPointToFp",       "pushFP",
+                             "clearSS",       "addPointToSS",  "addSitMarker",       "eraseAcftMrkr",
+                             "addAcftMrkr",   "setAcftMrkr",   "map.setCenter",      "map.setZoom",
+                             "map.getZoom",   "map.getCenter", "google.maps.LatLng", "google.maps.Map"})
+        QTest::newRow(name) << name << "function";
+    for (const char* name :
+         {"listApt", "listVOR", "listNDBRte", "listNDBTerm", "listWptRte", "listWptTerm", "listWptVfr", "theLast"})
+        QTest::newRow(name) << name << "object";
+}
+
+void TestPageBase::everyNameOfTheInterfaceStands()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, type);
+    if (!window)
+        open();
+    QCOMPARE(window->run("typeof " + name).toString(), type);
+    QVERIFY(window->run("map instanceof google.maps.Map").toBool());
+}
+
+void TestPageBase::bothPagesHaveTheSameWords()
+{
+    const QString keys = "Object.keys(pageWords).filter(key => pageWords[key].trim())";
+    open("gm_trajector_fr.html");
+    const QStringList french = window->run(keys).toStringList();
+    open("gm_trajector_en.html");
+    QCOMPARE(window->run(keys).toStringList(), french);
+    QVERIFY(french.size() > 10);
+}
+
+void TestPageBase::theFirstScriptsRunInsideTheLoad()
+{
+    program.reset(new FullProgramSide);
+    window.reset(new PageWindow(program.data()));
+    // As the program does it: the feed and the first view at once when the load is finished.
+    QStringList results;
+    connect(window->view, &QWebView::loadFinished, this, [&] {
+        results << window
+                       ->run("addVORMarker(new google.maps.LatLng(46.70000, 2.30000),\"A-A\",1,\"x\");addNavMgr();"
+                             "VORMgr.addMarkers(listVOR);listVOR.length")
+                       .toString();
+        results
+            << window->run("map.setCenter(new google.maps.LatLng(48.50000,-3.00000));map.getCenter().lat()").toString();
+        results << window->run("map.setZoom(6.5);map.getZoom()").toString();
+    });
+    QVERIFY(window->load());
+    QCOMPARE(results, (QStringList{"1", "48.5", "6.5"}));
+    // The pointer may lie on the map and be reported too.
+    QCOMPARE(program->calls().filter(QRegularExpression("^(?!doData)")),
+             (QStringList{"doCenter 48.50000 -3.00000", "doZoom 7"}));
+}
+
+void TestPageBase::anAlertGoesToTheLog()
+{
+    open();
+    QSignalSpy sent(window->page, &myWebPage::sendData);
+    window->run("alert('au log')");
+    QCOMPARE(sent.size(), 1);
+    QCOMPARE(sent.first().first().toString(), "au log");
+}
+
+void TestPageBase::theEnginesOwnMenuStaysAway()
+{
+    open();
+    const QPoint place(100, 500);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, window->view->mapToGlobal(place));
+    QVERIFY(window->page->swallowContextMenuEvent(&event));
+}
+
+void TestPageBase::aReloadStartsWithEmptyLists()
+{
+    open();
+    window->run("addVORMarker2(new google.maps.LatLng(46.70000, 2.30000),\"A-A\",1,\"x\")");
+    QCOMPARE(window->run("listVOR.length").toInt(), 1);
+    QVERIFY(window->load());
+    QCOMPARE(window->run("listVOR.length").toInt(), 0);
+    program->clear();
+    window->run("map.setZoom(9)");
+    QCOMPARE(program->calls(), QStringList{"doZoom 9"});
+}
+
+void TestPageBase::landAndSeaAreWhereTheyAre_data()
+{
+    QTest::addColumn<double>("zoom");
+    for (double zoom : {2.0, 3.0, 4.0, 5.5, 6.5, 8.0, 11.0})
+        QTest::addRow("zoom %g", zoom) << zoom;
+}
+
+void TestPageBase::landAndSeaAreWhereTheyAre()
+{
+    QFETCH(double, zoom);
+    open();
+    struct Place
+    {
+        double latitude, longitude;
+        QColor colour;
+    };
+    // Away from meridians, parallels and their labels at all these zooms.
+    const Place places[] = {{46.73, 2.27, land},    {45.53, -4.77, sea},    {28.37, 3.27, land},
+                            {-23.43, 132.87, land}, {42.03, 50.83, sea},    {-76.77, 22.87, land},
+                            {66.13, 101.77, land},  {-40.33, -131.23, sea}, {67.13, -178.23, land},
+                            {65.87, 177.77, land},  {-51.63, 33.37, sea},   {72.83, -38.77, land}};
+    window->run(QString("map.setZoom(%1)").arg(zoom));
+    for (const Place& place : places) {
+        window->run(QString("map.setCenter(new google.maps.LatLng(%1,%2));")
+                        .arg(place.latitude, 3, 'f', 5)
+                        .arg(place.longitude, 3, 'f', 5));
+        QVERIFY2(window->colourAt(place.latitude, place.longitude) == place.colour,
+                 qPrintable(QString("%1 %2").arg(place.latitude).arg(place.longitude)));
+    }
+}
+
+void TestPageBase::noFalseLineRunsAroundTheWorld()
+{
+    // Where rings over 180 degrees, drawn uncut, would run across the open sea.
+    const QPair<double, double> places[] = {{67, 0}, {68, -20}, {66.5, 5}, {71, 10}, {-16.5, -20}, {-17, 70}, {71, -2}};
+    open();
+    for (double zoom : {3.0, 5.0, 7.0}) {
+        window->run(QString("map.setZoom(%1)").arg(zoom));
+        for (const auto& place : places) {
+            window->run(QString("map.setCenter(new google.maps.LatLng(%1,%2));").arg(place.first).arg(place.second));
+            QCOMPARE(window->pixelsAround(place.first, place.second, 12, coast), 0);
+        }
+    }
+}
+
+void TestPageBase::theDateLineIsNoCoast()
+{
+    open();
+    for (double zoom : {3.0, 5.0, 8.0}) {
+        // Inside the land of the far east of Russia, and of Antarctica.
+        for (double latitude : {67.3, -84.8}) {
+            window->run(
+                QString("map.setZoom(%1);map.setCenter(new google.maps.LatLng(%2,180))").arg(zoom).arg(latitude));
+            QCOMPARE(window->pixelsAround(latitude, 180, 4, coast), 0);
+            // All but the meridian itself.
+            QCOMPARE(window->pixelsAround(latitude, 180, 4, land), 72);
+        }
+    }
+}
+
+void TestPageBase::theScaleTellsMilesAndKilometres()
+{
+    open();
+    window->run("map.setCenter(new google.maps.LatLng(60.00000, 2.00000));map.setZoom(8)");
+    const QStringList lines = window
+                                  ->run("Array.from(document.querySelectorAll('.scale-bar-line')).map(e => "
+                                        "e.textContent + ' ' + e.style.width)")
+                                  .toStringList();
+    // At 60 degrees a pixel is 156543 m / 256 / 2.
+    QCOMPARE(lines, (QStringList{"10 NM 61px", "20 km 65px"}));
+}
+
+void TestPageBase::thePageWorksInAViewWithoutSize()
+{
+    program.reset(new FullProgramSide);
+    window.reset(new PageWindow(program.data()));
+    window->view->resize(0, 0);
+    QVERIFY(window->load());
+    window->run("map.setCenter(new google.maps.LatLng(46.70000, 2.30000));map.setZoom(8)");
+    window->run("addAPTMarker(new google.maps.LatLng(46.70000, 2.30000),\"LFXX\",1,\"x\");pushAPT();");
+    window->view->resize(800, 600);
+    QTRY_COMPARE(window->run("innerWidth").toInt(), 800);
+    window->settle();
+    QCOMPARE(window->run("map.getCenter().lat()").toDouble(), 46.7);
+    QVERIFY(window->pixelsAround(46.7, 2.3, 8, land) < 17 * 17);
+    QVERIFY(window->pixelsAround(46.4, 2.3, 8, land) == 17 * 17);
+    QCOMPARE(window->page->messages, QStringList());
+}
+
+QTEST_MAIN(TestPageBase)
+#include "tst_pagebase.moc"

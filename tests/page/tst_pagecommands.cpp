@@ -1,0 +1,312 @@
+// The context menus: which commands they offer, and which slots with which arguments they call.
+#include "pagewindow.h"
+
+#include <QtTest>
+
+class TestPageCommands : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aMarkerOffersItsCommands_data();
+    void aMarkerOffersItsCommands();
+    void anEntryCallsItsSlot_data();
+    void anEntryCallsItsSlot();
+    void theEnglishPageSpeaksEnglish();
+    void absentSlotsAreNotOffered();
+    void withoutAProgramNothingIsOfferedThatNeedsOne();
+    void theAirwaysOfAWaypointAloneHaveNoNavaid();
+    void theAirwaysOfOnePointGetBothTitles();
+    void theAirwaysOfANavaidAloneGoByItsOwnName();
+    void runwaysCanBeClearedWhileTheyShow();
+    void theMapCanBeCentred();
+    void theRightClickedMarkerIsTheLastUsed();
+    void theMenuIsGoneBeforeTheCommandRuns();
+    void theMenuClosesWithoutACommand_data();
+    void theMenuClosesWithoutACommand();
+    void theMenuStaysInTheWindow();
+
+private:
+    QScopedPointer<ProgramSide> program;
+    QScopedPointer<PageWindow> window;
+
+    void open(ProgramSide* side, const QString& page = "gm_trajector_fr.html")
+    {
+        window.reset();
+        program.reset(side);
+        window.reset(new PageWindow(side));
+        QVERIFY(window->load(page));
+        window->run("map.setCenter(new google.maps.LatLng(46.70000, 2.30000));map.setZoom(8);"
+                    "addAPTMarker(new google.maps.LatLng(46.70000, 2.30000),\"LFLX\",1,\"x\");pushAPT();"
+                    "addVORMarker(new google.maps.LatLng(46.70000, 2.60000),\"CGO-CGO4FR\",17,\"x\");"
+                    "addNDBMarker(new google.maps.LatLng(46.40000, 2.60000),\"MT-MT5FR\",4,\"x\");addNavMgr();"
+                    "VORMgr.addMarkers(listVOR);NDBTermMgr.addMarkers(listNDBTerm);"
+                    "addWPTMarker(new google.maps.LatLng(46.40000, 2.30000),\"ABLAN-ABLANFR\",1,\"x\");addWptMgr();"
+                    "WPTRteMgr.addMarkers(listWptRte)");
+        window->settle();
+        if (side)
+            side->clear();
+    }
+    /// The calls that are no reports of pointer and view.
+    QStringList commands() const
+    {
+        return program->calls().filter(QRegularExpression("^(?!doData|doCenter|doZoom)"));
+    }
+};
+
+namespace {
+
+struct Place
+{
+    const char* name;
+    double latitude;
+    double longitude;
+};
+
+const Place airport{"airport", 46.7, 2.3};
+const Place vor{"VOR", 46.7, 2.6};
+const Place ndb{"NDB", 46.4, 2.6};
+const Place waypoint{"waypoint", 46.4, 2.3};
+const Place nothing{"empty map", 46.6, 2.0};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Place)
+
+void TestPageCommands::aMarkerOffersItsCommands_data()
+{
+    QTest::addColumn<Place>("place");
+    QTest::addColumn<QStringList>("entries");
+
+    const QStringList navaid{"Ajouter au plan de vol", "Voies aériennes passant par ce point…", "Modifier le navaid…",
+                             "Effacer le navaid…"};
+    QTest::newRow("airport") << airport << QStringList{"Ajouter au plan de vol", "Afficher les pistes"};
+    QTest::newRow("VOR") << vor << navaid;
+    QTest::newRow("NDB") << ndb << navaid;
+    QTest::newRow("waypoint") << waypoint
+                              << QStringList{"Ajouter au plan de vol", "Voies aériennes passant par ce point…",
+                                             "Modifier le waypoint…", "Effacer le waypoint…"};
+    QTest::newRow("empty map") << nothing
+                               << QStringList{"Ajouter un point utilisateur ici", "Départ ici", "Nouveau waypoint ici…",
+                                              "Nouveau navaid ici…", "Centrer ici"};
+}
+
+void TestPageCommands::aMarkerOffersItsCommands()
+{
+    QFETCH(Place, place);
+    QFETCH(QStringList, entries);
+    open(new FullProgramSide);
+    QCOMPARE(window->menuAt(place.latitude, place.longitude), entries);
+    QCOMPARE(commands(), QStringList());
+}
+
+void TestPageCommands::anEntryCallsItsSlot_data()
+{
+    QTest::addColumn<Place>("place");
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QStringList>("calls");
+
+    const auto row = [](const Place& place, const char* entry, const QStringList& calls) {
+        QTest::addRow("%s: %s", place.name, entry) << place << QString(entry) << calls;
+    };
+    row(airport, "Ajouter au plan de vol", {"sAddAptToFp \"LFLX\""});
+    row(airport, "Afficher les pistes", {"doViewRwy \"LFLX\""});
+    row(vor, "Ajouter au plan de vol", {"sAddNavToFp \"CGO-CGO4FR\""});
+    row(vor, "Modifier le navaid…", {"sAddNavToDB \"CGO-CGO4FR\" 46.70000 2.60000"});
+    row(vor, "Effacer le navaid…", {"sDelNavFromDB \"CGO-CGO4FR\""});
+    row(ndb, "Ajouter au plan de vol", {"sAddNavToFp \"MT-MT5FR\""});
+    row(ndb, "Effacer le navaid…", {"sDelNavFromDB \"MT-MT5FR\""});
+    row(waypoint, "Ajouter au plan de vol", {"sAddWptToFp \"ABLAN-ABLANFR\""});
+    row(waypoint, "Modifier le waypoint…", {"sAddWptToDB \"ABLAN-ABLANFR\" 46.40000 2.30000"});
+    row(waypoint, "Effacer le waypoint…", {"sDelWptFromDB \"ABLAN-ABLANFR\""});
+    row(nothing, "Ajouter un point utilisateur ici", {"sAddNewWptToFp \"WPT\" %1"});
+    row(nothing, "Départ ici", {"sAddSitToFp %1", "doMoveSIT %1"});
+    row(nothing, "Nouveau waypoint ici…", {"sAddWptToDB \"\" %1"});
+    row(nothing, "Nouveau navaid ici…", {"sAddNavToDB \"\" %1"});
+}
+
+void TestPageCommands::anEntryCallsItsSlot()
+{
+    QFETCH(Place, place);
+    QFETCH(QString, entry);
+    QFETCH(QStringList, calls);
+    open(new FullProgramSide);
+    window->menuAt(place.latitude, place.longitude);
+    QVERIFY(window->chooseEntry(entry));
+    QCOMPARE(window->menuEntries(), QStringList());
+
+    // A click on the empty map is as good as its pixel: within a hundredth of a degree at this zoom.
+    QStringList called = commands();
+    const QRegularExpression numbers("(-?\\d+\\.\\d+) (-?\\d+\\.\\d+)$");
+    for (int i = 0; i < calls.size(); ++i) {
+        if (!calls[i].contains("%1"))
+            continue;
+        const QRegularExpressionMatch match = numbers.match(called.value(i));
+        QVERIFY(match.hasMatch());
+        QVERIFY(qAbs(match.captured(1).toDouble() - place.latitude) < 0.01);
+        QVERIFY(qAbs(match.captured(2).toDouble() - place.longitude) < 0.01);
+        called[i].replace(numbers, "%1");
+    }
+    QCOMPARE(called, calls);
+}
+
+void TestPageCommands::theEnglishPageSpeaksEnglish()
+{
+    open(new FullProgramSide, "gm_trajector_en.html");
+    QCOMPARE(window->menuAt(airport.latitude, airport.longitude), (QStringList{"Add to flight plan", "Show runways"}));
+    QCOMPARE(window->menuAt(vor.latitude, vor.longitude),
+             (QStringList{"Add to flight plan", "Airways through this point…", "Edit navaid…", "Delete navaid…"}));
+    QCOMPARE(window->menuAt(waypoint.latitude, waypoint.longitude),
+             (QStringList{"Add to flight plan", "Airways through this point…", "Edit waypoint…", "Delete waypoint…"}));
+    QCOMPARE(
+        window->menuAt(nothing.latitude, nothing.longitude),
+        (QStringList{"Add user point here", "Start here", "New waypoint here…", "New navaid here…", "Centre here"}));
+    QVERIFY(window->chooseEntry("New navaid here…"));
+    QCOMPARE(commands().size(), 1);
+}
+
+void TestPageCommands::absentSlotsAreNotOffered()
+{
+    open(new ProgramSide);
+    QCOMPARE(window->menuAt(vor.latitude, vor.longitude), QStringList{"Ajouter au plan de vol"});
+    QCOMPARE(window->menuAt(waypoint.latitude, waypoint.longitude), QStringList{"Ajouter au plan de vol"});
+    QCOMPARE(window->menuAt(nothing.latitude, nothing.longitude),
+             (QStringList{"Ajouter un point utilisateur ici", "Départ ici", "Centrer ici"}));
+}
+
+void TestPageCommands::withoutAProgramNothingIsOfferedThatNeedsOne()
+{
+    open(nullptr);
+    QCOMPARE(window->menuAt(airport.latitude, airport.longitude), QStringList());
+    QCOMPARE(window->menuAt(nothing.latitude, nothing.longitude), QStringList{"Centrer ici"});
+    window->click(airport.latitude, airport.longitude);
+    QCOMPARE(window->popupText(), "x");
+    QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageCommands::theAirwaysOfAWaypointAloneHaveNoNavaid()
+{
+    open(new FullProgramSide);
+    window->menuAt(waypoint.latitude, waypoint.longitude);
+    QVERIFY(window->chooseEntry("Voies aériennes passant par ce point…"));
+    QCOMPARE(commands(), QStringList{"sATS \"ABLAN-ABLANFR\" \"\""});
+}
+
+void TestPageCommands::theAirwaysOfOnePointGetBothTitles()
+{
+    open(new FullProgramSide);
+    // A waypoint on the VOR, whose marker lies on top.
+    window->run("addWPTMarker2(new google.maps.LatLng(46.70000, 2.60000),\"CGO-CGOFR\",1,\"x\")");
+    window->settle();
+    window->menuAt(vor.latitude, vor.longitude);
+    QVERIFY(window->chooseEntry("Voies aériennes passant par ce point…"));
+    window->run("VORMgr.clearMarkers()");
+    window->settle();
+    window->menuAt(vor.latitude, vor.longitude);
+    QVERIFY(window->chooseEntry("Voies aériennes passant par ce point…"));
+    QCOMPARE(commands(), (QStringList{"sATS \"CGO-CGOFR\" \"CGO-CGO4FR\"", "sATS \"CGO-CGOFR\" \"CGO-CGO4FR\""}));
+}
+
+void TestPageCommands::theAirwaysOfANavaidAloneGoByItsOwnName()
+{
+    open(new FullProgramSide);
+    window->menuAt(vor.latitude, vor.longitude);
+    QVERIFY(window->chooseEntry("Voies aériennes passant par ce point…"));
+    // With the second title alone the program would do nothing.
+    QCOMPARE(commands(), QStringList{"sATS \"CGO-CGO4FR\" \"CGO-CGO4FR\""});
+}
+
+void TestPageCommands::runwaysCanBeClearedWhileTheyShow()
+{
+    open(new FullProgramSide);
+    window->run("clearRunway();drawRwy(new google.maps.LatLng(46.60000, 2.10000),new google.maps.LatLng(46.60000, "
+                "2.20000));");
+    const QColor asphalt("#39424a");
+    QVERIFY(window->pixelsAround(46.6, 2.15, 8, asphalt) > 0);
+    QVERIFY(window->menuAt(nothing.latitude, nothing.longitude).contains("Effacer les pistes"));
+    QVERIFY(window->chooseEntry("Effacer les pistes"));
+    QCOMPARE(window->pixelsAround(46.6, 2.15, 8, asphalt), 0);
+    QVERIFY(!window->menuAt(nothing.latitude, nothing.longitude).contains("Effacer les pistes"));
+    QCOMPARE(commands(), QStringList());
+}
+
+void TestPageCommands::theMapCanBeCentred()
+{
+    open(new FullProgramSide);
+    window->menuAt(nothing.latitude, nothing.longitude);
+    QVERIFY(window->chooseEntry("Centrer ici"));
+    QVERIFY(qAbs(window->run("map.getCenter().lat()").toDouble() - nothing.latitude) < 0.01);
+    QVERIFY(qAbs(window->run("map.getCenter().lng()").toDouble() - nothing.longitude) < 0.01);
+    QCOMPARE(program->calls("doCenter").size(), 1);
+}
+
+void TestPageCommands::theRightClickedMarkerIsTheLastUsed()
+{
+    open(new FullProgramSide);
+    window->menuAt(ndb.latitude, ndb.longitude);
+    QCOMPARE(window->run("theLast.getTitle()").toString(), "MT-MT5FR");
+    window->menuAt(nothing.latitude, nothing.longitude);
+    QCOMPARE(window->run("theLast.getTitle()").toString(), "MT-MT5FR");
+}
+
+void TestPageCommands::theMenuIsGoneBeforeTheCommandRuns()
+{
+    open(new FullProgramSide);
+    QStringList during{"not called"};
+    // As with a box that the slot opens: the page is asked while it waits for the slot.
+    connect(program.data(), &ProgramSide::called, this, [&](const QString& call) {
+        if (call.startsWith("sDelNavFromDB")) {
+            during = window->menuEntries();
+            window->run("delNavaid();theLast == null;");
+        }
+    });
+    window->menuAt(vor.latitude, vor.longitude);
+    QVERIFY(window->chooseEntry("Effacer le navaid…"));
+    QCOMPARE(during, QStringList());
+    QCOMPARE(window->run("listVOR.length").toInt(), 0);
+    QVERIFY(!window->menuAt(vor.latitude, vor.longitude).contains("Effacer le navaid…"));
+}
+
+void TestPageCommands::theMenuClosesWithoutACommand_data()
+{
+    QTest::addColumn<QString>("way");
+    QTest::newRow("a click beside it") << "click";
+    QTest::newRow("Escape") << "key";
+    QTest::newRow("the wheel") << "wheel";
+}
+
+void TestPageCommands::theMenuClosesWithoutACommand()
+{
+    QFETCH(QString, way);
+    open(new FullProgramSide);
+    QVERIFY(!window->menuAt(vor.latitude, vor.longitude).isEmpty());
+    if (way == "click")
+        window->mouse->click({50, 550});
+    if (way == "wheel")
+        window->mouse->wheel({50, 550}, 120);
+    if (way == "key") {
+        window->activateWindow();
+        window->view->setFocus();
+        QTest::keyClick(window->view, Qt::Key_Escape);
+    }
+    QTRY_COMPARE(window->menuEntries(), QStringList());
+    QCOMPARE(commands(), QStringList());
+}
+
+void TestPageCommands::theMenuStaysInTheWindow()
+{
+    open(new FullProgramSide);
+    for (const QPoint& corner : {QPoint(798, 598), QPoint(2, 598), QPoint(798, 300)}) {
+        window->mouse->contextMenu(corner);
+        const QVariantList box = window
+                                     ->run("var box = document.getElementById('menu').getBoundingClientRect();"
+                                           "[box.left, box.top, box.right, box.bottom]")
+                                     .toList();
+        QVERIFY(box[0].toDouble() >= 0 && box[1].toDouble() >= 0);
+        QVERIFY(box[2].toDouble() <= 800 && box[3].toDouble() <= 600);
+        QVERIFY(box[3].toDouble() - box[1].toDouble() > 50);
+    }
+}
+
+QTEST_MAIN(TestPageCommands)
+#include "tst_pagecommands.moc"

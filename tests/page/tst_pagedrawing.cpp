@@ -1,0 +1,317 @@
+// What scripts draw besides the markers: route, procedure, runways, airways, start marker and aircraft.
+#include "pagewindow.h"
+
+#include <QtTest>
+
+class TestPageDrawing : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        program.reset(new FullProgramSide);
+        window.reset(new PageWindow(program.data()));
+        QVERIFY(window->load());
+        window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(8)");
+    }
+
+    void theRouteShowsWhenItsPointsAreComplete();
+    void anEmptiedPlanLeavesNoRoute();
+    void eachBatchDrawsTheRouteAnew();
+    void aPointWithoutAPlaceIsLeftOut();
+    void theRouteTakesTheShortWayOverTheDateLine();
+    void theRouteFollowsTheGreatCircle();
+    void theProcedureShowsBesideTheRoute();
+    void runwaysShowUntilTheyAreCleared();
+    void airwaysShowByLevel();
+    void airwaysAddedLaterFollowTheirSwitch();
+    void aPointWithoutAnAirwayIsIgnored();
+    void thereIsOneStartMarker();
+    void theStartMarkerShowsItsHeading();
+    void draggingTheStartMarkerTellsTheProgram();
+    void theCommandsOfTheMapWorkOnTheStartMarker();
+    void theAircraftComesMovesAndGoes();
+    void theAircraftTurns();
+    void anAircraftWithoutAPlaceStaysWhereItWas();
+    void theAircraftOfTheOtherSideShows();
+    void thousandsOfTicksLeaveOneAircraft();
+
+private:
+    QScopedPointer<ProgramSide> program;
+    QScopedPointer<PageWindow> window;
+
+    int around(double latitude, double longitude, const char* colour, int reach = 12)
+    {
+        return window->pixelsAround(latitude, longitude, reach, QColor(colour));
+    }
+    QImage pictureAt(double latitude, double longitude)
+    {
+        window->settle();
+        const QPoint middle = window->mouse->pointOf(latitude, longitude);
+        return window->view->grab().toImage().copy(middle.x() - 18, middle.y() - 18, 37, 37);
+    }
+};
+
+namespace {
+
+const char routeColour[] = "#c2185b";
+const char procedureColour[] = "#00796b";
+const char runwayColour[] = "#39424a";
+const char lowColour[] = "#6d8c3c";
+const char highColour[] = "#3c6d8c";
+const char bothColour[] = "#7a5c99";
+const char startColour[] = "#f2a900";
+const char aircraftColour[] = "#d32f2f";
+
+} // namespace
+
+void TestPageDrawing::theRouteShowsWhenItsPointsAreComplete()
+{
+    window->run("clearFP();addPointToFp(new google.maps.LatLng(46.70000, 2.20000),\"LFXX\");"
+                "addPointToFp(new google.maps.LatLng(46.70000, 2.80000),\"LFYY\")");
+    QCOMPARE(around(46.7, 2.5, routeColour), 0);
+    window->run("pushFP();");
+    QVERIFY(around(46.7, 2.5, routeColour) > 0);
+    // The points with their names, right of each.
+    QVERIFY(around(46.7, 2.2, routeColour) > 0);
+    QVERIFY(around(46.7, 2.92, routeColour) > 10);
+}
+
+void TestPageDrawing::anEmptiedPlanLeavesNoRoute()
+{
+    window->run("clearFP();addPointToFp(new google.maps.LatLng(46.70000, 2.20000),\"A\");"
+                "addPointToFp(new google.maps.LatLng(46.70000, 2.80000),\"B\");pushFP();");
+    window->run("clearFP()");
+    QCOMPARE(around(46.7, 2.5, routeColour, 200), 0);
+}
+
+void TestPageDrawing::eachBatchDrawsTheRouteAnew()
+{
+    window->run("clearFP();addPointToFp(new google.maps.LatLng(46.70000, 2.20000),\"A\");"
+                "addPointToFp(new google.maps.LatLng(46.70000, 2.80000),\"B\");pushFP();");
+    window->run("clearFP();addPointToFp(new google.maps.LatLng(46.40000, 2.20000),\"A\");"
+                "addPointToFp(new google.maps.LatLng(46.40000, 2.80000),\"B\");pushFP();");
+    QCOMPARE(around(46.7, 2.5, routeColour), 0);
+    QVERIFY(around(46.4, 2.5, routeColour) > 0);
+    // One point alone is no line, but a point.
+    window->run("clearFP();addPointToFp(new google.maps.LatLng(46.70000, 2.20000),\"A\");pushFP();");
+    QCOMPARE(around(46.4, 2.5, routeColour), 0);
+    QVERIFY(around(46.7, 2.2, routeColour) > 0);
+}
+
+void TestPageDrawing::aPointWithoutAPlaceIsLeftOut()
+{
+    window->run("clearFP();addPointToFp(new google.maps.LatLng(46.70000, 2.20000),\"A\");"
+                "addPointToFp(new google.maps.LatLng(nan,nan),\"X\");"
+                "addPointToFp(new google.maps.LatLng(46.70000, 2.80000),\"B\");pushFP();");
+    QVERIFY(around(46.7, 2.5, routeColour) > 0);
+    QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageDrawing::theRouteTakesTheShortWayOverTheDateLine()
+{
+    window->run("map.setZoom(3);map.setCenter(new google.maps.LatLng(0.00000,180.00000));");
+    window->run("clearFP();addPointToFp(new google.maps.LatLng(5.00000,170.00000),\"A\");"
+                "addPointToFp(new google.maps.LatLng(5.00000,-170.00000),\"B\");pushFP();");
+    QVERIFY(around(5, 180, routeColour) > 0);
+    window->run("map.setCenter(new google.maps.LatLng(0.00000, 0.00000));");
+    QCOMPARE(around(5, 0, routeColour, 60), 0);
+    // The same line from the other side of the date line.
+    window->run("map.setCenter(new google.maps.LatLng(0.00000,-178.00000));");
+    QVERIFY(window->pixelsAround(5, -178, 20, QColor(routeColour)) > 0);
+}
+
+void TestPageDrawing::theRouteFollowsTheGreatCircle()
+{
+    window->run("map.setZoom(3);map.setCenter(new google.maps.LatLng(55.00000,-40.00000));");
+    window->run("clearFP();addPointToFp(new google.maps.LatLng(48.00000,-80.00000),\"A\");"
+                "addPointToFp(new google.maps.LatLng(48.00000, 0.00000),\"B\");pushFP();");
+    // Half way between two points of the 48th parallel 80 degrees apart.
+    QVERIFY(around(55.4, -40, routeColour, 6) > 0);
+    QCOMPARE(around(48, -40, routeColour, 6), 0);
+}
+
+void TestPageDrawing::theProcedureShowsBesideTheRoute()
+{
+    window->run("clearFP();addPointToFp(new google.maps.LatLng(46.70000, 2.20000),\"A\");"
+                "addPointToFp(new google.maps.LatLng(46.70000, 2.80000),\"B\");pushFP();");
+    window->run("addPointToSS(new google.maps.LatLng(46.40000, 2.20000),\"C\");"
+                "addPointToSS(new google.maps.LatLng(46.40000, 2.80000),\"D\")");
+    QVERIFY(around(46.4, 2.5, procedureColour) > 0);
+    QVERIFY(around(46.7, 2.5, routeColour) > 0);
+    window->run("clearSS()");
+    QCOMPARE(around(46.4, 2.5, procedureColour, 100), 0);
+    QVERIFY(around(46.7, 2.5, routeColour) > 0);
+}
+
+void TestPageDrawing::runwaysShowUntilTheyAreCleared()
+{
+    // Three runways of one airport, joined with the empty text.
+    window->run("clearRunway();"
+                "drawRwy(new google.maps.LatLng(46.70000, 2.20000),new google.maps.LatLng(46.70000, 2.40000));"
+                "drawRwy(new google.maps.LatLng(46.60000, 2.20000),new google.maps.LatLng(46.60000, 2.40000));"
+                "drawRwy(new google.maps.LatLng(46.40000, 2.20000),new google.maps.LatLng(46.40000, 2.40000));");
+    for (double latitude : {46.7, 46.6, 46.4})
+        QVERIFY(around(latitude, 2.3, runwayColour) > 0);
+    window->run("clearRunway();");
+    QCOMPARE(around(46.55, 2.3, runwayColour, 80), 0);
+}
+
+void TestPageDrawing::airwaysShowByLevel()
+{
+    window->run("addATS('L')");
+    window->run("addToATS(new google.maps.LatLng(46.70000, 2.20000)),'ATS'");
+    window->run("addToATS(new google.maps.LatLng(46.70000, 2.80000)),'ATS'");
+    window->run("addATS('H');addToATS(new google.maps.LatLng(46.60000, 2.20000)),'ATS';"
+                "addToATS(new google.maps.LatLng(46.60000, 2.80000)),'ATS'");
+    window->run("addATS('B');addToATS(new google.maps.LatLng(46.40000, 2.20000)),'ATS';"
+                "addToATS(new google.maps.LatLng(46.40000, 2.80000)),'ATS'");
+    QCOMPARE(around(46.7, 2.5, lowColour), 0);
+    window->run("showATS('L',1)");
+    QVERIFY(around(46.7, 2.5, lowColour) > 0);
+    QCOMPARE(around(46.6, 2.5, highColour), 0);
+    window->run("showATS('H',1)");
+    window->run("showATS('B',1)");
+    QVERIFY(around(46.6, 2.5, highColour) > 0);
+    QVERIFY(around(46.4, 2.5, bothColour) > 0);
+    window->run("showATS('L',0)");
+    QCOMPARE(around(46.7, 2.5, lowColour), 0);
+    QVERIFY(around(46.6, 2.5, highColour) > 0);
+}
+
+void TestPageDrawing::airwaysAddedLaterFollowTheirSwitch()
+{
+    window->run("showATS('B',1)");
+    window->run("addATS('B');addToATS(new google.maps.LatLng(46.40000, 2.20000)),'ATS';"
+                "addToATS(new google.maps.LatLng(46.40000, 2.80000)),'ATS'");
+    QVERIFY(around(46.4, 2.5, bothColour) > 0);
+}
+
+void TestPageDrawing::aPointWithoutAnAirwayIsIgnored()
+{
+    window->run("addToATS(new google.maps.LatLng(46.40000, 2.20000)),'ATS'");
+    window->run("addATS('');addToATS(new google.maps.LatLng(nan,nan)),'ATS';showATS('',1);showATS('?',0)");
+    QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageDrawing::thereIsOneStartMarker()
+{
+    window->run("addSitMarker(new google.maps.LatLng(46.70000000, 2.30000000),\"B737-800\", 63);");
+    QVERIFY(around(46.7, 2.3, startColour) > 20);
+    window->run("addSitMarker(new google.maps.LatLng(46.40000000, 2.30000000),\"A320\", 63.5);");
+    QCOMPARE(around(46.7, 2.3, startColour), 0);
+    QVERIFY(around(46.4, 2.3, startColour) > 20);
+    QCOMPARE(window->run("Array.from(document.querySelectorAll('.chart-marker')).map(e => e.title)").toStringList(),
+             QStringList{"Départ A320"});
+}
+
+void TestPageDrawing::theStartMarkerShowsItsHeading()
+{
+    window->run("addSitMarker(new google.maps.LatLng(46.70000000, 2.30000000),\"\", 0);");
+    const QImage north = pictureAt(46.7, 2.3);
+    window->run("addSitMarker(new google.maps.LatLng(46.70000000, 2.30000000),\"\", 90);");
+    QVERIFY(pictureAt(46.7, 2.3) != north);
+    window->run("addSitMarker(new google.maps.LatLng(46.70000000, 2.30000000),\"\", 1e+22);");
+    window->run("addSitMarker(new google.maps.LatLng(46.70000000, 2.30000000),\"\", 360);");
+    QCOMPARE(pictureAt(46.7, 2.3), north);
+    window->run("addSitMarker(new google.maps.LatLng(46.70000000, 2.30000000),\"\", nan);");
+    QCOMPARE(pictureAt(46.7, 2.3), north);
+}
+
+void TestPageDrawing::draggingTheStartMarkerTellsTheProgram()
+{
+    window->run("addSitMarker(new google.maps.LatLng(46.70000000, 2.30000000),\"A320\", 63);");
+    window->settle();
+    program->clear();
+    const QPoint from = window->mouse->pointOf(46.7, 2.3);
+    const QPoint to = window->mouse->pointOf(46.4, 2.7);
+    window->mouse->drag(from, to);
+    const QStringList moves = program->calls("doMoveSIT");
+    QCOMPARE(moves.size(), 1);
+    const QStringList parts = moves.first().split(' ');
+    QVERIFY(qAbs(parts[1].toDouble() - 46.4) < 0.01);
+    QVERIFY(qAbs(parts[2].toDouble() - 2.7) < 0.01);
+    QVERIFY(around(46.4, 2.7, startColour) > 20);
+    QCOMPARE(around(46.7, 2.3, startColour), 0);
+    // The map stayed where it was.
+    QCOMPARE(window->run("map.getCenter().lat()").toDouble(), 46.5);
+    QCOMPARE(program->calls("doCenter"), QStringList());
+}
+
+void TestPageDrawing::theCommandsOfTheMapWorkOnTheStartMarker()
+{
+    window->run("addSitMarker(new google.maps.LatLng(46.70000000, 2.30000000),\"A320\", 63);");
+    window->settle();
+    QVERIFY(window->menuAt(46.7, 2.3).contains("Ajouter un point utilisateur ici"));
+    QVERIFY(window->chooseEntry("Ajouter un point utilisateur ici"));
+    QCOMPARE(program->calls("sAddNewWptToFp"), QStringList{"sAddNewWptToFp \"WPT\" 46.70000 2.30000"});
+}
+
+void TestPageDrawing::theAircraftComesMovesAndGoes()
+{
+    window->run("eraseAcftMrkr();");
+    window->run("addAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),\"\",63);");
+    QVERIFY(around(46.7, 2.3, aircraftColour) > 20);
+    window->run("setAcftMrkr(new google.maps.LatLng(46.40000, 2.60000),63.25);");
+    QCOMPARE(around(46.7, 2.3, aircraftColour), 0);
+    QVERIFY(around(46.4, 2.6, aircraftColour) > 20);
+    window->run("eraseAcftMrkr();");
+    window->run("eraseAcftMrkr();");
+    QCOMPARE(around(46.4, 2.6, aircraftColour), 0);
+    QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageDrawing::theAircraftTurns()
+{
+    window->run("addAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),\"\",0);");
+    const QImage north = pictureAt(46.7, 2.3);
+    window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),135);");
+    QVERIFY(pictureAt(46.7, 2.3) != north);
+    window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),0);");
+    QCOMPARE(pictureAt(46.7, 2.3), north);
+}
+
+void TestPageDrawing::anAircraftWithoutAPlaceStaysWhereItWas()
+{
+    window->run("addAcftMrkr(new google.maps.LatLng(nan,nan),\"\",0);");
+    QCOMPARE(around(46.7, 2.3, aircraftColour), 0);
+    window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),0);");
+    QVERIFY(around(46.7, 2.3, aircraftColour) > 20);
+    window->run("setAcftMrkr(new google.maps.LatLng(inf,-inf),nan);");
+    QVERIFY(around(46.7, 2.3, aircraftColour) > 20);
+    QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageDrawing::theAircraftOfTheOtherSideShows()
+{
+    // The longitude of the trace is not wrapped by the program.
+    window->run("addAcftMrkr(new google.maps.LatLng(46.70000,362.30000),\"\",0);");
+    QVERIFY(around(46.7, 2.3, aircraftColour) > 20);
+    window->run("map.setCenter(new google.maps.LatLng(46.70000,179.90000));");
+    window->run("setAcftMrkr(new google.maps.LatLng(46.70000,181.00000),0);");
+    window->settle();
+    const QImage image = window->view->grab().toImage();
+    // 1.1 degrees east of the middle at 256 times 256 pixels around the world.
+    int red = 0;
+    for (int x = 588; x < 614; ++x)
+        for (int y = 286; y < 314; ++y)
+            red += image.pixelColor(x, y) == QColor(aircraftColour) ? 1 : 0;
+    QVERIFY(red > 20);
+}
+
+void TestPageDrawing::thousandsOfTicksLeaveOneAircraft()
+{
+    window->run("addAcftMrkr(new google.maps.LatLng(46.00000, 2.00000),\"\",0);");
+    for (int i = 1; i <= 3000; ++i) {
+        const QString place = QString("new google.maps.LatLng(%1, 2.30000)").arg(46 + i * 0.0002, 3, 'f', 5);
+        window->run(QString("setAcftMrkr(%1,%2);;map.setCenter(%1);").arg(place).arg(i % 360));
+    }
+    QCOMPARE(window->run("document.querySelectorAll('.chart-marker').length").toInt(), 1);
+    QCOMPARE(window->run("map.getCenter().lat()").toDouble(), 46.6);
+    QVERIFY(around(46.6, 2.3, aircraftColour) > 20);
+    QCOMPARE(program->calls("doCenter").size(), 3001);
+}
+
+QTEST_MAIN(TestPageDrawing)
+#include "tst_pagedrawing.moc"

@@ -1,0 +1,245 @@
+// Single markers after an edit, and the deletion of the marker last used.
+#include "pagewindow.h"
+
+#include <QtTest>
+
+class TestPageEdits : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        program.reset(new FullProgramSide);
+        window.reset(new PageWindow(program.data()));
+        QVERIFY(window->load());
+        window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(8)");
+    }
+
+    void aSingleMarkerShowsAtOnce_data();
+    void aSingleMarkerShowsAtOnce();
+    void itShowsInAHiddenLayerToo();
+    void itBelongsToItsLayerAfterwards();
+    void anEditedRowTakesThePlaceOfItsMarker();
+    void anEditedUsageChangesTheLayer();
+    void anEditedVorKeepsItsSymbol();
+    void anotherKeyIsAnotherMarker();
+    void aNavaidIsNotTakenForAWaypoint();
+    void deletingRemovesTheMarkerLastUsed_data();
+    void deletingRemovesTheMarkerLastUsed();
+    void deletingWithoutAMarkerDoesNothing();
+    void deletingTwiceRemovesOne();
+    void aDeletedMarkerDoesNotComeBackWithItsLayer();
+    void aDamagedSingleMarkerIsLeftOut();
+
+private:
+    QScopedPointer<ProgramSide> program;
+    QScopedPointer<PageWindow> window;
+
+    QStringList titles(const QString& list)
+    {
+        return window->run(list + ".map(marker => marker.getTitle())").toStringList();
+    }
+    bool isDrawn(double latitude, double longitude)
+    {
+        return window->pixelsAround(latitude, longitude, 8, QColor("#f6f3ea")) < 17 * 17;
+    }
+    QImage symbolAt(double latitude, double longitude)
+    {
+        window->settle();
+        const QPoint middle = window->mouse->pointOf(latitude, longitude);
+        return window->view->grab().toImage().copy(middle.x() - 10, middle.y() - 10, 21, 21);
+    }
+};
+
+void TestPageEdits::aSingleMarkerShowsAtOnce_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<QString>("title");
+
+    QTest::newRow("VOR") << R"(addVORMarker2(new google.maps.LatLng(46.70000, 2.30000),"CHATEAUROUX-CGO4FR",1,"x"))"
+                         << "listVOR"
+                         << "CHATEAUROUX-CGO4FR";
+    QTest::newRow("VOR of usage 4") << R"(addVORMarker2(new google.maps.LatLng(46.70000, 2.30000),"CGO-CGO4FR",4,"x"))"
+                                    << "listVOR"
+                                    << "CGO-CGO4FR";
+    QTest::newRow("NDB") << R"(addNDBMarker2(new google.maps.LatLng(46.70000, 2.30000),"MONTLUCON-MT5FR",2,"x"))"
+                         << "listNDBRte"
+                         << "MONTLUCON-MT5FR";
+    QTest::newRow("NDB terminal") << R"(addNDBMarker2(new google.maps.LatLng(46.70000, 2.30000),"MT-MT5FR",4,"x"))"
+                                  << "listNDBTerm"
+                                  << "MT-MT5FR";
+    QTest::newRow("waypoint") << R"(addWPTMarker2(new google.maps.LatLng(46.70000, 2.30000),"ABLAN-ABLANFR",3,"x"))"
+                              << "listWptRte"
+                              << "ABLAN-ABLANFR";
+    QTest::newRow("waypoint terminal")
+        << R"(addWPTMarker2(new google.maps.LatLng(46.70000, 2.30000),"ABLAN-ABLANFR",4,"x"))"
+        << "listWptTerm"
+        << "ABLAN-ABLANFR";
+    QTest::newRow("waypoint VFR") << R"(addWPTMarker2(new google.maps.LatLng(46.70000, 2.30000),"ABLAN-ABLANFR",6,"x"))"
+                                  << "listWptVfr"
+                                  << "ABLAN-ABLANFR";
+}
+
+void TestPageEdits::aSingleMarkerShowsAtOnce()
+{
+    QFETCH(QString, script);
+    QFETCH(QString, list);
+    QFETCH(QString, title);
+    // No feed has made a manager: the table was empty when the page was fed.
+    window->run(script);
+    QCOMPARE(titles(list), QStringList{title});
+    QVERIFY(isDrawn(46.7, 2.3));
+}
+
+void TestPageEdits::itShowsInAHiddenLayerToo()
+{
+    window->run(
+        R"(addVORMarker(new google.maps.LatLng(46.40000, 2.30000),"A-A4FR",1,"x");addNavMgr();VORMgr.clearMarkers())");
+    window->run(R"(addVORMarker2(new google.maps.LatLng(46.70000, 2.30000),"B-B4FR",1,"x"))");
+    QVERIFY(isDrawn(46.7, 2.3));
+    QVERIFY(!isDrawn(46.4, 2.3));
+}
+
+void TestPageEdits::itBelongsToItsLayerAfterwards()
+{
+    window->run("addNavMgr();VORMgr.addMarkers(listVOR)");
+    window->run(R"(addVORMarker2(new google.maps.LatLng(46.70000, 2.30000),"B-B4FR",1,"x"))");
+    window->run("VORMgr.clearMarkers()");
+    QVERIFY(!isDrawn(46.7, 2.3));
+    window->run("VORMgr.addMarkers(listVOR)");
+    QVERIFY(isDrawn(46.7, 2.3));
+}
+
+void TestPageEdits::anEditedRowTakesThePlaceOfItsMarker()
+{
+    window->run(R"(addWPTMarker2(new google.maps.LatLng(46.40000, 2.30000),"ABLAN-ABLANFR",1,"x"))");
+    window->run(R"(addWPTMarker2(new google.maps.LatLng(46.70000, 2.30000),"ABLAN SUD-ABLANFR",1,"x"))");
+    QCOMPARE(titles("listWptRte"), QStringList{"ABLAN SUD-ABLANFR"});
+    QVERIFY(isDrawn(46.7, 2.3));
+    QVERIFY(!isDrawn(46.4, 2.3));
+}
+
+void TestPageEdits::anEditedUsageChangesTheLayer()
+{
+    window->run(R"(addWPTMarker2(new google.maps.LatLng(46.70000, 2.30000),"ABLAN-ABLANFR",1,"x"))");
+    window->run(R"(addWPTMarker2(new google.maps.LatLng(46.70000, 2.30000),"ABLAN-ABLANFR",6,"x"))");
+    QCOMPARE(titles("listWptRte"), QStringList());
+    QCOMPARE(titles("listWptVfr"), QStringList{"ABLAN-ABLANFR"});
+}
+
+void TestPageEdits::anEditedVorKeepsItsSymbol()
+{
+    window->run(
+        R"(addVORMarker(new google.maps.LatLng(46.70000, 2.30000),"CGO-CGO4FR",17,"x");)"
+        R"(addVORMarker(new google.maps.LatLng(46.40000, 2.30000),"MOU-MOU1FR",1,"x");addNavMgr();VORMgr.addMarkers(listVOR))");
+    const QImage vorDme = symbolAt(46.7, 2.3);
+    QVERIFY(vorDme != symbolAt(46.4, 2.3));
+    // The dialog sends the usage and the name where the feed has the type and the identifier.
+    window->run(R"(addVORMarker2(new google.maps.LatLng(46.70000, 2.30000),"CHATEAUROUX-CGO4FR",3,"x"))");
+    QCOMPARE(titles("listVOR"), (QStringList{"MOU-MOU1FR", "CHATEAUROUX-CGO4FR"}));
+    QCOMPARE(symbolAt(46.7, 2.3), vorDme);
+}
+
+void TestPageEdits::anotherKeyIsAnotherMarker()
+{
+    window->run(R"(addWPTMarker2(new google.maps.LatLng(46.40000, 2.30000),"ABLAN-ABLANFR",1,"x"))");
+    window->run(R"(addWPTMarker2(new google.maps.LatLng(46.70000, 2.30000),"ABLAN-ABLANES",1,"x"))");
+    window->run(R"(addWPTMarker2(new google.maps.LatLng(46.70000, 2.40000),"-",1,"x"))");
+    window->run(R"(addWPTMarker2(new google.maps.LatLng(46.70000, 2.50000),"-",1,"x"))");
+    QCOMPARE(titles("listWptRte"), (QStringList{"ABLAN-ABLANFR", "ABLAN-ABLANES", "-", "-"}));
+}
+
+void TestPageEdits::aNavaidIsNotTakenForAWaypoint()
+{
+    window->run(R"(addWPTMarker2(new google.maps.LatLng(46.40000, 2.30000),"A-KEY",1,"x"))");
+    window->run(R"(addVORMarker2(new google.maps.LatLng(46.70000, 2.30000),"A-KEY",1,"x"))");
+    QCOMPARE(titles("listWptRte"), QStringList{"A-KEY"});
+    QCOMPARE(titles("listVOR"), QStringList{"A-KEY"});
+    // A beacon that has become a VOR is the same navaid.
+    window->run(R"(addNDBMarker2(new google.maps.LatLng(46.70000, 2.30000),"A-KEY",4,"x"))");
+    QCOMPARE(titles("listVOR"), QStringList());
+    QCOMPARE(titles("listNDBTerm"), QStringList{"A-KEY"});
+}
+
+void TestPageEdits::deletingRemovesTheMarkerLastUsed_data()
+{
+    QTest::addColumn<QString>("add");
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<QString>("script");
+
+    const QString place = "(new google.maps.LatLng(46.70000, 2.30000),\"A-AFR\",%1,\"x\")";
+    QTest::newRow("VOR") << "addVORMarker2" + place.arg(1) << "listVOR"
+                         << "delNavaid();theLast == null;";
+    QTest::newRow("NDB") << "addNDBMarker2" + place.arg(1) << "listNDBRte"
+                         << "delNavaid();theLast == null;";
+    QTest::newRow("NDB terminal") << "addNDBMarker2" + place.arg(4) << "listNDBTerm"
+                                  << "delNavaid();theLast == null;";
+    QTest::newRow("waypoint") << "addWPTMarker2" + place.arg(1) << "listWptRte"
+                              << "delWaypoint();theLast == null;";
+    QTest::newRow("waypoint terminal") << "addWPTMarker2" + place.arg(4) << "listWptTerm"
+                                       << "delWaypoint();theLast == null;";
+    QTest::newRow("waypoint VFR") << "addWPTMarker2" + place.arg(6) << "listWptVfr"
+                                  << "delWaypoint();theLast == null;";
+}
+
+void TestPageEdits::deletingRemovesTheMarkerLastUsed()
+{
+    QFETCH(QString, add);
+    QFETCH(QString, list);
+    QFETCH(QString, script);
+    window->run(add);
+    window->settle();
+    window->menuAt(46.7, 2.3);
+    QCOMPARE(window->run("theLast === " + list + "[0]").toBool(), true);
+    window->closeMenu();
+    window->run(script);
+    QCOMPARE(window->run(list + ".length").toInt(), 0);
+    QVERIFY(!isDrawn(46.7, 2.3));
+}
+
+void TestPageEdits::deletingWithoutAMarkerDoesNothing()
+{
+    window->run(R"(addVORMarker2(new google.maps.LatLng(46.70000, 2.30000),"A-A4FR",1,"x"))");
+    window->run("delNavaid();theLast == null;");
+    window->run("delWaypoint();theLast == null;");
+    QCOMPARE(titles("listVOR"), QStringList{"A-A4FR"});
+    QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageEdits::deletingTwiceRemovesOne()
+{
+    window->run(R"(addVORMarker2(new google.maps.LatLng(46.70000, 2.30000),"A-A4FR",1,"x");)"
+                R"(addVORMarker2(new google.maps.LatLng(46.40000, 2.30000),"B-B4FR",1,"x"))");
+    window->settle();
+    window->click(46.7, 2.3);
+    window->run("delNavaid();theLast == null;");
+    window->run("delNavaid();theLast == null;");
+    QCOMPARE(titles("listVOR"), QStringList{"B-B4FR"});
+}
+
+void TestPageEdits::aDeletedMarkerDoesNotComeBackWithItsLayer()
+{
+    window->run(R"(addVORMarker2(new google.maps.LatLng(46.70000, 2.30000),"A-A4FR",1,"x"))");
+    window->settle();
+    window->click(46.7, 2.3);
+    window->run("delNavaid();theLast == null;");
+    window->run("VORMgr.clearMarkers()");
+    window->run("VORMgr.addMarkers(listVOR)");
+    QVERIFY(!isDrawn(46.7, 2.3));
+}
+
+void TestPageEdits::aDamagedSingleMarkerIsLeftOut()
+{
+    window->run(R"(addVORMarker2(new google.maps.LatLng(nan, 2.30000),"A-A4FR",1,"x");)"
+                R"(addWPTMarker2(new google.maps.LatLng(46.70000,inf),"A-AFR",1,"x");)"
+                R"(addNDBMarker2(new google.maps.LatLng(46.70000, 2.30000),"B-B5FR",1,"x"))");
+    QCOMPARE(titles("listVOR"), QStringList());
+    QCOMPARE(titles("listWptRte"), QStringList());
+    QCOMPARE(titles("listNDBRte"), QStringList{"B-B5FR"});
+    QCOMPARE(window->page->messages, QStringList());
+}
+
+QTEST_MAIN(TestPageEdits)
+#include "tst_pageedits.moc"

@@ -1,0 +1,201 @@
+// Centre and zoom of the map: what scripts set and read, what the user moves, what the page reports.
+#include "pagewindow.h"
+
+#include <QtTest>
+
+class TestPageView : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        program.reset(new FullProgramSide);
+        window.reset(new PageWindow(program.data()));
+        QVERIFY(window->load());
+        window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(6)");
+        program->clear();
+    }
+
+    void whatIsSetIsReadBackExactly();
+    void theCentreSurvivesZoomAndResize();
+    void aZoomOutOfRangeIsCut();
+    void whatIsNoNumberIsIgnored();
+    void eachCentreIsReported();
+    void eachZoomIsReportedAsAWholeNumber();
+    void theWheelGoesToTheNextWholeZoom();
+    void theWheelKeepsThePlaceUnderThePointer();
+    void aDragMovesTheCentreAndReports();
+    void aDragIsNoClick();
+    void aDragOverTheDateLineWrapsTheCentre();
+    void thePointerIsReported();
+    void thePointerOverAMarkerTellsItsTitle();
+    void theMapFollowsWithTwoSemicolons();
+
+private:
+    QScopedPointer<ProgramSide> program;
+    QScopedPointer<PageWindow> window;
+
+    double number(const QString& script)
+    {
+        const QVariant value = window->run(script);
+        return value.isValid() ? value.toDouble() : qQNaN();
+    }
+};
+
+void TestPageView::whatIsSetIsReadBackExactly()
+{
+    window->run("map.setCenter(new google.maps.LatLng(-33.94625,-179.00000));");
+    window->run("map.setZoom(6.5)");
+    QCOMPARE(number("map.getCenter().lat()"), -33.94625);
+    QCOMPARE(number("map.getCenter().lng()"), -179.0);
+    QCOMPARE(number("map.getZoom()"), 6.5);
+    window->run("map.setCenter(new google.maps.LatLng(48.12345,180.00000));map.setZoom(11)");
+    QCOMPARE(number("map.getCenter().lng()"), 180.0);
+    QCOMPARE(number("map.getZoom()"), 11.0);
+}
+
+void TestPageView::theCentreSurvivesZoomAndResize()
+{
+    window->run("map.setCenter(new google.maps.LatLng(48.12345,  2.98765));");
+    for (double zoom : {9.0, 3.25, 17.0, 6.0})
+        window->run(QString("map.setZoom(%1)").arg(zoom));
+    for (const QSize& size : {QSize(431, 307), QSize(1024, 768), QSize(800, 600)}) {
+        window->view->resize(size);
+        QTRY_COMPARE(window->run("innerWidth").toInt(), size.width());
+        window->settle();
+    }
+    QCOMPARE(number("map.getCenter().lat()"), 48.12345);
+    QCOMPARE(number("map.getCenter().lng()"), 2.98765);
+    QCOMPARE(number("map.getZoom()"), 6.0);
+}
+
+void TestPageView::aZoomOutOfRangeIsCut()
+{
+    window->run("map.setZoom(99)");
+    QCOMPARE(number("map.getZoom()"), 18.0);
+    window->run("map.setZoom(-3)");
+    QCOMPARE(number("map.getZoom()"), 2.0);
+    window->run("map.setZoom(1e+300)");
+    QCOMPARE(number("map.getZoom()"), 18.0);
+}
+
+void TestPageView::whatIsNoNumberIsIgnored()
+{
+    window->run("map.setCenter(new google.maps.LatLng(nan,inf));map.setZoom(nan)");
+    QCOMPARE(number("map.getCenter().lat()"), 46.5);
+    QCOMPARE(number("map.getZoom()"), 6.0);
+    QCOMPARE(program->calls(), QStringList());
+}
+
+void TestPageView::eachCentreIsReported()
+{
+    window->run("map.setCenter(new google.maps.LatLng(48.50000,-3.00000));");
+    QCOMPARE(program->calls(), QStringList{"doCenter 48.50000 -3.00000"});
+    window->run("map.setCenter(new google.maps.LatLng(48.50000,-3.00000));");
+    QCOMPARE(program->calls("doCenter").size(), 2);
+}
+
+void TestPageView::eachZoomIsReportedAsAWholeNumber()
+{
+    window->run("map.setZoom(7)");
+    window->run("map.setZoom(7)");
+    window->run("map.setZoom(6.5)");
+    QCOMPARE(program->calls("doZoom"), (QStringList{"doZoom 7", "doZoom 7", "doZoom 7"}));
+    window->run("map.setZoom(6.25)");
+    QCOMPARE(program->calls("doZoom").last(), "doZoom 6");
+    QCOMPARE(program->calls("doCenter"), QStringList());
+}
+
+void TestPageView::theWheelGoesToTheNextWholeZoom()
+{
+    const QPoint middle(400, 300);
+    window->mouse->wheel(middle, 120);
+    QTRY_COMPARE(number("map.getZoom()"), 7.0);
+    window->mouse->wheel(middle, -120);
+    QTRY_COMPARE(number("map.getZoom()"), 6.0);
+    QCOMPARE(program->calls("doZoom"), (QStringList{"doZoom 7", "doZoom 6"}));
+    window->run("map.setZoom(6.5)");
+    window->mouse->wheel(middle, 120);
+    QTRY_COMPARE(number("map.getZoom()"), 7.0);
+    window->run("map.setZoom(6.5)");
+    window->mouse->wheel(middle, -120);
+    QTRY_COMPARE(number("map.getZoom()"), 6.0);
+}
+
+void TestPageView::theWheelKeepsThePlaceUnderThePointer()
+{
+    const QPoint place = window->mouse->pointOf(48, 4);
+    program->clear();
+    window->mouse->wheel(place, 120);
+    QTRY_COMPARE(number("map.getZoom()"), 7.0);
+    const QPoint now = window->mouse->pointOf(48, 4);
+    QVERIFY((now - place).manhattanLength() <= 2);
+    QVERIFY(!program->calls("doCenter").isEmpty());
+}
+
+void TestPageView::aDragMovesTheCentreAndReports()
+{
+    window->mouse->drag({400, 300}, {300, 300});
+    // A hundred pixels of the 256 times 64 around the world.
+    QVERIFY(qAbs(number("map.getCenter().lng()") - (2.5 + 100 * 360.0 / 16384)) < 0.03);
+    QVERIFY(qAbs(number("map.getCenter().lat()") - 46.5) < 0.02);
+    const QString last = program->calls("doCenter").last();
+    QCOMPARE(last,
+             window->run("'doCenter ' + map.getCenter().lat().toFixed(5) + ' ' + map.getCenter().lng().toFixed(5)")
+                 .toString());
+}
+
+void TestPageView::aDragIsNoClick()
+{
+    window->run(R"(addAPTMarker(new google.maps.LatLng(46.50000, 2.50000),"LFXX",1,"<b>X</b>");pushAPT();)");
+    window->settle();
+    window->mouse->drag({400, 300}, {460, 340});
+    QCOMPARE(window->popupText(), "");
+    QVERIFY(window->run("theLast === null").toBool());
+}
+
+void TestPageView::aDragOverTheDateLineWrapsTheCentre()
+{
+    window->run("map.setCenter(new google.maps.LatLng(46.50000,179.90000));");
+    for (int i = 0; i < 3; ++i)
+        window->mouse->drag({600, 300}, {200, 300});
+    const double longitude = number("map.getCenter().lng()");
+    QVERIFY2(longitude > -180 && longitude < -150, qPrintable(QString::number(longitude)));
+}
+
+void TestPageView::thePointerIsReported()
+{
+    // So near that a pixel is less than a second.
+    window->run("map.setZoom(18)");
+    window->mouse->click({400, 300});
+    const QStringList texts = program->calls("doData");
+    QVERIFY(!texts.isEmpty());
+    QCOMPARE(texts.last(), "doData \"46° 30' 00\" N  002° 30' 00\" E\"");
+    window->run("map.setCenter(new google.maps.LatLng(-33.50000,-70.75000));");
+    window->mouse->click({400, 300});
+    QCOMPARE(program->calls("doData").last(), "doData \"33° 30' 00\" S  070° 45' 00\" W\"");
+}
+
+void TestPageView::thePointerOverAMarkerTellsItsTitle()
+{
+    window->run(R"(addAPTMarker(new google.maps.LatLng(46.50000, 2.50000),"LFXX",1,"<b>X</b>");pushAPT();)");
+    window->settle();
+    window->mouse->contextMenu({402, 301});
+    QVERIFY(program->calls("doData").last().endsWith("  LFXX\""));
+    QCOMPARE(window->run("document.getElementById('chart').title").toString(), "LFXX");
+    window->mouse->click({500, 100});
+    QCOMPARE(window->run("document.getElementById('chart').title").toString(), "");
+}
+
+void TestPageView::theMapFollowsWithTwoSemicolons()
+{
+    window->run("addAcftMrkr(new google.maps.LatLng(48.00000, 2.00000),\"\",90);");
+    window->run("setAcftMrkr(new google.maps.LatLng(48.10000, 2.10000),91);;map.setCenter(new "
+                "google.maps.LatLng(48.10000, 2.10000));");
+    QCOMPARE(number("map.getCenter().lat()"), 48.1);
+    QCOMPARE(number("map.getCenter().lng()"), 2.1);
+}
+
+QTEST_MAIN(TestPageView)
+#include "tst_pageview.moc"
