@@ -20,6 +20,7 @@ function loadMapEngine() {
     'maps/engine/lines.js',
     'maps/engine/points.js',
     'maps/engine/hitgrid.js',
+    'maps/engine/stack.js',
     'maps/engine/scalebar.js',
     'maps/engine/map.js',
     'maps/engine/pointer.js',

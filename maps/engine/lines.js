@@ -1,4 +1,4 @@
-/** Paints the polylines of a map, the lower `zIndex` first. */
+/** The polylines of a map. */
 (function () {
   'use strict';
   const engine = window.mapEngine;
@@ -62,15 +62,20 @@
 
     add(line) {
       this.lines.push(line);
-      this.lines.sort((a, b) => a.zIndex - b.zIndex);
     }
 
     remove(line) {
       this.lines = this.lines.filter(other => other !== line);
     }
 
-    paint(frame) {
-      this.lines.forEach(line => this.paintLine(frame, line));
+    /** @return {number[]} the zIndex values that occur */
+    heights() {
+      return this.lines.map(line => line.zIndex);
+    }
+
+    /** @param {number} height the zIndex of the lines to paint */
+    paintHeight(frame, height) {
+      this.lines.filter(line => line.zIndex === height).forEach(line => this.paintLine(frame, line));
     }
 
     paintLine(frame, line) {

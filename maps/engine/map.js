@@ -41,7 +41,7 @@
       this.leaflet = L.map(element, leafletOptions);
       this.leaflet.setView([centre.lat(), centre.lng()], wanted.zoom || 0);
       this.base = new engine.ChartCanvas('tilePane', [new engine.Outlines(window.worldOutlines), new engine.Graticule()]);
-      this.chart = new engine.ChartCanvas('overlayPane', [this.lines, this.points]);
+      this.chart = new engine.ChartCanvas('overlayPane', [new engine.Stack([this.lines, this.points])]);
       this.base.addTo(this.leaflet);
       this.chart.addTo(this.leaflet);
       this.addControls(wanted);

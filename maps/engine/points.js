@@ -1,4 +1,4 @@
-/** Paints the points of all data layers of a map, each as a copy of its symbol's sprite, and finds them by place. */
+/** The points of all data layers of a map: paints each as a copy of its symbol's sprite, and finds them by place. */
 (function () {
   'use strict';
   const engine = window.mapEngine;
@@ -28,36 +28,48 @@
       this.grid = null;
     }
 
-    /** All points, those of a higher zIndex later; within one zIndex as they were added. */
-    inOrder() {
+    /** The points by their zIndex; within one they stand as they were added. @return {Map<number, Array>} */
+    byHeight() {
       if (this.ordered)
         return this.ordered;
-      const byHeight = new Map();
+      const found = new Map();
       this.layers.forEach(layer => layer.features.forEach(feature => {
         const height = feature.look.zIndex || 0;
-        const level = byHeight.get(height);
+        const level = found.get(height);
         if (level)
           level.push(feature);
         else
-          byHeight.set(height, [feature]);
+          found.set(height, [feature]);
       }));
-      const heights = Array.from(byHeight.keys()).sort((a, b) => a - b);
-      this.ordered = [].concat.apply([], heights.map(height => byHeight.get(height)));
-      this.ordered.forEach((feature, order) => {
+      this.ordered = found;
+      return found;
+    }
+
+    /** @return {number[]} the zIndex values that occur */
+    heights() {
+      return Array.from(this.byHeight().keys());
+    }
+
+    /** The points that answer the mouse, in the order of drawing. */
+    touchable() {
+      const levels = this.heights().sort((a, b) => a - b).map(height => this.byHeight().get(height));
+      const all = [].concat.apply([], levels).filter(feature => feature.look.clickable !== false);
+      all.forEach((feature, order) => {
         feature.order = order;
       });
-      return this.ordered;
+      return all;
     }
 
     /** @return the point nearest to a place in unit coordinates, or null when none is near enough to be meant */
     nearest(x, y, scale) {
       if (!this.grid)
-        this.grid = new engine.HitGrid(this.inOrder().filter(feature => feature.look.clickable !== false));
+        this.grid = new engine.HitGrid(this.touchable());
       return this.grid.nearest(x, y, touchPixels / scale);
     }
 
-    paint(frame) {
-      const points = this.inOrder();
+    /** @param {number} height the zIndex of the points to paint */
+    paintHeight(frame, height) {
+      const points = this.byHeight().get(height) || [];
       const labels = [];
       for (let world = frame.firstWorld; world <= frame.lastWorld; ++world)
         this.paintWorld(frame, points, frame.left - world * frame.scale, labels);
@@ -81,7 +93,7 @@
       }
     }
 
-    /** Labels stand right of their symbols, over all of them, with a light rim against whatever lies below. */
+    /** Labels stand right of their symbols, with a light rim against whatever lies below. */
     write(frame, labels) {
       const context = frame.context;
       context.textBaseline = 'middle';

@@ -38,21 +38,30 @@
     waypointVfr: [polygon([[0, -5], [5, 0], [0, 5], [-5, 0]]), colours.vfr, '#ffe9df', 1.4, 12],
   };
 
-  /** From which zoom on symbols have which size: a whole country in view leaves each of them little room. */
-  const sizes = [{ fromZoom: 8, scale: 1 }, { fromZoom: 6.5, scale: 0.72 }, { fromZoom: 0, scale: 0.48 }];
+  /**
+   * From which zoom on symbols have which size: a whole country in view leaves each of them little room, and of the
+   * thousands of waypoints no more than a dot.
+   */
+  const sizes = [
+    { fromZoom: 8, scale: 1 },
+    { fromZoom: 6.5, scale: 0.72 },
+    { fromZoom: 5.5, scale: 0.48, dot: 1.3 },
+    { fromZoom: 0, scale: 0.34, dot: 1 },
+  ];
 
-  function lookOf(design, scale) {
-    const [path, stroke, fill, weight, zIndex] = design;
-    return {
-      icon: { path: path, strokeColor: stroke, strokeWeight: weight * Math.sqrt(scale), fillColor: fill, fillOpacity: 1, scale: scale },
-      zIndex: zIndex,
-    };
+  function lookOf(name, size) {
+    const [path, stroke, fill, weight, zIndex] = designs[name];
+    const scale = size.scale;
+    const icon = size.dot && name.indexOf('waypoint') === 0
+      ? { path: circle(0, 0, size.dot), strokeColor: stroke, strokeWeight: 0, fillColor: stroke, fillOpacity: 0.6, scale: 1 }
+      : { path: path, strokeColor: stroke, strokeWeight: weight * Math.sqrt(scale), fillColor: fill, fillOpacity: 1, scale: scale };
+    return { icon: icon, zIndex: zIndex };
   }
 
   const looks = sizes.map(size => {
     const all = {};
     Object.keys(designs).forEach(name => {
-      all[name] = lookOf(designs[name], size.scale);
+      all[name] = lookOf(name, size);
     });
     return all;
   });
