@@ -125,8 +125,9 @@ void PageProbe::installOnNewPage()
 bool PageProbe::waitUntilLoaded(int timeout)
 {
     const auto* debugText = window->findChild<QTextEdit*>("debugText");
-    const bool loaded = QTest::qWaitFor(
-        [debugText] { return debugText->toPlainText().trimmed().endsWith("Chargement terminé"); }, timeout);
+    const QString last = QCoreApplication::translate("MainWindow", "Chargement terminé");
+    const bool loaded =
+        QTest::qWaitFor([debugText, last] { return debugText->toPlainText().trimmed().endsWith(last); }, timeout);
     // A probe made after the load starts to record here.
     if (!evaluate("typeof zephanProbe").toString().startsWith("object"))
         installOnNewPage();
