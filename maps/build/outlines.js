@@ -40,7 +40,7 @@ function shifted(flat, degrees) {
   return flat.map((value, i) => (i % 2 ? value : value + degrees));
 }
 
-/** The copies of an unrolled ring that can reach the world between 180 west and 180 east, closed and without holes at a pole. */
+/** The copies of an unrolled ring that can reach the world between 180 west and 180 east; at a pole it is closed. */
 function worldRings(points) {
   const flat = unroll(points);
   const turn = flat[flat.length - 2] - flat[0];

@@ -67,7 +67,8 @@
     },
 
     place: function () {
-      L.DomUtil.setPosition(this.canvas, L.point(this.area.left, this.area.top).subtract(this.leaflet.getPixelOrigin()));
+      const corner = L.point(this.area.left, this.area.top);
+      L.DomUtil.setPosition(this.canvas, corner.subtract(this.leaflet.getPixelOrigin()));
     },
 
     paint: function () {

@@ -51,7 +51,7 @@
     },
   };
 
-  /** Properties with a `<name>_changed` method (where the class has one) and event on each `set`, as well as equal values. */
+  /** Properties; each `set` calls the method and tells the event `<name>_changed`, for an equal value too. */
   class MVCObject {
     get(key) {
       return this.values_ ? this.values_[key] : undefined;

@@ -1,4 +1,4 @@
-/** Meridians and parallels at a round step that suits the zoom, with their degrees written where they cross the view. */
+/** Meridians and parallels at a round step that suits the zoom, with their degrees where they cross. */
 (function () {
   'use strict';
   const engine = window.mapEngine;
@@ -51,7 +51,8 @@
       for (let i = first; i <= last; ++i) {
         const degrees = i * step;
         const turned = degrees - 360 * Math.round(degrees / 360);
-        lines.push({ at: half(engine.unitX(degrees) * frame.scale - frame.left), text: label(turned, 'E', 'W'), number: i });
+        const at = half(engine.unitX(degrees) * frame.scale - frame.left);
+        lines.push({ at: at, text: label(turned, 'E', 'W'), number: i });
       }
       return lines;
     }
@@ -61,8 +62,10 @@
       const first = Math.max(-limit, Math.ceil(engine.latitudeOf((frame.top + frame.height) / frame.scale) / step));
       const last = Math.min(limit, Math.floor(engine.latitudeOf(frame.top / frame.scale) / step));
       const lines = [];
-      for (let i = first; i <= last; ++i)
-        lines.push({ at: half(engine.unitY(i * step) * frame.scale - frame.top), text: label(i * step, 'N', 'S'), number: i });
+      for (let i = first; i <= last; ++i) {
+        const at = half(engine.unitY(i * step) * frame.scale - frame.top);
+        lines.push({ at: at, text: label(i * step, 'N', 'S'), number: i });
+      }
       return lines;
     }
 

@@ -48,7 +48,8 @@
   }
 
   /** @return {boolean} whether the value is a position that can be drawn */
-  engine.isFinitePosition = position => position instanceof LatLng && isFinite(position.lat_) && isFinite(position.lng_);
+  engine.isFinitePosition = position =>
+    position instanceof LatLng && isFinite(position.lat_) && isFinite(position.lng_);
 
   maps.LatLng = LatLng;
   maps.Point = Point;

@@ -40,7 +40,8 @@
       this.exactCentre = centre;
       this.leaflet = L.map(element, leafletOptions);
       this.leaflet.setView([centre.lat(), centre.lng()], wanted.zoom || 0);
-      this.base = new engine.ChartCanvas('tilePane', [new engine.Outlines(window.worldOutlines), new engine.Graticule()]);
+      const outlines = new engine.Outlines(window.worldOutlines);
+      this.base = new engine.ChartCanvas('tilePane', [outlines, new engine.Graticule()]);
       this.chart = new engine.ChartCanvas('overlayPane', [new engine.Stack([this.lines, this.points])]);
       this.base.addTo(this.leaflet);
       this.chart.addTo(this.leaflet);

@@ -1,4 +1,4 @@
-/** The base map: sea, land, coasts and borders out of `window.worldOutlines`, which is made when the project is built. */
+/** The base map: sea, land, coasts and borders out of `window.worldOutlines`, made when the project is built. */
 (function () {
   'use strict';
   const engine = window.mapEngine;
@@ -19,8 +19,12 @@
     /** @return {?{land: Array, borders: Array}} lines of unit coordinates with, for land, which edges are coast */
     cellAt(column, row) {
       const cell = this.cells.get(row * this.columns + column);
-      if (cell && !cell.lines)
-        cell.lines = { land: cell.land.map(text => this.readRing(text, cell)), borders: cell.borders.map(this.readLine, this) };
+      if (cell && !cell.lines) {
+        cell.lines = {
+          land: cell.land.map(text => this.readRing(text, cell)),
+          borders: cell.borders.map(text => this.readLine(text)),
+        };
+      }
       return cell ? cell.lines : null;
     }
 
@@ -144,7 +148,8 @@
       const next = i + 1 === count ? 0 : i + 1;
       const x = points[2 * next] * scale - left;
       const y = points[2 * next + 1] * scale - frame.top;
-      const away = (x < -20 && fromX < -20) || (y < -20 && fromY < -20) || (x > right && fromX > right) || (y > bottom && fromY > bottom);
+      const away = (x < -20 && fromX < -20) || (y < -20 && fromY < -20)
+        || (x > right && fromX > right) || (y > bottom && fromY > bottom);
       if (away || (shown && !shown[i])) {
         if (open)
           context.stroke();

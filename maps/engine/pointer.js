@@ -74,7 +74,8 @@
       travel += L.DomEvent.getWheelDelta(domEvent);
       if (Math.abs(travel) < wheelStep)
         return;
-      const zoom = Math.max(leaflet.getMinZoom(), Math.min(leaflet.getMaxZoom(), nextZoom(leaflet.getZoom(), travel > 0)));
+      const wanted = nextZoom(leaflet.getZoom(), travel > 0);
+      const zoom = Math.max(leaflet.getMinZoom(), Math.min(leaflet.getMaxZoom(), wanted));
       travel = 0;
       if (zoom !== leaflet.getZoom())
         leaflet.setZoomAround(leaflet.mouseEventToContainerPoint(domEvent), zoom, { animate: false });

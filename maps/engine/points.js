@@ -85,11 +85,14 @@
         const x = point.x * scale - left;
         const y = point.y * scale - top;
         const sprite = point.sprite;
-        if (x < -sprite.middle || y < -sprite.middle || x > frame.width + sprite.middle || y > frame.height + sprite.middle)
+        const middle = sprite.middle;
+        if (x < -middle || y < -middle || x > frame.width + middle || y > frame.height + middle)
           continue;
-        context.drawImage(sprite.canvas, Math.round(x) - sprite.middle, Math.round(y) - sprite.middle, sprite.size, sprite.size);
+        const pixelX = Math.round(x) - middle;
+        const pixelY = Math.round(y) - middle;
+        context.drawImage(sprite.canvas, pixelX, pixelY, sprite.size, sprite.size);
         if (point.look.label)
-          labels.push({ x: Math.round(x) + sprite.middle, y: Math.round(y), label: point.look.label });
+          labels.push({ x: pixelX + sprite.size, y: pixelY + middle, label: point.look.label });
       }
     }
 

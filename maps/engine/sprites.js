@@ -11,8 +11,8 @@
 
   /**
    * Draws a symbol on a canvas of its own.
-   * @return {{canvas: HTMLCanvasElement, size: number, middle: number, radius: number}} size in CSS pixels; the symbol's
-   *     origin lies `middle` pixels from the left and the upper edge
+   * @return {{canvas: HTMLCanvasElement, size: number, middle: number}} size in CSS pixels; the symbol's origin lies
+   *     `middle` pixels from the left and the upper edge
    */
   function drawSymbol(symbol) {
     const scale = symbol.scale || 1;
@@ -40,7 +40,7 @@
       context.lineJoin = 'round';
       context.stroke(path);
     }
-    return { canvas: canvas, size: 2 * middle, middle: middle, radius: radius };
+    return { canvas: canvas, size: 2 * middle, middle: middle };
   }
 
   engine.drawSymbol = drawSymbol;

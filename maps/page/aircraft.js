@@ -2,13 +2,14 @@
 (function () {
   'use strict';
 
-  const path = 'M 0 -14 L 2 -11 L 2 -5 L 13 2 L 13 5 L 2 2 L 1.5 9 L 5 11.5 L 5 13.5 L 0 12 L -5 13.5 L -5 11.5 L -1.5 9 L -2 2 L -13 5 L -13 2 L -2 -5 L -2 -11 Z';
+  const path = 'M 0 -14 L 2 -11 L 2 -5 L 13 2 L 13 5 L 2 2 L 1.5 9 L 5 11.5 L 5 13.5 L 0 12 '
+    + 'L -5 13.5 L -5 11.5 L -1.5 9 L -2 2 L -13 5 L -13 2 L -2 -5 L -2 -11 Z';
   let marker = null;
   let drawn = NaN;
 
   function iconFor(heading) {
     drawn = heading;
-    return { path: path, rotation: heading, fillColor: '#d32f2f', fillOpacity: 1, strokeColor: '#4a0d0d', strokeWeight: 1.2 };
+    return page.symbol(path, '#4a0d0d', 1.2, '#d32f2f', { rotation: heading });
   }
 
   page.eraseAircraft = function () {

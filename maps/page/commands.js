@@ -37,14 +37,28 @@
     slots: [slot],
     run: marker => page.call(slot, marker.title, marker.position.lat(), marker.position.lng()),
   });
-  const here = (word, slot, text) => ({ word: word, slots: [slot], run: place => page.call(slot, text, place.lat(), place.lng()) });
+  const here = (word, slot, text) => ({
+    word: word,
+    slots: [slot],
+    run: place => page.call(slot, text, place.lat(), place.lng()),
+  });
   const airways = { word: 'airways', slots: ['sATS'], run: askAirways };
 
   /** The words are keys of the page's language. An entry is shown when the program has all its slots. */
   const markerCommands = {
     airport: [plain('addToPlan', 'sAddAptToFp'), plain('showRunways', 'doViewRwy')],
-    navaid: [plain('addToPlan', 'sAddNavToFp'), airways, edit('editNavaid', 'sAddNavToDB'), plain('deleteNavaid', 'sDelNavFromDB')],
-    waypoint: [plain('addToPlan', 'sAddWptToFp'), airways, edit('editWaypoint', 'sAddWptToDB'), plain('deleteWaypoint', 'sDelWptFromDB')],
+    navaid: [
+      plain('addToPlan', 'sAddNavToFp'),
+      airways,
+      edit('editNavaid', 'sAddNavToDB'),
+      plain('deleteNavaid', 'sDelNavFromDB'),
+    ],
+    waypoint: [
+      plain('addToPlan', 'sAddWptToFp'),
+      airways,
+      edit('editWaypoint', 'sAddWptToDB'),
+      plain('deleteWaypoint', 'sDelWptFromDB'),
+    ],
   };
 
   const mapCommands = [

@@ -18,8 +18,8 @@ var listWptVfr = [];
   page.families = { airport: 'airport', navaid: 'navaid', waypoint: 'waypoint' };
 
   /**
-   * One marker. The title joins it to its row: `iden` of an airport, `iden-ukey` of a navaid, `name-ukey` of a waypoint.
-   * It is text and never markup; the HTML is that of the pop-up.
+   * One marker. The title joins it to its row: `iden` of an airport, `iden-ukey` of a navaid, `name-ukey` of a
+   * waypoint. It is text and never markup; the HTML is that of the pop-up.
    */
   class ChartMarker {
     constructor(family, symbol, position, title, html) {
@@ -53,7 +53,11 @@ var listWptVfr = [];
     return marker;
   };
 
-  const waypointSymbols = { [usage.terminal]: 'waypointTerminal', [usage.rnav]: 'waypointRnav', [usage.vfr]: 'waypointVfr' };
+  const waypointSymbols = {
+    [usage.terminal]: 'waypointTerminal',
+    [usage.rnav]: 'waypointRnav',
+    [usage.vfr]: 'waypointVfr',
+  };
 
   page.collectAirport = (position, title, html) =>
     page.collect(listApt, page.families.airport, 'airport', position, title, html);

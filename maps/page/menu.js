@@ -72,6 +72,6 @@
   });
   document.addEventListener('wheel', page.closeMenu, true);
   window.addEventListener('resize', page.closeMenu);
-  // The web view's own menu (back, reload...) has no place on a map.
-  document.addEventListener('contextmenu', event => event.preventDefault());
+  // The web view's own menu (back, reload...) has no place on a map, nor on a pop-up that keeps its events for itself.
+  document.addEventListener('contextmenu', event => event.preventDefault(), true);
 })();

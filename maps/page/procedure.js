@@ -7,7 +7,7 @@
     colour: colour,
     weight: 2.5,
     zIndex: 55,
-    point: { path: 'M -3.5 -3.5 L 3.5 -3.5 L 3.5 3.5 L -3.5 3.5 Z', strokeColor: colour, strokeWeight: 1.6, fillColor: '#ffffff', fillOpacity: 1 },
+    point: page.symbol('M -3.5 -3.5 L 3.5 -3.5 L 3.5 3.5 L -3.5 3.5 Z', colour, 1.6, '#ffffff'),
   });
 })();
 

@@ -7,7 +7,7 @@
     colour: colour,
     weight: 3,
     zIndex: 60,
-    point: { path: 'M -4 0 A 4 4 0 1 1 4 0 A 4 4 0 1 1 -4 0 Z', strokeColor: colour, strokeWeight: 2, fillColor: '#ffffff', fillOpacity: 1 },
+    point: page.symbol('M -4 0 A 4 4 0 1 1 4 0 A 4 4 0 1 1 -4 0 Z', colour, 2, '#ffffff'),
   });
 })();
 

@@ -21,8 +21,10 @@ var mapService = {
   }
 
   function scriptAddress() {
+    if (!mapService.key)
+      return mapService.address;
     const mark = mapService.address.indexOf('?') < 0 ? '?' : '&';
-    return mapService.key ? `${mapService.address}${mark}key=${encodeURIComponent(mapService.key)}` : mapService.address;
+    return `${mapService.address}${mark}key=${encodeURIComponent(mapService.key)}`;
   }
 
   /**

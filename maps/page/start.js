@@ -2,11 +2,12 @@
 (function () {
   'use strict';
 
-  const path = 'M 0 -15 L 4 -4 L 11 2 L 11 5 L 3 3 L 2 9 L 5 12 L 5 14 L 0 12.5 L -5 14 L -5 12 L -2 9 L -3 3 L -11 5 L -11 2 L -4 -4 Z';
+  const path = 'M 0 -15 L 4 -4 L 11 2 L 11 5 L 3 3 L 2 9 L 5 12 L 5 14 L 0 12.5 '
+    + 'L -5 14 L -5 12 L -2 9 L -3 3 L -11 5 L -11 2 L -4 -4 Z';
   let marker = null;
 
   function iconFor(heading) {
-    return { path: path, rotation: heading, fillColor: '#f2a900', fillOpacity: 1, strokeColor: '#5b3d00', strokeWeight: 1.4 };
+    return page.symbol(path, '#5b3d00', 1.4, '#f2a900', { rotation: heading });
   }
 
   /** Puts the marker to a place; there is never more than one. */

@@ -10,7 +10,8 @@
   function angleText(degrees, width, positive, negative) {
     const seconds = Math.round(Math.abs(degrees) * 3600);
     const whole = `00${Math.floor(seconds / 3600)}`.slice(-width);
-    return `${whole}° ${two(Math.floor(seconds / 60) % 60)}' ${two(seconds % 60)}" ${degrees < 0 ? negative : positive}`;
+    const minutes = Math.floor(seconds / 60) % 60;
+    return `${whole}° ${two(minutes)}' ${two(seconds % 60)}" ${degrees < 0 ? negative : positive}`;
   }
 
   function positionText(position) {

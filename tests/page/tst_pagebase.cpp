@@ -180,6 +180,18 @@ void TestPageBase::theEnginesOwnMenuStaysAway()
     const QPoint place(100, 500);
     QContextMenuEvent event(QContextMenuEvent::Mouse, place, window->view->mapToGlobal(place));
     QVERIFY(window->page->swallowContextMenuEvent(&event));
+    // Nor does it come on a pop-up, which keeps its mouse events from the map.
+    window->run("addAPTMarker(new google.maps.LatLng(46.50000, 2.50000),\"LFXX\",1,\"<b>X</b>\");pushAPT();");
+    window->settle();
+    window->click(46.5, 2.5);
+    QCOMPARE(window->popupText(), "X");
+    const QVariantList text = window
+                                  ->run("var box = document.querySelector('.popup-text').getBoundingClientRect();"
+                                        "[box.left + 3, box.top + 3]")
+                                  .toList();
+    const QPoint inside(text.value(0).toInt(), text.value(1).toInt());
+    QContextMenuEvent onPopup(QContextMenuEvent::Mouse, inside, window->view->mapToGlobal(inside));
+    QVERIFY(window->page->swallowContextMenuEvent(&onPopup));
 }
 
 void TestPageBase::aReloadStartsWithEmptyLists()
