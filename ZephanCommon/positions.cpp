@@ -28,19 +28,38 @@ double lowered(double value, double circle, bool keepFullCircle)
     return keepFullCircle && rest == 0.0 ? circle : rest;
 }
 
-QString positionText(double arcSeconds, int degreeWidth, const QString& hemisphere, bool withSecondMark)
+// A start makes thousands of position texts, so they are put together piece by piece instead of filling a pattern.
+void appendPadded(QString& text, const QString& number, int width)
+{
+    for (int i = number.size(); i < width; ++i) {
+        text += QLatin1Char('0');
+    }
+    text += number;
+}
+
+void appendWhole(QString& text, double value, int width)
+{
+    const bool small = value < 1e9; // false for NaN
+    appendPadded(text, small ? QString::number(static_cast<int>(value)) : QString::number(value, 'f', 0), width);
+}
+
+QString positionText(double arcSeconds, int degreeWidth, QChar hemisphere, bool withSecondMark)
 {
     const double degreesWithFraction = arcSeconds / arcSecondsPerDegree;
     const double degrees = std::trunc(degreesWithFraction);
     const double minutesWithFraction = (degreesWithFraction - degrees) * 60.0;
     const double minutes = std::trunc(minutesWithFraction);
     const double seconds = 60.0 * (minutesWithFraction - minutes);
-    const QString pattern = withSecondMark ? QStringLiteral("%2 %3' %4\" %1") : QStringLiteral("%2 %3' %4 %1");
-    const QChar zero = QLatin1Char('0');
-    return pattern.arg(hemisphere)
-        .arg(degrees, degreeWidth, 'f', 0, zero)
-        .arg(minutes, 2, 'f', 0, zero)
-        .arg(seconds, 5, 'f', 2, zero);
+    QString text;
+    text.reserve(16);
+    appendWhole(text, degrees, degreeWidth);
+    text += QLatin1Char(' ');
+    appendWhole(text, minutes, 2);
+    text += QLatin1String("' ");
+    appendPadded(text, QString::number(seconds, 'f', 2), 5);
+    text += QLatin1String(withSecondMark ? "\" " : " ");
+    text += hemisphere;
+    return text;
 }
 
 } // namespace
@@ -85,13 +104,13 @@ int truncatedInt(double value)
 
 QString latitudeText(double latSec, bool withSecondMark)
 {
-    const QString hemisphere = latSec < 0.0 ? QStringLiteral("S") : QStringLiteral("N");
+    const QChar hemisphere = QLatin1Char(latSec < 0.0 ? 'S' : 'N');
     return positionText(std::fabs(latSec), 2, hemisphere, withSecondMark);
 }
 
 QString longitudeText(double lonSec, bool withSecondMark)
 {
     const double wrapped = wrapHalfCircleArcSeconds(lonSec);
-    const QString hemisphere = wrapped < 0.0 ? QStringLiteral("W") : QStringLiteral("E");
+    const QChar hemisphere = QLatin1Char(wrapped < 0.0 ? 'W' : 'E');
     return positionText(std::fabs(wrapped), 3, hemisphere, withSecondMark);
 }

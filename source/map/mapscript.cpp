@@ -1,5 +1,6 @@
 #include "mapscript.h"
 
+#include "filled.h"
 #include "positions.h"
 
 namespace {
@@ -20,22 +21,20 @@ QString shortNumber(double value)
     return QString::number(value, 'g', 6);
 }
 
-// The patterns are filled in one go, so that a "%1" inside a name stays what it is.
-
 QString navaidMarker(const QString& pattern, const mapscript::NavaidMarker& marker)
 {
-    return pattern.arg(degrees(marker.place.lat), degrees(marker.place.lon), marker.iden,
-                       QString::number(marker.number), marker.popup, marker.key);
+    return filled(pattern, {degrees(marker.place.lat), degrees(marker.place.lon), marker.iden,
+                            QString::number(marker.number), marker.popup, marker.key});
 }
 
 QString waypointMarker(const QString& head, const mapscript::WaypointMarker& marker)
 {
-    return QStringLiteral("%1,\"%2\")").arg(head, marker.popup);
+    return filled(QStringLiteral("%1,\"%2\")"), {head, marker.popup});
 }
 
 QString namedPoint(const QString& pattern, const mapscript::Place& place, const QString& name)
 {
-    return pattern.arg(degrees(place.lat), degrees(place.lon), QStringLiteral("\"%1\"").arg(name));
+    return filled(pattern, {degrees(place.lat), degrees(place.lon), filled(QStringLiteral("\"%1\""), {name})});
 }
 
 } // namespace
@@ -54,12 +53,13 @@ Place wrappedPlace(double latDeg, double lonDeg)
 
 QString setCenter(const Place& place)
 {
-    return QStringLiteral("map.setCenter(new google.maps.LatLng(%1,%2));").arg(degrees(place.lat), degrees(place.lon));
+    return filled(QStringLiteral("map.setCenter(new google.maps.LatLng(%1,%2));"),
+                  {degrees(place.lat), degrees(place.lon)});
 }
 
 QString setZoom(double zoom)
 {
-    return QStringLiteral("map.setZoom(%1)").arg(shortNumber(zoom));
+    return filled(QStringLiteral("map.setZoom(%1)"), {shortNumber(zoom)});
 }
 
 QString centerLatitude()
@@ -79,8 +79,9 @@ QString zoomLevel()
 
 QString addAptMarker(const AirportMarker& marker)
 {
-    return QStringLiteral("addAPTMarker(new google.maps.LatLng(%1,%2),\"%3\",%4,\"%5\")")
-        .arg(degrees(marker.place.lat), degrees(marker.place.lon), marker.iden, QStringLiteral("1"), marker.popup);
+    return filled(
+        QStringLiteral("addAPTMarker(new google.maps.LatLng(%1,%2),\"%3\",%4,\"%5\")"),
+        {degrees(marker.place.lat), degrees(marker.place.lon), marker.iden, QStringLiteral("1"), marker.popup});
 }
 
 QString addVorMarker(const NavaidMarker& marker)
@@ -95,9 +96,10 @@ QString addNdbMarker(const NavaidMarker& marker)
 
 QString addWptMarker(const WaypointMarker& marker)
 {
-    const QString head = QStringLiteral("addWPTMarker(new google.maps.LatLng(%1,%2),\"%3-%4\",%6")
-                             .arg(degrees(marker.place.lat), degrees(marker.place.lon), marker.name, marker.key,
-                                  QString::number(marker.usage));
+    // There is no fifth placeholder.
+    const QString head = filled(QStringLiteral("addWPTMarker(new google.maps.LatLng(%1,%2),\"%3-%4\",%6"),
+                                {degrees(marker.place.lat), degrees(marker.place.lon), marker.name, marker.key,
+                                 QString(), QString::number(marker.usage)});
     return waypointMarker(head, marker);
 }
 
@@ -128,9 +130,9 @@ QString addNdbMarker2(const NavaidMarker& marker)
 
 QString addWptMarker2(const WaypointMarker& marker)
 {
-    const QString head = QStringLiteral("addWPTMarker2(new google.maps.LatLng(%1,%2),\"%3-%4\",%5")
-                             .arg(degrees(marker.place.lat), degrees(marker.place.lon), marker.name, marker.key,
-                                  QString::number(marker.usage));
+    const QString head = filled(
+        QStringLiteral("addWPTMarker2(new google.maps.LatLng(%1,%2),\"%3-%4\",%5"),
+        {degrees(marker.place.lat), degrees(marker.place.lon), marker.name, marker.key, QString::number(marker.usage)});
     return waypointMarker(head, marker);
 }
 
@@ -148,25 +150,25 @@ QString delWaypoint()
 
 QString markerLayer(QLatin1String manager, QLatin1String list, bool shown)
 {
-    return shown ? QStringLiteral("%1.addMarkers(%2)").arg(manager, list)
-                 : QStringLiteral("%1.clearMarkers()").arg(manager);
+    return shown ? filled(QStringLiteral("%1.addMarkers(%2)"), {manager, list})
+                 : filled(QStringLiteral("%1.clearMarkers()"), {manager});
 }
 
 QString airwayLayer(char level, bool shown)
 {
-    return QStringLiteral("showATS('%1',%2)").arg(QLatin1Char(level)).arg(shown ? 1 : 0);
+    return filled(QStringLiteral("showATS('%1',%2)"), {QString(QLatin1Char(level)), QString::number(shown ? 1 : 0)});
 }
 
 QString addAts(QChar level)
 {
-    return QStringLiteral("addATS('%1')").arg(level);
+    return filled(QStringLiteral("addATS('%1')"), {level});
 }
 
 QString addToAts(const Place& place, const QString& text)
 {
     // The bracket stands before the comma, as the page has always been told.
-    return QStringLiteral("addToATS(new google.maps.LatLng(%1,%2)),'%3'")
-        .arg(degrees(place.lat), degrees(place.lon), text);
+    return filled(QStringLiteral("addToATS(new google.maps.LatLng(%1,%2)),'%3'"),
+                  {degrees(place.lat), degrees(place.lon), text});
 }
 
 QString clearRunway()
@@ -176,8 +178,8 @@ QString clearRunway()
 
 QString drawRunway(const Place& highEnd, const Place& lowEnd)
 {
-    return QStringLiteral("drawRwy(new google.maps.LatLng(%1,%2),new google.maps.LatLng(%3,%4));")
-        .arg(degrees(highEnd.lat), degrees(highEnd.lon), degrees(lowEnd.lat), degrees(lowEnd.lon));
+    return filled(QStringLiteral("drawRwy(new google.maps.LatLng(%1,%2),new google.maps.LatLng(%3,%4));"),
+                  {degrees(highEnd.lat), degrees(highEnd.lon), degrees(lowEnd.lat), degrees(lowEnd.lon)});
 }
 
 QString clearFp()
@@ -212,8 +214,8 @@ QString addPointToSs(const Place& place, const QString& name)
 
 QString addSitMarker(const Place& place, const QString& aircraft, double heading)
 {
-    return QStringLiteral("addSitMarker(new google.maps.LatLng(%1,%2),\"%3\", %4);")
-        .arg(fineDegrees(place.lat), fineDegrees(place.lon), aircraft, shortNumber(heading));
+    return filled(QStringLiteral("addSitMarker(new google.maps.LatLng(%1,%2),\"%3\", %4);"),
+                  {fineDegrees(place.lat), fineDegrees(place.lon), aircraft, shortNumber(heading)});
 }
 
 QString eraseAircraft()
@@ -223,21 +225,21 @@ QString eraseAircraft()
 
 QString addAircraft(const Place& place, double heading)
 {
-    return QStringLiteral("addAcftMrkr(new google.maps.LatLng(%1,%2),%3,%4);")
-        .arg(degrees(place.lat), degrees(place.lon), QStringLiteral("\"\""), shortNumber(heading));
+    return filled(QStringLiteral("addAcftMrkr(new google.maps.LatLng(%1,%2),%3,%4);"),
+                  {degrees(place.lat), degrees(place.lon), QStringLiteral("\"\""), shortNumber(heading)});
 }
 
 QString moveAircraft(const Place& place, double heading)
 {
-    return QStringLiteral("setAcftMrkr(new google.maps.LatLng(%1,%2),%3);")
-        .arg(degrees(place.lat), degrees(place.lon), shortNumber(heading));
+    return filled(QStringLiteral("setAcftMrkr(new google.maps.LatLng(%1,%2),%3);"),
+                  {degrees(place.lat), degrees(place.lon), shortNumber(heading)});
 }
 
 QString followAircraft(const Place& place, double heading)
 {
     // Two semicolons then stand in a row, which is harmless.
-    return QStringLiteral("%3;map.setCenter(new google.maps.LatLng(%1,%2));")
-        .arg(degrees(place.lat), degrees(place.lon), moveAircraft(place, heading));
+    return filled(QStringLiteral("%3;map.setCenter(new google.maps.LatLng(%1,%2));"),
+                  {degrees(place.lat), degrees(place.lon), moveAircraft(place, heading)});
 }
 
 } // namespace mapscript

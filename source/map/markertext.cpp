@@ -1,17 +1,17 @@
 #include "markertext.h"
 
+#include "filled.h"
 #include "positions.h"
 
 // The colour tags are never closed: the page shows each text in a window of its own.
-// Each pattern is filled in one go, so that a "%1" inside a name stays what it is.
 
 namespace {
 
 QString navaid(const QString& pattern, const QString& iden, const QString& name, double frequency, double latSec,
                double lonSec)
 {
-    return pattern.arg(iden, name, QString::number(frequency, 'g', 6), latitudeText(latSec, false),
-                       longitudeText(lonSec, false));
+    return filled(pattern, {iden, name, QString::number(frequency, 'g', 6), latitudeText(latSec, false),
+                            longitudeText(lonSec, false)});
 }
 
 } // namespace
@@ -20,8 +20,8 @@ namespace markertext {
 
 QString airport(const QString& iden, const QString& name, double latSec, double lonSec)
 {
-    return QStringLiteral("<font color=blue><b>Airport %1</b><font color=black><br/>%2<br/>%3 - %4")
-        .arg(iden, name, latitudeText(latSec, false), longitudeText(lonSec, false));
+    return filled(QStringLiteral("<font color=blue><b>Airport %1</b><font color=black><br/>%2<br/>%3 - %4"),
+                  {iden, name, latitudeText(latSec, false), longitudeText(lonSec, false)});
 }
 
 QString vor(const QString& iden, const QString& name, double frequency, double latSec, double lonSec)
@@ -38,8 +38,8 @@ QString ndb(const QString& iden, const QString& name, double frequency, double l
 
 QString waypoint(const QString& iden, const QString& name, const QString& usage, double latSec, double lonSec)
 {
-    return QStringLiteral("<font color=blue><b>Waypoint %1</b><font color=black><br/>%2 (%3)<br/>%4 - %5")
-        .arg(iden, name, usage, latitudeText(latSec, false), longitudeText(lonSec, false));
+    return filled(QStringLiteral("<font color=blue><b>Waypoint %1</b><font color=black><br/>%2 (%3)<br/>%4 - %5"),
+                  {iden, name, usage, latitudeText(latSec, false), longitudeText(lonSec, false)});
 }
 
 } // namespace markertext
