@@ -4,11 +4,10 @@
 #include "ui_mainwindow.h"
 
 #include "cflightplan.h"
-#include "cnavglobalvar.h"
+#include "pointsearch.h"
 
+#include <QHash>
 #include <QIcon>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 
 namespace {
 
@@ -19,116 +18,53 @@ QIcon resourceIcon(const QString& name)
     return QIcon(QStringLiteral(":/icon/images/%1.bmp").arg(name));
 }
 
-// One run through the three tables. Lines and items are built together, so that the indexes match; the items go to
-// the tree at the end, in one go: a tree that takes them one by one lays itself out for each.
-class Search
+// By the type of the navaid; any other has no icon.
+QIcon navaidIcon(int type)
+{
+    static const QHash<int, QString> names{
+        {1, QStringLiteral("Img05")},  {4, QStringLiteral("Img05")}, {16, QStringLiteral("Img05")},
+        {17, QStringLiteral("Img05")}, {8, QStringLiteral("Img03")}, {32, QStringLiteral("Img03")},
+    };
+    return names.contains(type) ? resourceIcon(names.value(type)) : QIcon();
+}
+
+// The found lines and their items, built together so that the indexes match. The items go to the tree at the end, in
+// one go: a tree that takes them one by one lays itself out for each.
+class FoundItems
 {
 public:
-    Search(CNavGlobalVar& globals, const QString& searchKey, bool exactMatch, int lineSpeed, int lineAltitude)
-        : settings(globals), plan(*globals.flightPlan), key(searchKey), exact(exactMatch), speed(lineSpeed),
-          altitude(lineAltitude)
+    FoundItems(QList<CFpLinePtr>& foundLines, int lineSpeed, int lineAltitude)
+        : lines(foundLines), speed(lineSpeed), altitude(lineAltitude)
     {
     }
 
-    void airports()
+    void add(const FoundPoint& point, const QIcon& icon)
     {
-        QSqlQuery row = walkOnce(settings.dbGEN);
-        for (bool more = settings.sqlMgr->getAPT(key, exact, row); more; more = row.next()) {
-            const CFpLinePtr line = plan.newLine();
-            line->fromApt(row);
-            addRunways(line->dbKey, addItem(line, airportIcon));
+        point.line->speed = speed;
+        point.line->altd = altitude;
+        QTreeWidgetItem* item = makeItem(point.line, icon);
+        for (const CFpLinePtr& runway : point.runways) {
+            item->addChild(makeItem(runway, runwayIcon));
         }
-    }
-
-    void navaids()
-    {
-        QSqlQuery row = walkOnce(settings.dbGEN);
-        for (bool more = settings.sqlMgr->getNAV(key, exact, row); more; more = row.next()) {
-            const CFpLinePtr line = plan.newLine();
-            line->fromNav(row);
-            addItem(line, navaidIcon(line->navType));
-        }
-    }
-
-    void waypoints()
-    {
-        QSqlQuery row = walkOnce(settings.dbWPT);
-        for (bool more = settings.sqlMgr->getWPT(key, exact, row); more; more = row.next()) {
-            const CFpLinePtr line = plan.newLine();
-            line->fromWpt(row);
-            addItem(line, waypointIcon);
-        }
+        items << item;
     }
 
     QList<QTreeWidgetItem*> items;
 
 private:
-    static QSqlQuery walkOnce(const QString& connection)
-    {
-        QSqlQuery query(QSqlDatabase::database(connection));
-        query.setForwardOnly(true);
-        return query;
-    }
-
-    // An approximate search is approximate here too: an airport also gets the runways of those whose key begins with
-    // its own.
-    void addRunways(const QString& airportKey, QTreeWidgetItem* parent)
-    {
-        QSqlQuery row = walkOnce(settings.dbGEN);
-        for (bool more = settings.sqlMgr->getRWY(airportKey, exact, row); more; more = row.next()) {
-            const CFpLinePtr high = plan.newLine();
-            high->fromRwyHigh(row);
-            parent->addChild(makeItem(high, runwayIcon));
-            const CFpLinePtr low = plan.newLine();
-            low->fromRwyLow(row);
-            parent->addChild(makeItem(low, runwayIcon));
-        }
-    }
-
-    QTreeWidgetItem* addItem(const CFpLinePtr& line, const QIcon& icon)
-    {
-        line->speed = speed;
-        line->altd = altitude;
-        items << makeItem(line, icon);
-        return items.last();
-    }
-
     QTreeWidgetItem* makeItem(const CFpLinePtr& line, const QIcon& icon)
     {
-        const QString index = QString::number(plan.foundLines.size());
+        const QString index = QString::number(lines.size());
         auto* item = new QTreeWidgetItem({QString(), line->iden, line->ctry, line->name, line->dbKey, index});
         item->setIcon(0, icon);
-        plan.foundLines << line;
+        lines << line;
         return item;
     }
 
-    QIcon navaidIcon(int type) const
-    {
-        switch (type) {
-        case 1:
-        case 4:
-        case 16:
-        case 17:
-            return vorIcon;
-        case 8:
-        case 32:
-            return ndbIcon;
-        default:
-            return QIcon();
-        }
-    }
-
-    CNavGlobalVar& settings;
-    CFlightPlan& plan;
-    const QString key;
-    const bool exact;
+    QList<CFpLinePtr>& lines;
     const int speed;
     const int altitude;
-    const QIcon airportIcon = resourceIcon(QStringLiteral("Img08"));
     const QIcon runwayIcon = resourceIcon(QStringLiteral("Img10"));
-    const QIcon vorIcon = resourceIcon(QStringLiteral("Img05"));
-    const QIcon ndbIcon = resourceIcon(QStringLiteral("Img03"));
-    const QIcon waypointIcon = resourceIcon(QStringLiteral("Img12"));
 };
 
 } // namespace
@@ -140,11 +76,19 @@ void MainWindow::searchInTable(bool exact)
     ui->treeWFound->clear();
     flightPlan->foundLines.clear();
 
-    Search search(*settings, searchKey, exact, ui->leSpeedCruise->text().toInt(), ui->leAltCruise->text().toInt());
-    search.airports();
-    search.navaids();
-    search.waypoints();
-    ui->treeWFound->addTopLevelItems(search.items);
+    FoundItems found(flightPlan->foundLines, ui->leSpeedCruise->text().toInt(), ui->leAltCruise->text().toInt());
+    const QIcon airportIcon = resourceIcon(QStringLiteral("Img08"));
+    for (const FoundPoint& airport : findAirports(*flightPlan, searchKey, exact)) {
+        found.add(airport, airportIcon);
+    }
+    for (const FoundPoint& navaid : findNavaids(*flightPlan, searchKey, exact)) {
+        found.add(navaid, navaidIcon(navaid.line->navType));
+    }
+    const QIcon waypointIcon = resourceIcon(QStringLiteral("Img12"));
+    for (const FoundPoint& waypoint : findWaypoints(*flightPlan, searchKey, exact)) {
+        found.add(waypoint, waypointIcon);
+    }
+    ui->treeWFound->addTopLevelItems(found.items);
 }
 
 void MainWindow::on_searchData_returnPressed()
