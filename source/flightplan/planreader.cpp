@@ -76,8 +76,11 @@ PlanFile readPlan(QIODevice& device, const std::function<CFpLinePtr()>& newLine)
     PlanFile plan;
     QTextStream stream(&device);
     const auto nextLine = [&stream] { return stream.readLine().trimmed(); };
-    while (!stream.atEnd()) {
-        const QString line = nextLine();
+    // Until no line comes, not until the stream's end: a file that holds less than its size tells, or fails under the
+    // reader, never comes to that end.
+    QString read;
+    while (stream.readLineInto(&read)) {
+        const QString line = read.trimmed();
         const QString tag = line.left(tagLength);
         if (tag == QLatin1String("<wpnt>")) {
             plan.lines += newLine();

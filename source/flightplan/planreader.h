@@ -16,6 +16,6 @@ struct PlanFile
     int skipped = 0; ///< fields that could not be used: before the first point, or a position with parts missing
 };
 
-/// Reads a plan file to its end. `newLine` makes each line; the file's fields then go over it.
-/// Any content is taken: what is no known tag is passed over.
+/// Reads a plan file to its end, or to the first read that fails. `newLine` makes each line; the file's fields then go
+/// over it. Any content is taken: what is no known tag is passed over.
 PlanFile readPlan(QIODevice& device, const std::function<CFpLinePtr()>& newLine);

@@ -1,6 +1,7 @@
 // The reader takes any bytes: what is a plan comes in, what is damaged is counted.
 #include "planlines.h"
 #include "planreader.h"
+#include "shortdevice.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -198,6 +199,55 @@ private slots:
     {
         QBuffer closed;
         QVERIFY(readPlan(closed, cruisingLine).lines.isEmpty());
+    }
+
+    void deviceThatGivesLessThanItsSizeEnds_data()
+    {
+        QTest::addColumn<bool>("fails");
+        QTest::newRow("nothing behind the last byte") << false;
+        QTest::newRow("reads fail behind the last byte") << true;
+    }
+
+    void deviceThatGivesLessThanItsSizeEnds()
+    {
+        QFETCH(bool, fails);
+        const auto behind = fails ? ShortDevice::Behind::Failure : ShortDevice::Behind::Nothing;
+        ShortDevice device("<wpnt>\nuswp\n<name>\nBAMES\n<llps>\n1.5,2.5,3\n<wpnt>\nsn", behind);
+        const PlanFile plan = readPlan(device, cruisingLine);
+        QCOMPARE(plan.lines.size(), 2);
+        QCOMPARE(plan.skipped, 0);
+        QCOMPARE(plan.lines.first()->name, QString("BAMES"));
+        QCOMPARE(plan.lines.first()->elev, 3);
+        QCOMPARE(plan.lines.last()->fpType, QString("sn"));
+    }
+
+    void deviceThatGivesNothingEnds()
+    {
+        ShortDevice empty("", ShortDevice::Behind::Nothing);
+        QVERIFY(readPlan(empty, cruisingLine).lines.isEmpty());
+        ShortDevice failing("", ShortDevice::Behind::Failure);
+        QVERIFY(readPlan(failing, cruisingLine).lines.isEmpty());
+    }
+
+    void fileOfTheSystemThatIsShorterThanItsSizeEnds()
+    {
+        // A page by its size, a few bytes by its content; the second cannot be read at all.
+        for (const char* path : {"/sys/class/net/lo/mtu", "/sys/class/net/lo/speed"}) {
+            QFile file(path);
+            if (!file.open(QIODevice::ReadOnly)) {
+                QSKIP("this machine has no such files");
+            }
+            QVERIFY(file.size() > 1000);
+            QVERIFY(readPlan(file, cruisingLine).lines.isEmpty());
+        }
+    }
+
+    void emptyLinesDoNotEndThePlan()
+    {
+        const PlanFile plan = read("\n\n<wpnt>\nuswp\n\n   \n\n<name>\n\n<iden>\nBAMES\n\n<wpnt>\nsnav\n");
+        QCOMPARE(plan.lines.size(), 2);
+        QCOMPARE(plan.lines.first()->name, QString());
+        QCOMPARE(plan.lines.first()->iden, QString("BAMES"));
     }
 
     void brokenFiles_data()
