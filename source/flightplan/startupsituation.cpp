@@ -4,11 +4,12 @@
 
 #include <QFile>
 #include <QSaveFile>
-#include <QStringList>
 #include <QTextCodec>
 #include <QTextStream>
 
 namespace {
+
+const QLatin1String byteOrderMark("\xEF\xBB\xBF"); // of UTF-8, as some editors put it
 
 // The lines pass through as Latin-1, one character a byte, so that whatever code page the simulator's user has
 // written them in comes out as it went in. Only the new line is encoded for the platform.
@@ -25,27 +26,35 @@ QString bytesAsText(const QString& text)
 
 } // namespace
 
-bool setStartupSituation(const QString& iniPath, const QString& situationFile)
+QStringList startupLines(QIODevice& ini, const QString& situationFile)
 {
-    QFile file(platformPath(iniPath));
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        return false;
-    }
     // A forward slash, unlike in the paths of the files themselves: as the simulator's ini file expects it.
     const QString startup = bytesAsText(QStringLiteral("startupSituation=Saved Simulations/%1").arg(situationFile));
-    QStringList lines;
-    QTextStream reader(&file);
+    QTextStream reader(&ini);
     passBytes(reader);
-    while (!reader.atEnd()) {
-        const QString line = reader.readLine();
+    QStringList lines;
+    QString line;
+    // Until no line comes, not until the stream's end: a file that holds less than its size tells, or fails under the
+    // reader, never comes to that end.
+    while (reader.readLineInto(&line)) {
+        if (lines.isEmpty() && line.startsWith(byteOrderMark)) {
+            line.remove(0, byteOrderMark.size());
+        }
         lines += line.startsWith(QLatin1String("startupSituation")) ? startup : line;
     }
-    file.close();
+    return lines;
+}
 
+bool setStartupSituation(QFile& ini, const QString& situationFile)
+{
+    const QStringList lines = startupLines(ini, situationFile);
+    // What was read ahead of a failure is not the simulator's settings.
+    const bool complete = ini.error() == QFileDevice::NoError;
+    ini.close();
     // Written to the side: a disk that is full must not cost the simulator its settings.
-    QSaveFile rewritten(file.fileName());
+    QSaveFile rewritten(ini.fileName());
     rewritten.setDirectWriteFallback(true);
-    if (!rewritten.open(QIODevice::WriteOnly)) {
+    if (!complete || !rewritten.open(QIODevice::WriteOnly)) {
         return false;
     }
     QTextStream writer(&rewritten);
@@ -53,4 +62,10 @@ bool setStartupSituation(const QString& iniPath, const QString& situationFile)
     writer << lines.join(QLatin1Char('\n'));
     writer.flush();
     return rewritten.commit();
+}
+
+bool setStartupSituation(const QString& iniPath, const QString& situationFile)
+{
+    QFile file(platformPath(iniPath));
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) && setStartupSituation(file, situationFile);
 }

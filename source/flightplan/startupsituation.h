@@ -1,9 +1,21 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
-/// Rewrites every line of the simulator's ini file that starts with "startupSituation" so that the simulator starts
-/// with `situationFile` out of its saved situations. Without such a line none is added. All other lines stay in their
-/// order, byte for byte, with single line feeds between them and none behind the last.
-/// A file that cannot be read or written stays as it is: false. `iniPath` may hold backslashes.
+class QFile;
+class QIODevice;
+
+/// The lines of the simulator's ini file, one character a byte, with every line that starts with "startupSituation"
+/// made to name `situationFile` out of the saved situations. Without such a line none is added. All other lines stay
+/// as they are, in their order; only a UTF-8 byte order mark ahead of the first goes. Reads to the end of the file or
+/// to the first read that fails, which the caller learns from its device.
+QStringList startupLines(QIODevice& ini, const QString& situationFile);
+
+/// Rewrites the simulator's ini file, open for reading as text, with its `startupLines`: single line feeds between them
+/// and none behind the last. Closes it. A file that cannot be read to its end or cannot be written stays as it is:
+/// false.
+bool setStartupSituation(QFile& ini, const QString& situationFile);
+
+/// The same by the file's path, which may hold backslashes. False also when there is no such file.
 bool setStartupSituation(const QString& iniPath, const QString& situationFile);

@@ -2,11 +2,14 @@
 #include "boxresponder.h"
 #include "planlines.h"
 #include "planonsandbox.h"
+#include "shortdevice.h"
 #include "situationtext.h"
 #include "startupsituation.h"
 
 #include <QDir>
 #include <QtTest>
+
+#include <unistd.h>
 
 namespace {
 
@@ -276,7 +279,7 @@ private slots:
     void bytesOfAnyCodePageStay()
     {
         const Sandbox sandbox(Sandbox::Databases::None);
-        QByteArray all = "\xEF\xBB\xBF; ";
+        QByteArray all = "; ";
         for (int byte = 1; byte < 256; ++byte) {
             all += byte == '\r' || byte == '\n' ? ' ' : static_cast<char>(byte);
         }
@@ -284,6 +287,80 @@ private slots:
         QVERIFY(setStartupSituation(sandbox.path(iniFile), QString::fromUtf8("ORLÉANS.SIT")));
         QCOMPARE(sandbox.readFile(iniFile), all + "\nstartupSituation=Saved Simulations/ORL\xC3\x89"
                                                   "ANS.SIT");
+    }
+
+    void byteOrderMarkHidesNoKeyAndGoes_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("after");
+        const QByteArray mark = "\xEF\xBB\xBF";
+        const QByteArray line = "startupSituation=Saved Simulations/A.SIT";
+        QTest::newRow("the key in the first line") << mark + "startupSituation=Old.sit\nx=1\n" << line + "\nx=1";
+        QTest::newRow("the key in the only line") << mark + "startupSituation=Old.sit" << line;
+        QTest::newRow("the key further down") << mark + "[UI]\r\nstartupSituation=Old.sit\r\n"
+                                              << "[UI]\n" + line;
+        QTest::newRow("no key") << mark + "[UI]\nx=1" << QByteArray("[UI]\nx=1");
+        QTest::newRow("nothing but the mark") << mark << QByteArray();
+        QTest::newRow("an empty first line") << mark + "\nstartupSituation=Old.sit"
+                                             << "\n" + line;
+        QTest::newRow("only one mark goes") << mark + mark + "startupSituation=1" << mark + "startupSituation=1";
+        QTest::newRow("a mark further down is text") << "x=1\n" + mark + "startupSituation=1"
+                                                     << "x=1\n" + mark + "startupSituation=1";
+        QTest::newRow("half a mark is text")
+            << QByteArray("\xEF\xBBstartupSituation=1") << QByteArray("\xEF\xBBstartupSituation=1");
+        QTest::newRow("other code pages behind the mark") << mark + "\xE9\xFF\x80=\xC3\xA9\nstartupSituation=1"
+                                                          << "\xE9\xFF\x80=\xC3\xA9\n" + line;
+    }
+
+    void byteOrderMarkHidesNoKeyAndGoes()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, after);
+        const Sandbox sandbox(Sandbox::Databases::None);
+        sandbox.writeFile(iniFile, before);
+        QVERIFY(setStartupSituation(sandbox.path(iniFile), "A.SIT"));
+        QCOMPARE(sandbox.readFile(iniFile), after);
+    }
+
+    void iniThatGivesLessThanItsSizeEnds()
+    {
+        const QStringList expected{"[UI]", "startupSituation=Saved Simulations/A.SIT", "", "x="};
+        for (const auto behind : {ShortDevice::Behind::Nothing, ShortDevice::Behind::Failure}) {
+            ShortDevice device("[UI]\nstartupSituation=Old.sit\n\nx=", behind);
+            QCOMPARE(startupLines(device, "A.SIT"), expected);
+        }
+    }
+
+    void iniThatCannotBeReadIsNotRewritten()
+    {
+        const Sandbox sandbox(Sandbox::Databases::None);
+        const QByteArray before = "[UI]\nstartupSituation=Old.sit\n";
+        sandbox.writeFile(iniFile, before);
+        QFile file(sandbox.path(iniFile));
+        QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Text));
+        // Under the open file lies one that only takes bytes, so that every read fails.
+        QFile writing(sandbox.path(iniFile));
+        QVERIFY(writing.open(QIODevice::WriteOnly | QIODevice::Append));
+        QVERIFY(dup2(writing.handle(), file.handle()) >= 0);
+        QVERIFY(!setStartupSituation(file, "A.SIT"));
+        QCOMPARE(sandbox.readFile(iniFile), before);
+        QCOMPARE(sandbox.filesIn("system"), QStringList{"AeoZephan.ini"});
+    }
+
+    void iniOfTheSystemThatIsNeverAtItsEndIsLeft()
+    {
+        // A page by its size, and every read of it fails.
+        const QString target = "/sys/class/net/lo/speed";
+        QFile unreadable(target);
+        if (!unreadable.open(QIODevice::ReadOnly)) {
+            QSKIP("this machine has no such file");
+        }
+        QVERIFY(unreadable.size() > 1000);
+        const Sandbox sandbox(Sandbox::Databases::None);
+        sandbox.removeFile(iniFile);
+        QVERIFY(QFile::link(target, sandbox.path(iniFile)));
+        QVERIFY(!setStartupSituation(sandbox.path(iniFile), "A.SIT"));
+        QVERIFY(QFileInfo(sandbox.path(iniFile)).isSymLink());
     }
 
     void emptyIniStaysEmpty()
