@@ -19,7 +19,8 @@ namespace {
 
 constexpr int altitudeColumn = 9;
 
-// A marker's title is its label, "-" and its key. A title without a key gives an empty one.
+// A marker's title is its label, "-" and its key. A title without a key gives an empty one, which is looked up like
+// any other.
 QString keyOfTitle(const QString& title)
 {
     return title.split(QLatin1Char('-')).value(1);
@@ -74,7 +75,7 @@ void MainWindow::sAddNavToFp(const QString& param)
 {
     const QString key = keyOfTitle(param);
     QSqlQuery query(QSqlDatabase::database(settings->dbGEN));
-    if (key.isEmpty() || !settings->sqlMgr->getNAV(key, true, query)) {
+    if (!settings->sqlMgr->getNAV(key, true, query)) {
         return;
     }
     const CFpLinePtr line = flightPlan->newLine();
@@ -87,7 +88,7 @@ void MainWindow::sAddWptToFp(const QString& param)
 {
     const QString key = keyOfTitle(param);
     QSqlQuery query(QSqlDatabase::database(settings->dbWPT));
-    if (key.isEmpty() || !settings->sqlMgr->getWPT(key, true, query)) {
+    if (!settings->sqlMgr->getWPT(key, true, query)) {
         return;
     }
     const CFpLinePtr line = flightPlan->newLine();

@@ -278,6 +278,38 @@ private slots:
         QCOMPARE(boxes->seen().size(), 0);
     }
 
+    void aTitleWithoutAKeyAddsNothingWhenNoRowHasAnEmptyOne()
+    {
+        // The lookup compares for equality: every row has a key, an identity and a name.
+        win->window->sAddNavToFp("PGS");
+        win->window->sAddWptToFp("BAMES");
+        QCOMPARE(win->plan().lines.size(), 0);
+        QCOMPARE(win->grid()->rowCount(), 0);
+        QCOMPARE(win->told(), QString());
+        QCOMPARE(boxes->seen().size(), 0);
+    }
+
+    void aTitleWithoutAKeyFindsTheRowOfAnEmptyKey_data()
+    {
+        QTest::addColumn<QString>("column");
+        QTest::newRow("key") << "ukey";
+        QTest::newRow("identity") << "iden";
+        QTest::newRow("name") << "name";
+    }
+    void aTitleWithoutAKeyFindsTheRowOfAnEmptyKey()
+    {
+        QFETCH(QString, column);
+        const QString statement = "UPDATE %1 SET %2 = '' WHERE ukey = '%3'";
+        win->sandbox.sql(dbfile::gen, statement.arg("NAV", column, "N8"));
+        win->sandbox.sql(dbfile::wpt, statement.arg("WPT", column, "W3"));
+        win->window->sAddNavToFp("PGS");
+        win->window->sAddWptToFp("BAMES");
+        QCOMPARE(win->plan().lines.size(), 2);
+        QCOMPARE(win->plan().lines[0]->latS, 162900.0);
+        QCOMPARE(win->plan().lines[1]->latS, 172800.0);
+        QCOMPARE(boxes->seen().size(), 0);
+    }
+
     void aQuoteInANameBreaksTheScriptAndTheMapShowsNothingNew()
     {
         win->add({"LFPO"});
