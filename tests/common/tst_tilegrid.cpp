@@ -233,6 +233,8 @@ private slots:
         QTest::newRow("48 degrees south") << -172800.0 << 89;
         QTest::newRow("first edge, met after the last round") << 5062.5 << 129;
         QTest::newRow("first edge south") << -5062.5 << 126;
+        QTest::newRow("under the edge of row 64") << 240379.5 << 191;
+        QTest::newRow("under the edge of row 64, south") << -240379.5 << 64;
     }
 
     void bandOfALatitude()
@@ -241,15 +243,26 @@ private slots:
         QTEST(grid.getVerticalBand(latSec), "band");
     }
 
-    void edgeOfTheMiddleRowGivesTheBareRow()
+    void edgeMetInARoundGivesTheBareRow_data()
     {
-        const double edge = grid.bands[64].latSec;
-        QCOMPARE(grid.getVerticalBand(edge), 64);
-        QCOMPARE(grid.getVerticalBand(-edge), 64);
-        QCOMPARE(grid.getVerticalBand(edge + 1.0), 192);
-        QCOMPARE(grid.getVerticalBand(-edge - 1.0), 63);
-        QCOMPARE(grid.getVerticalBand(edge - 1.0), 191);
-        QCOMPARE(grid.getVerticalBand(-edge + 1.0), 64);
+        QTest::addColumn<int>("row");
+        QTest::addColumn<int>("northOfIt");
+        QTest::addColumn<int>("southOfIt");
+        QTest::newRow("first round") << 64 << 192 << 63;
+        QTest::newRow("second round") << 96 << 224 << 31;
+        QTest::newRow("second round, towards the equator") << 32 << 160 << 95;
+        QTest::newRow("last round") << 126 << 254 << 1;
+        QTest::newRow("last round, towards the equator") << 2 << 130 << 125;
+    }
+
+    void edgeMetInARoundGivesTheBareRow()
+    {
+        QFETCH(int, row);
+        const double edge = grid.bands[std::size_t(row)].latSec;
+        QTEST(grid.getVerticalBand(edge), "row");
+        QTEST(grid.getVerticalBand(-edge), "row");
+        QTEST(grid.getVerticalBand(edge + 1.0), "northOfIt");
+        QTEST(grid.getVerticalBand(-edge - 1.0), "southOfIt");
     }
 
     void tileKeys_data()
@@ -308,11 +321,26 @@ private slots:
         QTEST(grid.getVerticalQgtNumber(latSec), "halfBand");
     }
 
-    void edgeOfTheMiddleDetailRowGivesTheBareRow()
+    void detailEdgeMetInARoundGivesTheBareRow_data()
     {
-        const double edge = grid.details[128].latSec;
-        QCOMPARE(grid.getVerticalQgtNumber(edge), 128);
-        QCOMPARE(grid.getVerticalQgtNumber(-edge), 128);
+        QTest::addColumn<int>("row");
+        QTest::addColumn<int>("northOfIt");
+        QTest::addColumn<int>("southOfIt");
+        QTest::newRow("first round") << 128 << 384 << 127;
+        QTest::newRow("second round") << 192 << 448 << 63;
+        QTest::newRow("second round, towards the equator") << 64 << 320 << 191;
+        QTest::newRow("last round") << 254 << 510 << 1;
+        QTest::newRow("last round, towards the equator") << 2 << 258 << 253;
+    }
+
+    void detailEdgeMetInARoundGivesTheBareRow()
+    {
+        QFETCH(int, row);
+        const double edge = grid.details[std::size_t(row)].latSec;
+        QTEST(grid.getVerticalQgtNumber(edge), "row");
+        QTEST(grid.getVerticalQgtNumber(-edge), "row");
+        QTEST(grid.getVerticalQgtNumber(edge + 1.0), "northOfIt");
+        QTEST(grid.getVerticalQgtNumber(-edge - 1.0), "southOfIt");
     }
 
     void notANumberIsReportedOnceAndReturns()
