@@ -124,11 +124,100 @@ private slots:
             codes << column.code;
             types += QChar(column.type);
             widths << QString::number(column.width);
-            QVERIFY(!column.description.isEmpty());
         }
         QTEST(codes.join(' '), "codes");
         QTEST(types, "types");
         QTEST(widths.join(' '), "widths");
+    }
+
+    void descriptions_data()
+    {
+        QTest::addColumn<Columns>("table");
+        QTest::addColumn<QString>("texts");
+        QTest::newRow("APT")
+            << table(fieldsAPT)
+            << "Tile key|Airport key|FAA|ICAO|Name|Country|State|County|Type|Latitude|Longitude|"
+               "Elevation(feet)|Ownership|Usage|Operating region|NOTAM facility|FSS facility|"
+               "Magnetic variation|Traffic altitude (feet MSL)|Flight Service available|NOTAM D available|"
+               "Air Traffic Control available|Segmented circle available|Landing Fee charged|"
+               "Military/Civil joint use|Military landing rights|Customs entry airport|Fuel types available|"
+               "Frame services available|Engine services available|Bottled oxygen available|"
+               "Bulk oxygen available|Beacon lens color|Based aircraft types|Annual commercial operations|"
+               "Annual general aviation operations|Annual military operations|Airport attendance|"
+               "Airport attendance start time|Airport attendance end time|Airport lighting|"
+               "Airport lighting start time|Airport lighting end time|Airport Type|Airport Icon|"
+               "Number of runways|Longuest runway in feet|VOR colocated on airport property|"
+               "ATC service available|ILS approaches available";
+        QTest::newRow("RWY")
+            << table(fieldsRWY)
+            << "Sequence number|Airport key|Runway length|Runway width|Surface type|Surface condition|"
+               "Pavement|Pavement classification|Pavement subgrade|Pavement Tire PSI|"
+               "Traffic Pattern direction|Closed unusable|Pilot controlled lighting|Hi End ID|Latitude|"
+               "Longitude|Elevation|True heading|Magnetic heading|Displaced threshold|"
+               "Threshold elevation (feet)|End lights|Alignment lights|Center lights|Touch down lights|"
+               "Threhold lights|Edge lights|Flashing lights|Markings|RVR|RVV|Glide slope type|"
+               "Glide slope config|Glide slope location|Ligth system 1|Light system 2|Light system 3|"
+               "Light system 4|Light system 5|Light system 6|Light system 7|Light system 8|Hi End ID|"
+               "Latitude|Longitude|Elevation|True heading|Magnetic heading|Displaced threshold|"
+               "Threshold elevation (feet)|End lights|Alignment lights|Center lights|Touch down lights|"
+               "Threhold lights|Edge lights|Flashing lights|Markings|RVR|RVV|Glide slope type|"
+               "Glide slope config|Glide slope location|Ligth system 1|Light system 2|Light system 3|"
+               "Light system 4|Light system 5|Light system 6|Light system 7|Light system 8";
+        QTest::newRow("NAV")
+            << table(fieldsNAV)
+            << "Tile key|NAV key|NAV ident|NAV name|NAV frequency|Mag deviation|Slaved deviation|Country|"
+               "State|Type|Classification|Usage|Latitude|Longitude|Altitude|Power|Range";
+        QTest::newRow("COM") << table(fieldsCOM)
+                             << "Tile key|COM key|Airport key|COM name|COM type|Frequency 1|Frequency 2|Frequency 3|"
+                                "Frequency 4|Frequency 5|Latitude|Longitude";
+        QTest::newRow("ILS")
+            << table(fieldsILS)
+            << "Tile key|ILS key|Airport key|Runway end|ILS identity|ILS name|ILS type|Latitude|Longitude|"
+               "Altitude|Frequency|Glide angle|Mag deviation|Range";
+        QTest::newRow("WPT") << table(fieldsWPT)
+                             << "Tile key|WPT ident|WPT key|WPT name|Country|State|Associated VOR|Type|Usage|Latitude|"
+                                "Longitude|Altitude|Mag deviation|Bearing to NAV|Distance to NAV|NAV key";
+        QTest::newRow("SIDSTAR")
+            << table(fieldsSIDSTAR)
+            << "Tile key|SID STAR key|Airport Key|SID STAR Name|Sequence Number|SID or STAR|Waypoint ID|"
+               "Waypoint Type|Altitude|Latitude|Longitude";
+        QTest::newRow("BDRY")
+            << table(fieldsBDRY)
+            << "Tile key|Boundary Ident|Segment Number|Boundary Name|Type|ICAO Name|Shape|Derivation|"
+               "Latitude 1|Longitude 1|Latitude 2|Longitude 2|Latitude 0|longitude 0|Radius 1|Radius 2|"
+               "Bearing 1|Bearing 2|Navaid Ident|Navaid Type|Navaid Country";
+        QTest::newRow("ATSROUTE")
+            << table(fieldsATSROUTE)
+            << "Tile key|ATS Route Key|ATS Route ID|Sequence Number|Type|Bidirectional|Frequency Class|"
+               "Level|Status|Navaid Key 1|Navaid Type 1|Navaid Identifier 1|Navaid Country Code 1|"
+               "Navaid Key 2|Navaid Type 2|Navaid Indentifier 2|Navaid Country Code 2|Distance|"
+               "Inbound Course|Outbound Course|Minimum Altitude|Maximum Altitude|latitude Navaid 1|"
+               "longitude Navaid 1|latitude Navaid 1|longitude Navaid 2";
+        QTest::newRow("CTY") << table(fieldsCTY) << "Country ID|Country name";
+        QTest::newRow("STATE") << table(fieldsSTATE) << "State key|Country code|State code|State name";
+        QTest::newRow("Light")
+            << table(fieldsLight)
+            << "Airport key|Light type (omni, flash, etc)|Texture number|Light color|spot parameter 1|"
+               "Spot parameter 2|spot count in blob table|Spot table";
+        QTest::newRow("MOD")
+            << table(fieldsMOD)
+            << "Key: SMF or BIN file name|Category of model|Transparent indicator|Texture file|Top (feet)|"
+               "Bottom (feet)|Level of Detail [0-3]|Number of vertices|Number of indices|Vertex table|"
+               "Normal table|Texture table|Index table\t";
+        QTest::newRow("TEXTURE") << table(fieldsTEXTURE) << "texture name|Width in pixels|height in pixel|RGBA array";
+        QTest::newRow("Pave") << table(fieldsPave)
+                              << "Airport key|Pavement type (pave,edge,etc)|Airport usage (taxiway,parking,etc)|"
+                                 "Vertex count in blob table|Vertex table";
+    }
+
+    void descriptions()
+    {
+        QFETCH(Columns, table);
+        QFETCH(QString, texts);
+        QStringList found;
+        for (int i = 0; i < table.count; ++i)
+            found << table.first[i].description;
+        QCOMPARE(found, texts.split('|'));
     }
 
     void numbersAreThePositionsButForOne()
