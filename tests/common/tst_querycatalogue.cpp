@@ -15,7 +15,6 @@ Q_DECLARE_METATYPE(DeletionMethod)
 
 namespace {
 
-const QString errorTitle = QStringLiteral("SQL Error");
 const QString errorStart = QStringLiteral("One of the query failed to execute.Error detail: ");
 
 using TextLookup = bool (SqlMgr::*)(const QString&, bool, QSqlQuery&);
@@ -197,19 +196,6 @@ private slots:
         QVERIFY(!query.next());
     }
 
-    void selectAllReportsAMissingTable()
-    {
-        Sandbox sandbox;
-        SqlMgr sqlMgr;
-        QSqlQuery query = queryOn(sqlMgr, sandbox, dbfile::gen);
-        BoxResponder responder;
-        responder.expectMessage(errorTitle, errorStart + "SELECT * from MISSING; no such table: MISSING "
-                                                         "Unable to execute statement");
-        QVERIFY(!sqlMgr.selectAll(query, "MISSING"));
-        QCOMPARE(responder.seen().first().icon, QMessageBox::Information);
-        QCOMPARE(responder.seen().first().choices.size(), 1);
-    }
-
     void aKeyFoundEndsTheCascade()
     {
         Sandbox sandbox;
@@ -257,20 +243,6 @@ private slots:
         QVERIFY(!sqlMgr.getAPT("ZZZZ", false, query));
     }
 
-    void aQuoteInTheKeyBreaksTheStatement()
-    {
-        Sandbox sandbox;
-        sandbox.addRunway();
-        SqlMgr sqlMgr;
-        QSqlQuery query = queryOn(sqlMgr, sandbox, dbfile::gen);
-        BoxResponder responder;
-        responder.expectAnyMessage();
-        QVERIFY(!sqlMgr.getRWY("LF\"PO", true, query));
-        QVERIFY(responder.allUsed());
-        QCOMPARE(responder.seen().first().title, errorTitle);
-        QVERIFY(responder.seen().first().text.startsWith(errorStart + "SELECT * FROM RWY WHERE rapt = \"LF\"PO\" "));
-    }
-
     void aColumnsNameMatchesEveryRow()
     {
         Sandbox sandbox;
@@ -297,48 +269,6 @@ private slots:
         QVERIFY(!query.next());
     }
 
-    void aBoundaryLookupFailsTwiceInTheRouteDatabase()
-    {
-        Sandbox sandbox;
-        SqlMgr sqlMgr;
-        QSqlQuery query = queryOn(sqlMgr, sandbox, dbfile::route);
-        BoxResponder responder;
-        responder.expectMessage(errorTitle, errorStart + "SELECT * FROM COM WHERE cnam = \"PARIS\" no such table: COM "
-                                                         "Unable to execute statement");
-        responder.expectMessage(errorTitle, errorStart + "SELECT * FROM COM WHERE ckey = \"PARIS\" no such table: COM "
-                                                         "Unable to execute statement");
-        QVERIFY(!sqlMgr.getBDRY("PARIS", true, query));
-        QVERIFY(responder.allUsed());
-    }
-
-    void aFailedStepDoesNotEndTheCascade()
-    {
-        Sandbox sandbox;
-        sandbox.sql(dbfile::gen, "CREATE TABLE Other (iden TEXT, name TEXT)");
-        sandbox.sql(dbfile::gen, "INSERT INTO Other VALUES ('RBT', 'RAMBOUILLET')");
-        sandbox.sql(dbfile::gen, "DROP TABLE NAV");
-        sandbox.sql(dbfile::gen, "ALTER TABLE Other RENAME TO NAV");
-        SqlMgr sqlMgr;
-        QSqlQuery query = queryOn(sqlMgr, sandbox, dbfile::gen);
-        BoxResponder responder;
-        // No column `ukey`: LIKE compares the quoted key with a column that is not there.
-        responder.expectAnyMessage();
-        QVERIFY(sqlMgr.getNAV("RBT", false, query));
-        QCOMPARE(query.value(1).toString(), QString("RAMBOUILLET"));
-    }
-
-    void aMissingConnectionShowsABoxForEachStep()
-    {
-        Sandbox sandbox(Sandbox::Databases::None);
-        SqlMgr sqlMgr;
-        QSqlQuery query(QSqlDatabase::database(QString()));
-        BoxResponder responder;
-        for (int i = 0; i < 3; ++i)
-            responder.expectAnyMessage();
-        QVERIFY(!sqlMgr.getAPT("LFPO", true, query));
-        QVERIFY(responder.allUsed());
-    }
-
     void theBackslashFindsNothing()
     {
         Sandbox sandbox;
@@ -361,19 +291,6 @@ private slots:
         QCOMPARE(sandbox.sqlValue(dbfile::route, "SELECT group_concat(skey) FROM SIDSTAR").toString(), QString("3"));
         sqlMgr.delSIDSTARapt("LFPO", query);
         QCOMPARE(sandbox.sqlValue(dbfile::route, "SELECT count(*) FROM SIDSTAR").toInt(), 0);
-    }
-
-    void aFailedDeletionKeepsTheRow()
-    {
-        Sandbox sandbox;
-        sandbox.addNavaid();
-        SqlMgr sqlMgr;
-        QSqlQuery query = queryOn(sqlMgr, sandbox, dbfile::gen);
-        BoxResponder responder;
-        responder.expectAnyMessage();
-        sqlMgr.delNAV("R\"BT", query);
-        QVERIFY(responder.allUsed());
-        QCOMPARE(sandbox.sqlValue(dbfile::gen, "SELECT count(*) FROM NAV").toInt(), 1);
     }
 };
 
