@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QMainWindow>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTextStream>
 #include <QTimer>
 #include <QtTest>
@@ -14,9 +16,22 @@ int qMain(int argc, char** argv);
 namespace {
 
 const QString logFile = QStringLiteral("Tools/Trajector/trajector_debug.log");
+const QString settingsFile = QStringLiteral("Tools/Trajector/trajector.ini");
 const QString startMark = QStringLiteral("Starting ZephanTrajector");
 
 int childExitCode = -1;
+
+/// In the child: tells what a message box shows and answers it.
+void answerABox()
+{
+    const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box)
+        return;
+    QTextStream out(stdout);
+    out.setCodec("UTF-8");
+    out << box->windowTitle() << '|' << box->text() << '|' << box->icon() << '|' << box->buttons().size() << Qt::endl;
+    box->button(QMessageBox::Ok)->click();
+}
 
 /// In the child: once the window is there, tells one of its texts and ends the event loop.
 void endWhenShown()
@@ -38,6 +53,7 @@ void watchTheChild()
         return;
     auto* timer = new QTimer(QCoreApplication::instance());
     QObject::connect(timer, &QTimer::timeout, endWhenShown);
+    QObject::connect(timer, &QTimer::timeout, answerABox);
     timer->start(20);
 }
 
@@ -132,6 +148,41 @@ private slots:
         sandbox.setSetting("directory/dirWork", sandbox.path("Work"));
         QCOMPARE(start("fr_FR.UTF-8").exitStatus, QProcess::NormalExit);
         QCOMPARE(sandbox.setting("view/route").toString(), QString("FR"));
+    }
+
+    void aDatabaseOfAnotherVersionEndsTheProgram_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<int>("found");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("the first database") << dbfile::gen << 1 << 0;
+        QTest::newRow("an older model database") << dbfile::m3d << 2 << 3;
+        QTest::newRow("a newer model database") << dbfile::m3d << 4 << 3;
+        QTest::newRow("the last database") << dbfile::route << 7 << 0;
+    }
+
+    /// The box, and then nothing more: no window, no settings written.
+    void aDatabaseOfAnotherVersionEndsTheProgram()
+    {
+        Sandbox sandbox;
+        QFETCH(QString, file);
+        QFETCH(int, found);
+        QFETCH(int, expected);
+        sandbox.sql(file, QString("PRAGMA user_version = %1").arg(found));
+        const QByteArray settings = sandbox.readFile(settingsFile);
+        QVERIFY(settings.contains("dirWork"));
+        const ChildRun run = start("fr_FR.UTF-8");
+        QVERIFY(run.finished);
+        QCOMPARE(run.exitStatus, QProcess::CrashExit);
+        const QString text = QString("M3D : La version attendue est %1.\nLa version trouvée est %2.\n"
+                                     "Le programme va s'arréter.")
+                                 .arg(expected)
+                                 .arg(found);
+        // The critical icon (3) and one button; a window would have told its title.
+        QCOMPARE(run.output, QString("Erreur de version de base de données|%1|3|1\n").arg(text));
+        QVERIFY2(run.log.contains(startMark), qPrintable(run.log));
+        QVERIFY2(run.log.trimmed().endsWith("CGlobalVar::initDB M3D : erreur de version"), qPrintable(run.log));
+        QCOMPARE(sandbox.readFile(settingsFile), settings);
     }
 };
 
