@@ -7,6 +7,7 @@
 #include "messagelog.h"
 #include "sandbox.h"
 
+#include <QFileDialog>
 #include <QtTest>
 
 namespace {
@@ -91,6 +92,26 @@ private slots:
         QCOMPARE(navVar.dirWork.path(), sandbox.path("Work"));
         QCOMPARE(log.startingWith("dirWork"),
                  (QStringList{"dirWork not found", quoted("dirWork", sandbox.path("Work"))}));
+    }
+
+    void bothQuestionsShowFoldersOnlyAndKeepLinks()
+    {
+        Sandbox sandbox(Sandbox::Databases::None);
+        sandbox.removeFile("AeoZephan.exe");
+        sandbox.removeSettings();
+        QStringList titles;
+        BoxResponder responder;
+        const auto look = [&titles](QDialog* dialog) {
+            auto* question = qobject_cast<QFileDialog*>(dialog);
+            titles << question->windowTitle();
+            QVERIFY(question->testOption(QFileDialog::ShowDirsOnly));
+            QVERIFY(question->testOption(QFileDialog::DontResolveSymlinks));
+            question->reject();
+        };
+        responder.expectDialog("QFileDialog", look);
+        responder.expectDialog("QFileDialog", look);
+        located();
+        QCOMPARE(titles, (QStringList{rootTitle, workTitle}));
     }
 
     void theWorkFolderIsAskedForOnce()
