@@ -198,8 +198,9 @@ private slots:
         QTest::newRow("half circle stays east") << 648000.0 << "180 00' 00.00\" E";
         QTest::newRow("just beyond the half circle") << 648000.5 << "179 59' 59.50\" W";
         QTest::newRow("minus a half circle is east") << -648000.0 << "180 00' 00.00\" E";
-        QTest::newRow("seconds that round to 60") << 8499.999 << "002 21' 40.00\" E";
-        QTest::newRow("seconds near a minute") << 8519.999 << "002 21' 60.00\" E";
+        QTest::newRow("seconds that round to the next one") << 8499.999 << "002 21' 40.00\" E";
+        // 59.999 seconds: shown as 60.00, with no carry into the minutes.
+        QTest::newRow("seconds that round to 60") << 8519.999 << "002 21' 60.00\" E";
     }
 
     void longitudeTexts()
