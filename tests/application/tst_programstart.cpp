@@ -41,8 +41,8 @@ void endWhenShown()
             continue;
         QTextStream out(stdout);
         out.setCodec("UTF-8");
-        out << widget->windowTitle() << '|' << widget->findChild<QDockWidget*>("dockWFlightPlan")->windowTitle()
-            << Qt::endl;
+        const auto* dock = widget->findChild<QDockWidget*>("dockWFlightPlan");
+        out << widget->windowTitle() << '|' << (dock ? dock->windowTitle() : "(no dock)") << Qt::endl;
         QApplication::exit(childExitCode);
     }
 }

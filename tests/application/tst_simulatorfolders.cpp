@@ -100,18 +100,22 @@ private slots:
         sandbox.removeFile("AeoZephan.exe");
         sandbox.removeSettings();
         QStringList titles;
+        QVector<QFileDialog::Options> options;
         BoxResponder responder;
-        const auto look = [&titles](QDialog* dialog) {
-            auto* question = qobject_cast<QFileDialog*>(dialog);
-            titles << question->windowTitle();
-            QVERIFY(question->testOption(QFileDialog::ShowDirsOnly));
-            QVERIFY(question->testOption(QFileDialog::DontResolveSymlinks));
-            question->reject();
+        const auto look = [&titles, &options](QDialog* dialog) {
+            titles << dialog->windowTitle();
+            options << qobject_cast<QFileDialog*>(dialog)->options();
+            dialog->reject();
         };
         responder.expectDialog("QFileDialog", look);
         responder.expectDialog("QFileDialog", look);
         located();
         QCOMPARE(titles, (QStringList{rootTitle, workTitle}));
+        QCOMPARE(options.size(), 2);
+        for (const QFileDialog::Options asked : options) {
+            QVERIFY(asked.testFlag(QFileDialog::ShowDirsOnly));
+            QVERIFY(asked.testFlag(QFileDialog::DontResolveSymlinks));
+        }
     }
 
     void theWorkFolderIsAskedForOnce()
