@@ -71,11 +71,11 @@ as_root() {
 }
 
 install_with_apt() {
-    local apt=(env DEBIAN_FRONTEND=noninteractive apt-get -q -y -o Dpkg::Use-Pty=0)
-    say "installing: $*"
+    local apt=(env DEBIAN_FRONTEND=noninteractive apt-get -qq -y -o Dpkg::Use-Pty=0)
+    say "installing, which takes a few minutes: $*"
     # Old package lists may still do, so a failing update is only told.
-    as_root "${apt[@]}" update </dev/null || say 'the package lists could not be brought up to date'
-    as_root "${apt[@]}" install --no-install-recommends "$@" </dev/null || {
+    as_root "${apt[@]}" update </dev/null >/dev/null || say 'the package lists could not be brought up to date'
+    as_root "${apt[@]}" install --no-install-recommends "$@" </dev/null >/dev/null || {
         say "these packages could not be installed; install them and call again: $*"
         return 1
     }
