@@ -46,9 +46,13 @@ QTreeWidgetItem* pointItem(const QSqlQuery& row)
     return item;
 }
 
+// The name stands on the top item, whichever of its points is clicked.
 QString nameOfProcedure(const QTreeWidgetItem* item)
 {
-    return item->parent() != nullptr ? item->parent()->text(0) : item->text(0);
+    while (item != nullptr && item->parent() != nullptr) {
+        item = item->parent();
+    }
+    return item != nullptr ? item->text(0) : QString();
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "datadictionary.h"
 #include "viewlayer.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
 
@@ -39,6 +40,7 @@ const Column planColumns[] = {
 };
 
 constexpr int narrowestColumn = 20; // pixels
+constexpr int headerPointSize = 8;  // the widest label then fits its column
 
 QIcon resourceIcon(QLatin1String name)
 {
@@ -89,6 +91,8 @@ void MainWindow::setupGridHeaders()
     // Four labels more than the grid has columns: they stay without effect.
     labels << tr("Lat.") << tr("Long.") << tr("Latitude") << tr("Longitude");
     ui->fltplnGrid->setHorizontalHeaderLabels(labels);
+
+    ui->fltplnGrid->horizontalHeader()->setFont(QFont(QApplication::font().family(), headerPointSize));
 
     // A style's own minimum would widen the narrow columns.
     ui->treeWFound->header()->setMinimumSectionSize(narrowestColumn);
