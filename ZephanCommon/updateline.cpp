@@ -2,6 +2,8 @@
 
 #include "updateline.h"
 
+#include <QDataStream>
+
 namespace {
 
 constexpr QLatin1Char separator(';');
@@ -19,6 +21,25 @@ QString updateField(const QStringList& fields, int number)
 {
     const bool present = number >= 0 && number < fields.size() && !fields.at(number).isNull();
     return present ? fields.at(number) : QStringLiteral("");
+}
+
+QString joinUpdateLine(const QStringList& fields)
+{
+    return fields.join(separator);
+}
+
+QByteArray decodeHexadecimal(const QString& digits, bool latin1)
+{
+    QByteArray content;
+    QDataStream stream(&content, QIODevice::WriteOnly);
+    stream.setByteOrder(QDataStream::LittleEndian);
+    stream.setFloatingPointPrecision(QDataStream::SinglePrecision);
+    if (latin1) {
+        stream << digits.toLatin1();
+    } else {
+        stream << digits;
+    }
+    return QByteArray::fromHex(content);
 }
 
 QString composeRowLine(const QString& database, const QString& table, const QStringList& values)

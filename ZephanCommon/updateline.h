@@ -27,6 +27,16 @@ QStringList splitUpdateLine(const QByteArray& line);
 /// A field, or an empty text (never a null one, which a database would take for NULL) where the line has none.
 QString updateField(const QStringList& fields, int number);
 
+/// The text that was split into these fields.
+QString joinUpdateLine(const QStringList& fields);
+
+/// The bytes that a field of hexadecimal text stands for, as the databases of the suite hold them.
+///
+/// The digits, as a QString or one byte each, take a detour: they go into a data stream, and all of the stream's
+/// content is decoded. What is no digit is skipped, but a byte of the stream's own length prefix that is the code of a
+/// digit counts, and stands in front as one digit more. So a text of 24 digits gives 13 bytes instead of 12, a 0 first.
+QByteArray decodeHexadecimal(const QString& digits, bool latin1);
+
 /// The line that writes a row, without a line end and with nothing behind the last value.
 QString composeRowLine(const QString& database, const QString& table, const QStringList& values);
 

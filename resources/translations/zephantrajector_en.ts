@@ -25,6 +25,113 @@
     </message>
 </context>
 <context>
+    <name>CIODataBase</name>
+    <message>
+        <source>%2 NAVAID ont été exportés dans %1</source>
+        <translation>%2 NAVAIDs exported to %1</translation>
+    </message>
+    <message>
+        <source>exportNAV: Impossible d&apos;ouvrir le fichier %1</source>
+        <translation>exportNAV: Cannot open the file %1</translation>
+    </message>
+    <message>
+        <source>%2 WAYPOINT ont été exportés dans %1</source>
+        <translation>%2 WAYPOINTs exported to %1</translation>
+    </message>
+    <message>
+        <source>exportWPT: Impossible d&apos;ouvrir le fichier %1</source>
+        <translation>exportWPT: Cannot open the file %1</translation>
+    </message>
+    <message>
+        <source>Attention</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>Le fichier %1 existe déja.
+Voulez vous l&apos;écraser ?</source>
+        <translation>The file %1 already exists.
+Do you want to overwrite it?</translation>
+    </message>
+    <message>
+        <source>Erreur CSV</source>
+        <translation>CSV error</translation>
+    </message>
+    <message>
+        <source>Exportation</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>Erreur SQL</source>
+        <translation>SQL error</translation>
+    </message>
+    <message>
+        <source>Impossible de trouver l&apos;objet %1 dans la base de donnée %2</source>
+        <translation>Cannot find object %1 in database %2</translation>
+    </message>
+    <message>
+        <source>L&apos;objet 3D %1 a été enregistré dans %2</source>
+        <translation>The 3D object %1 has been saved to %2</translation>
+    </message>
+    <message>
+        <source>Impossible de trouver le projet %1 dans la base de donnée %2</source>
+        <translation>Cannot find project %1 in database %2</translation>
+    </message>
+    <message>
+        <source>Le projet 3D %1 a été enregistré dans %2</source>
+        <translation>The 3D project %1 has been saved to %2</translation>
+    </message>
+    <message>
+        <source>Importation</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>Importation terminée
+ %1</source>
+        <translation>Import finished
+ %1</translation>
+    </message>
+    <message>
+        <source>Ouvrir un fichier d&apos;import</source>
+        <translation>Open an import file</translation>
+    </message>
+    <message>
+        <source>Fichier Zephan Export (*.CSV);;Tous (*.*)</source>
+        <translation>Zephan Export file (*.CSV);;All (*.*)</translation>
+    </message>
+    <message>
+        <source>Il y a eu des erreurs à l&apos;importation
+%1</source>
+        <translation>There were errors during the import
+%1</translation>
+    </message>
+    <message>
+        <source>La base de données %1 est inconnue.
+%2</source>
+        <translation>The database %1 is unknown.
+%2</translation>
+    </message>
+    <message>
+        <source>La table %1 est inconnue dans la base de données %2.
+%3</source>
+        <translation>The table %1 is unknown in the database %2.
+%3</translation>
+    </message>
+    <message>
+        <source>Vous allez effacer la totalité des données de la table %1.
+Voulez vous continuer ?</source>
+        <translation>You are about to delete all data of the table %1.
+Do you want to continue?</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>L&apos;import a été annulé.</source>
+        <translation>The import has been cancelled.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Zephan Trajector</source>

@@ -10,6 +10,9 @@ private slots:
     void splits_data();
     void splits();
     void aMissingFieldIsEmptyAndNotNull();
+    void joinsWhatWasSplit();
+    void decodesHexadecimal_data();
+    void decodesHexadecimal();
     void composesARow();
     void composesADeletion();
     void aComposedRowSplitsBack();
@@ -46,6 +49,42 @@ void TestUpdateLine::aMissingFieldIsEmptyAndNotNull()
         QVERIFY(!updateField(fields, number).isNull());
     }
     QCOMPARE(updateField(fields, 0), QString("GEN"));
+}
+
+void TestUpdateLine::joinsWhatWasSplit()
+{
+    for (const char* line : {"", ";", "GEN;NAV;+;1;;", "a b", "%1;%3"})
+        QCOMPARE(joinUpdateLine(splitUpdateLine(line)), QString(line));
+}
+
+void TestUpdateLine::decodesHexadecimal_data()
+{
+    QTest::addColumn<QString>("digits");
+    QTest::addColumn<QByteArray>("fromString");
+    QTest::addColumn<QByteArray>("fromBytes");
+    QTest::newRow("none") << "" << QByteArray() << QByteArray();
+    QTest::newRow("null") << QString() << QByteArray() << QByteArray();
+    QTest::newRow("both cases") << "0aBcFF" << QByteArray("\x0a\xbc\xff") << QByteArray("\x0a\xbc\xff");
+    QTest::newRow("odd") << "abc" << QByteArray("\x0a\xbc") << QByteArray("\x0a\xbc");
+    QTest::newRow("no digits") << "xyz" << QByteArray() << QByteArray();
+    // The length in the stream is 48, the code of "0": as a QString with 24 digits, as bytes with 48.
+    QTest::newRow("24 digits") << QString(24, 'f') << QByteArray(1, '\0') + QByteArray(12, '\xff')
+                               << QByteArray(12, '\xff');
+    QTest::newRow("48 digits") << QString(48, 'f') << QByteArray(24, '\xff')
+                               << QByteArray(1, '\0') + QByteArray(24, '\xff');
+    // Letters beyond Latin-1: their two bytes as a QString, a question mark as bytes.
+    QTest::newRow("other letters") << QString("1\u3041"
+                                              "2")
+                                   << QByteArray::fromHex("1a02") << QByteArray("\x12");
+}
+
+void TestUpdateLine::decodesHexadecimal()
+{
+    QFETCH(QString, digits);
+    QTEST(decodeHexadecimal(digits, false), "fromString");
+    QTEST(decodeHexadecimal(digits, true), "fromBytes");
+    QVERIFY(!decodeHexadecimal(digits, false).isNull());
+    QVERIFY(!decodeHexadecimal(digits, true).isNull());
 }
 
 void TestUpdateLine::composesARow()
