@@ -107,6 +107,8 @@ private slots:
     void on_dockWFlightPlan_visibilityChanged(bool visible);
     void on_dockWSid_visibilityChanged(bool visible);
     void on_dockWStar_visibilityChanged(bool visible);
+    // Navigation data.
+    void on_actImport_triggered();
     // Aircraft.
     void on_cbAircraftType_activated(int index);
     void on_dockWAircraft_visibilityChanged(bool visible);
