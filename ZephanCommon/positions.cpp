@@ -39,8 +39,16 @@ void appendPadded(QString& text, const QString& number, int width)
 
 void appendWhole(QString& text, double value, int width)
 {
-    const bool small = value < 1e9; // false for NaN
-    appendPadded(text, small ? QString::number(static_cast<int>(value)) : QString::number(value, 'f', 0), width);
+    if (!(value < 1000.0)) { // also NaN
+        appendPadded(text, QString::number(value, 'f', 0), width);
+        return;
+    }
+    const int whole = static_cast<int>(value);
+    if (width > 2 || whole > 99) {
+        text += QLatin1Char(static_cast<char>('0' + whole / 100));
+    }
+    text += QLatin1Char(static_cast<char>('0' + whole / 10 % 10));
+    text += QLatin1Char(static_cast<char>('0' + whole % 10));
 }
 
 QString positionText(double arcSeconds, int degreeWidth, QChar hemisphere, bool withSecondMark)

@@ -27,9 +27,10 @@ QString navaidMarker(const QString& pattern, const mapscript::NavaidMarker& mark
                             QString::number(marker.number), marker.popup, marker.key});
 }
 
-QString waypointMarker(const QString& head, const mapscript::WaypointMarker& marker)
+QString waypointMarker(const QString& pattern, const mapscript::WaypointMarker& marker)
 {
-    return filled(QStringLiteral("%1,\"%2\")"), {head, marker.popup});
+    return filled(pattern, {degrees(marker.place.lat), degrees(marker.place.lon), marker.name, marker.key,
+                            QString::number(marker.usage), marker.popup});
 }
 
 QString namedPoint(const QString& pattern, const mapscript::Place& place, const QString& name)
@@ -96,11 +97,7 @@ QString addNdbMarker(const NavaidMarker& marker)
 
 QString addWptMarker(const WaypointMarker& marker)
 {
-    // There is no fifth placeholder.
-    const QString head = filled(QStringLiteral("addWPTMarker(new google.maps.LatLng(%1,%2),\"%3-%4\",%6"),
-                                {degrees(marker.place.lat), degrees(marker.place.lon), marker.name, marker.key,
-                                 QString(), QString::number(marker.usage)});
-    return waypointMarker(head, marker);
+    return waypointMarker(QStringLiteral("addWPTMarker(new google.maps.LatLng(%1,%2),\"%3-%4\",%5,\"%6\")"), marker);
 }
 
 QString pushApt()
@@ -130,10 +127,7 @@ QString addNdbMarker2(const NavaidMarker& marker)
 
 QString addWptMarker2(const WaypointMarker& marker)
 {
-    const QString head = filled(
-        QStringLiteral("addWPTMarker2(new google.maps.LatLng(%1,%2),\"%3-%4\",%5"),
-        {degrees(marker.place.lat), degrees(marker.place.lon), marker.name, marker.key, QString::number(marker.usage)});
-    return waypointMarker(head, marker);
+    return waypointMarker(QStringLiteral("addWPTMarker2(new google.maps.LatLng(%1,%2),\"%3-%4\",%5,\"%6\")"), marker);
 }
 
 // The second statement of both compares and changes nothing; the page expects it so.
