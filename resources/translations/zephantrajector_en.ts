@@ -2,6 +2,277 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="fr">
 <context>
+    <name>CDialogLatLon</name>
+    <message>
+        <source>Lat/Lon</source>
+        <translation>Lat/Lon</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitude</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitude</translation>
+    </message>
+</context>
+<context>
+    <name>CDialogNav</name>
+    <message>
+        <source>NAVAID</source>
+        <translation>NAVAID</translation>
+    </message>
+    <message>
+        <source>Nom</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Identifiant</source>
+        <translation>Identifier</translation>
+    </message>
+    <message>
+        <source>Pays</source>
+        <translation>Country</translation>
+    </message>
+    <message>
+        <source>Clé unique</source>
+        <translation>Unique key</translation>
+    </message>
+    <message>
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitude</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitude</translation>
+    </message>
+    <message>
+        <source>Fréquence</source>
+        <translation>Frequency</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>VOR</source>
+        <translation>VOR</translation>
+    </message>
+    <message>
+        <source>TACAN</source>
+        <translation>TACAN</translation>
+    </message>
+    <message>
+        <source>NDB</source>
+        <translation>NDB</translation>
+    </message>
+    <message>
+        <source>VOR DME</source>
+        <translation>VOR DME</translation>
+    </message>
+    <message>
+        <source>NDB DME</source>
+        <translation>NDB DME</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Usage</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>High</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Low</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Both</translation>
+    </message>
+    <message>
+        <source>Terminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>RNAV</source>
+        <translation>RNAV</translation>
+    </message>
+    <message>
+        <source>Mise à jour DB</source>
+        <translation>Update DB</translation>
+    </message>
+    <message>
+        <source>Enregistrement CSV</source>
+        <translation>Save CSV</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Le navaid %1 existe déja.
+Voulez vous continuer ?</source>
+        <translation>The navaid %1 already exists.
+Do you want to go on?</translation>
+    </message>
+    <message>
+        <source>Nouveau NAVAID</source>
+        <translation>New NAVAID</translation>
+    </message>
+    <message>
+        <source>Création NDB</source>
+        <translation>New NDB</translation>
+    </message>
+    <message>
+        <source>Création VOR</source>
+        <translation>New VOR</translation>
+    </message>
+    <message>
+        <source>La fréquence doit être comprise entre 180 et 1750 Khz.</source>
+        <translation>The frequency must lie between 180 and 1750 kHz.</translation>
+    </message>
+    <message>
+        <source>La fréquence doit être comprise entre 108.000 et 117.95 Mhz.</source>
+        <translation>The frequency must lie between 108.000 and 117.95 MHz.</translation>
+    </message>
+    <message>
+        <source>Nouveau NAVAID: export</source>
+        <translation>New NAVAID: export</translation>
+    </message>
+    <message>
+        <source>%1 a été modifié/ajouté à la base GEN.db</source>
+        <translation>%1 has been changed in/added to the database GEN.db</translation>
+    </message>
+</context>
+<context>
+    <name>CDialogWpt</name>
+    <message>
+        <source>WAYPOINT</source>
+        <translation>WAYPOINT</translation>
+    </message>
+    <message>
+        <source>Nom</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Identifiant</source>
+        <translation>Identifier</translation>
+    </message>
+    <message>
+        <source>Pays</source>
+        <translation>Country</translation>
+    </message>
+    <message>
+        <source>Clé unique</source>
+        <translation>Unique key</translation>
+    </message>
+    <message>
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitude</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitude</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Usage</translation>
+    </message>
+    <message>
+        <source>1 HIGH LEVEL</source>
+        <translation>1 HIGH LEVEL</translation>
+    </message>
+    <message>
+        <source>2 LOW LEVEL</source>
+        <translation>2 LOW LEVEL</translation>
+    </message>
+    <message>
+        <source>3 BOTH</source>
+        <translation>3 BOTH</translation>
+    </message>
+    <message>
+        <source>4 RNAV</source>
+        <translation>4 RNAV</translation>
+    </message>
+    <message>
+        <source>5 TERMINAL</source>
+        <translation>5 TERMINAL</translation>
+    </message>
+    <message>
+        <source>6 VFR</source>
+        <translation>6 VFR</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source> 1 UNAMED</source>
+        <translation> 1 UNNAMED</translation>
+    </message>
+    <message>
+        <source>4 NDB</source>
+        <translation>4 NDB</translation>
+    </message>
+    <message>
+        <source>6 NAMED</source>
+        <translation>6 NAMED</translation>
+    </message>
+    <message>
+        <source>9 OFF ROUTE</source>
+        <translation>9 OFF ROUTE</translation>
+    </message>
+    <message>
+        <source>10 VFR</source>
+        <translation>10 VFR</translation>
+    </message>
+    <message>
+        <source>12 RNAV</source>
+        <translation>12 RNAV</translation>
+    </message>
+    <message>
+        <source>Mise à jour DB</source>
+        <translation>Update DB</translation>
+    </message>
+    <message>
+        <source>Enregistrement CSV</source>
+        <translation>Save CSV</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Nouveau WAYPOINT</source>
+        <translation>New WAYPOINT</translation>
+    </message>
+    <message>
+        <source>Nouveau WAYPOINT: export</source>
+        <translation>New WAYPOINT: export</translation>
+    </message>
+    <message>
+        <source>%1 a été modifié/ajouté à la base WPT.db</source>
+        <translation>%1 has been changed in/added to the database WPT.db</translation>
+    </message>
+</context>
+<context>
     <name>CFlightPlan</name>
     <message>
         <source>Ouvrir un plan de vol existant</source>
@@ -590,6 +861,93 @@ version %1</translation>
     <message>
         <source>Mode plein écran</source>
         <translation>Full screen mode</translation>
+    </message>
+    <message>
+        <source>Effacer</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Effacer
+&amp; Exporter</source>
+        <translation>Delete
+&amp; Export</translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Modification d&apos;un navaid</source>
+        <translation>Change a navaid</translation>
+    </message>
+    <message>
+        <source>Le navaid %1 n&apos;existe pas dans la base</source>
+        <translation>The navaid %1 is not in the database</translation>
+    </message>
+    <message>
+        <source>Modification d&apos;un waypoint</source>
+        <translation>Change a waypoint</translation>
+    </message>
+    <message>
+        <source>Le waypoint %1 n&apos;existe pas dans la base</source>
+        <translation>The waypoint %1 is not in the database</translation>
+    </message>
+    <message>
+        <source>Suppression d&apos;un navaid</source>
+        <translation>Delete a navaid</translation>
+    </message>
+    <message>
+        <source>Le point sélectionné n&apos;existe pas dans la base</source>
+        <translation>The selected point is not in the database</translation>
+    </message>
+    <message>
+        <source>Le navaid %1 a été effacé</source>
+        <translation>The navaid %1 has been deleted</translation>
+    </message>
+    <message>
+        <source>Suppression/export d&apos;un navaid</source>
+        <translation>Delete/export a navaid</translation>
+    </message>
+    <message>
+        <source>Le navaid %1 a été effacé et enregistrer pour export 
+dans %2</source>
+        <translation>The navaid %1 has been deleted and saved for export 
+in %2</translation>
+    </message>
+    <message>
+        <source>Le navaid %1 a été effacé mais l&apos;export à échoué</source>
+        <translation>The navaid %1 has been deleted but the export failed</translation>
+    </message>
+    <message>
+        <source>Voulez vous effacer définitivement %1 ?</source>
+        <translation>Do you want to delete %1 for good?</translation>
+    </message>
+    <message>
+        <source>Suppression d&apos;un waypoint</source>
+        <translation>Delete a waypoint</translation>
+    </message>
+    <message>
+        <source>Le waypoint sélectionné n&apos;existe pas dans la base</source>
+        <translation>The selected waypoint is not in the database</translation>
+    </message>
+    <message>
+        <source>Le waypoint %1 a été effacé</source>
+        <translation>The waypoint %1 has been deleted</translation>
+    </message>
+    <message>
+        <source>Le waypoint %1 a été effacé et enregistrer pour export 
+dans %2</source>
+        <translation>The waypoint %1 has been deleted and saved for export 
+in %2</translation>
+    </message>
+</context>
+<context>
+    <name>RowSaving</name>
+    <message>
+        <source>Le fichier d&apos;export pour %1
+a été enregistré dans %2</source>
+        <translation>The export file for %1
+has been saved in %2</translation>
     </message>
 </context>
 <context>

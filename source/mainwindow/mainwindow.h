@@ -77,6 +77,13 @@ public slots:
     void sFpLineDel();
     void sFpLineUp();
     void sFpLineDown();
+    // Navigation data: rows by marker titles, new ones (empty title) at places in degrees.
+    void sAddNavToDB(const QString& title, double latD, double lonD);
+    void sAddWptToDB(const QString& title, double latD, double lonD);
+    /// Asks before a deletion. Ok deletes, Save deletes and exports; any other button leaves all as it is.
+    int askDeleteData(const QString& boxTitle, const QString& boxMsg);
+    void sDelNavFromDB(const QString& title);
+    void sDelWptFromDB(const QString& title);
 
 private slots:
     // Shell.

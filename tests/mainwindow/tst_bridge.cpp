@@ -105,7 +105,7 @@ void TestBridge::slotsAreOpenToThePage()
     QVERIFY(session->load());
     for (const char* name : {"doSomething", "doCenter", "doZoom", "doData", "doViewRwy", "doMoveSIT", "sAddAptToFp",
                              "sAddNavToFp", "sAddWptToFp", "sAddNewWptToFp", "sAddSitToFp", "sAddWptToDB",
-                             "sAddNavToDB", "sDelNavFromDB", "sDelWptFromDB", "sATS"})
+                             "sAddNavToDB", "sDelNavFromDB", "sDelWptFromDB"})
         QVERIFY2(evaluate(QStringLiteral("typeof mainWindow.%1").arg(name)).toString() == "function", name);
 }
 
@@ -236,8 +236,8 @@ void TestBridge::titleOfNoRowIsToldByTheDialogSlots()
 {
     BoxResponder boxes;
     QVERIFY(session->load());
-    boxes.expectMessage("Modification d'un waypoint", "Le waypoint NOKEY n'existe pas dans la base");
-    boxes.expectMessage("Modification d'un navaid", "Le navaid NOKEY n'existe pas dans la base");
+    boxes.expectMessage("Modification d'un waypoint", "Le waypoint X-NOKEY n'existe pas dans la base");
+    boxes.expectMessage("Modification d'un navaid", "Le navaid  X-NOKEY  n'existe pas dans la base");
     evaluate("mainWindow.sAddWptToDB('X-NOKEY', 0, 0); mainWindow.sAddNavToDB(' X-NOKEY ', 0, 0)");
     QVERIFY(boxes.allUsed());
 }

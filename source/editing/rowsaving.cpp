@@ -1,0 +1,38 @@
+#include "rowsaving.h"
+
+#include "sqlmgr.h"
+#include "textfile.h"
+#include "updateline.h"
+
+#include <QCoreApplication>
+#include <QMessageBox>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+void storeRow(const SavedRow& row, QWidget* parent)
+{
+    // Joined and not filled in one by one: a value may hold what looks like a place to fill.
+    const QString statement = QStringLiteral("REPLACE INTO ") + row.table + QStringLiteral(" VALUES ('") +
+                              row.values.join(QStringLiteral("','")) + QStringLiteral("')");
+    QSqlQuery query(QSqlDatabase::database(row.connection));
+    if (query.exec(statement)) {
+        QMessageBox::information(parent, row.title, row.storedText);
+    } else {
+        SqlMgr::showQueryError(query);
+    }
+}
+
+void exportRow(const SavedRow& row, QWidget* parent)
+{
+    const QString fileName = updateFileName(row.name);
+    // A file that cannot be written goes unnoticed: the message is the same.
+    writeTextFile(fileName, {composeRowLine(row.database, row.table, row.values)});
+    const QString text =
+        QCoreApplication::translate("RowSaving", "Le fichier d'export pour %1\na été enregistré dans %2");
+    QMessageBox::information(parent, row.exportTitle, text.arg(row.name, fileName));
+}
+
+QString updateFileName(const QString& label)
+{
+    return QStringLiteral("%1\\Data\\%2.CSV").arg(QCoreApplication::applicationDirPath(), label);
+}
