@@ -115,22 +115,12 @@ void PageWindow::closeMenu()
 
 QStringList PageWindow::menuEntries()
 {
-    return run("var menu = document.getElementById('menu');"
-               "menu.hidden ? [] : Array.from(menu.querySelectorAll('.menu-entry')).map(e => e.textContent)")
-        .toStringList();
+    return mouse->menuEntries();
 }
 
 bool PageWindow::chooseEntry(const QString& text)
 {
-    const int index = menuEntries().indexOf(text);
-    if (index < 0)
-        return false;
-    const QVariantList place = run(QString("var box = document.querySelectorAll('.menu-entry')[%1]"
-                                           ".getBoundingClientRect(); [box.left + 10, box.top + box.height / 2]")
-                                       .arg(index))
-                                   .toList();
-    mouse->click(QPoint(place.value(0).toInt(), place.value(1).toInt()));
-    return true;
+    return mouse->chooseEntry(text);
 }
 
 void PageWindow::click(double latitude, double longitude)
@@ -140,5 +130,5 @@ void PageWindow::click(double latitude, double longitude)
 
 QString PageWindow::popupText()
 {
-    return run("var popup = document.querySelector('.popup-text'); popup ? popup.innerText : ''").toString();
+    return mouse->popupText();
 }

@@ -204,3 +204,28 @@ void PageProbe::contextMenu(const QPoint& point)
     QContextMenuEvent event(QContextMenuEvent::Mouse, point, view->mapToGlobal(point));
     QApplication::sendEvent(view, &event);
 }
+
+QStringList PageProbe::menuEntries()
+{
+    return evaluate("var menu = document.getElementById('menu');"
+                    "menu.hidden ? [] : Array.from(menu.querySelectorAll('.menu-entry')).map(e => e.textContent)")
+        .toStringList();
+}
+
+bool PageProbe::chooseEntry(const QString& text)
+{
+    const int index = menuEntries().indexOf(text);
+    if (index < 0)
+        return false;
+    const QVariantList place = evaluate(QString("var box = document.querySelectorAll('.menu-entry')[%1]"
+                                                ".getBoundingClientRect(); [box.left + 10, box.top + box.height / 2]")
+                                            .arg(index))
+                                   .toList();
+    click(QPoint(place.value(0).toInt(), place.value(1).toInt()));
+    return true;
+}
+
+QString PageProbe::popupText()
+{
+    return evaluate("var popup = document.querySelector('.popup-text'); popup ? popup.innerText : ''").toString();
+}

@@ -47,6 +47,12 @@ public:
     void wheel(const QPoint& point, int delta);
     /// The right button's menu: the page sees `contextmenu`.
     void contextMenu(const QPoint& point);
+    /// The texts of the open menu's entries; none when there is no menu.
+    QStringList menuEntries();
+    /// Clicks an entry of the open menu. False when it is not there.
+    bool chooseEntry(const QString& text);
+    /// The text of the pop-up on the map; empty when there is none.
+    QString popupText();
 
 private slots:
     void installOnNewPage();
