@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # The health of the files under version control: LF, no blank at the end of a line, a newline at the end of the file,
 # nothing over a megabyte. Files that .gitattributes exempts with "-text" or "binary" are judged by their size alone:
-# some test data are broken on purpose. Long sources are only told.
+# some test data are broken on purpose. Where it says "whitespace=-blank-at-eol", a line may end in blanks. Long sources
+# are only told.
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
@@ -17,10 +18,12 @@ is_text() {
     [ "$(git check-attr text -- "$1" | sed 's/.*: //')" != unset ] && [ -s "$1" ] && grep -Iq . "$1"
 }
 
+may_end_in_blanks() { [ "$(git check-attr whitespace -- "$1" | sed 's/.*: //')" = -blank-at-eol ]; }
+
 check_text() {
     local file=$1
     if grep -q $'\r' "$file"; then complain "$file: has a carriage return"; fi
-    if grep -nqE '[[:blank:]]+$' "$file"; then
+    if ! may_end_in_blanks "$file" && grep -nqE '[[:blank:]]+$' "$file"; then
         complain "$file:$(grep -nE '[[:blank:]]+$' "$file" | head -n 1 | cut -d: -f1): blanks at the end of the line"
     fi
     if [ -n "$(tail -c 1 "$file")" ]; then complain "$file: no newline at the end"; fi
