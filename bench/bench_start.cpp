@@ -52,6 +52,7 @@ int main(int argc, char* argv[])
     }
     for (const QString& root : arguments) {
         std::vector<double> times;
+        times.reserve(rounds);
         startMs(root); // the files' first reading is the disk's affair
         for (int round = 0; round < rounds; ++round) {
             times.push_back(startMs(root));

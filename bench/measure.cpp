@@ -27,6 +27,7 @@ double medianMs(int rounds, const std::function<void()>& work)
 {
     work();
     std::vector<double> times;
+    times.reserve(static_cast<std::size_t>(rounds));
     for (int round = 0; round < rounds; ++round) {
         times.push_back(elapsedMs(work));
     }
