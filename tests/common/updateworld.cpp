@@ -117,3 +117,11 @@ QByteArray navaidLine(const QByteArray& key)
 {
     return "GEN;NAV;+;65702;" + key + ";ABB;ABBEVILLE;108.45;-1.5;0;FR;;6;2;1;180485.5;6667.25;220;100;130";
 }
+
+QByteArray numberedValues(int count)
+{
+    QByteArrayList values;
+    for (int number = 101; number <= 100 + count; ++number)
+        values << QByteArray::number(number);
+    return values.join(';');
+}

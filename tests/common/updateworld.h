@@ -52,3 +52,6 @@ public:
 
 /// An update line that writes a navaid of this key, all other values set.
 QByteArray navaidLine(const QByteArray& key);
+
+/// The values 101, 102, ... of a row, between semicolons.
+QByteArray numberedValues(int count);

@@ -1,15 +1,10 @@
-// Writing update files: their bytes, the questions and the boxes.
+// Writing 3D objects and projects into update files: their bytes, the questions and the boxes.
 #include "updateworld.h"
 
 #include <QDir>
-#include <QTextCodec>
 #include <QtTest>
 
 namespace {
-
-const QByteArray oneNavaid =
-    "GEN;NAV;-;ukey;;\n"
-    "GEN;NAV;+;65702;A1;ABB;ABBEVILLE;108.45;-1.5;0;FR;;6;2;1;180485.5;6667.25;220;100;130;;\n";
 
 QString existsText(const QString& path)
 {
@@ -40,23 +35,11 @@ void addObject(const UpdateWorld& world, const QString& name, int scene)
 
 } // namespace
 
-class TestExportFiles : public QObject
+class TestExportObjects : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void allNavaids();
-    void allWaypoints();
-    void theCountLeavesOutRowsWithoutAKey();
-    void anEmptyTableGivesNothing();
-    void aTableThatIsNotThereGivesNothing();
-    void anExistingFileIsKeptOnNo_data();
-    void anExistingFileIsKeptOnNo();
-    void anExistingFileIsWrittenOverOnYes();
-    void aFileOfAllNavaidsThatCannotBeOpened();
-    void aFileOfAllWaypointsThatCannotBeOpened();
-    void aPercentSignInTheNameOfAFile();
-    void textGoesOutInTheStreamsOwnEncoding();
     void anObjectWithItsTexture();
     void anObjectWithItsCompanion();
     void everyPointOfTheNameGetsAnN();
@@ -65,158 +48,18 @@ private slots:
     void anObjectWithoutATexture();
     void anObjectThatIsNotThere();
     void anObjectsExistingFile();
+    void anObjectsExistingFileIsKeptOnNo();
     void anObjectsFileThatCannotBeOpenedIsASuccess();
     void aProjectWithItsObjects();
     void aProjectsFolderIsMade();
     void aProjectsFolderThatIsThereStays();
     void aProjectThatIsNotThere();
     void aProjectsExistingFile();
+    void aProjectsExistingFileIsKeptOnNo();
     void aProjectsFileThatCannotBeOpenedIsASuccess();
 };
 
-void TestExportFiles::allNavaids()
-{
-    UpdateWorld world;
-    QVERIFY(world.importToTheEnd(navaidLine("A1")));
-    world.sandbox.insertRow(dbfile::gen, "NAV", {{"ukey", "B1"}, {"name", "a;b"}, {"nfrq", 110.123456789}});
-    const QString path = world.sandbox.path("nav.CSV");
-    world.boxes.expectMessage("Exportation", "2 NAVAID ont été exportés dans " + path);
-    QVERIFY(world.exchange.exportAllNAV(dbfile::gen, path));
-    QCOMPARE(world.sandbox.readFile("nav.CSV"),
-             QByteArray(oneNavaid + "GEN;NAV;+;;B1;;a;b;110.123456789;;;;;;;;;;;;;;\n"));
-    QCOMPARE(world.boxes.seen().last().icon, QMessageBox::Information);
-}
-
-void TestExportFiles::allWaypoints()
-{
-    UpdateWorld world;
-    world.sandbox.addWaypoint();
-    const QString path = world.sandbox.path("wpt.CSV");
-    world.boxes.expectMessage("Exportation", "1 WAYPOINT ont été exportés dans " + path);
-    QVERIFY(world.exchange.exportAllWPT(dbfile::wpt, path));
-    QCOMPARE(world.sandbox.readFile("wpt.CSV"),
-             QByteArray("GEN;WPT;-;ukey;;\nWPT;WPT;+;0;BAMES;BAMES;BAMES;FR;;78;0;1;175320;10800;0;;;;;;\n"));
-}
-
-void TestExportFiles::theCountLeavesOutRowsWithoutAKey()
-{
-    UpdateWorld world;
-    world.sandbox.addNavaid();
-    world.sandbox.addNavaid({{"ukey", QVariant()}});
-    const QString path = world.sandbox.path("nav.CSV");
-    world.boxes.expectMessage("Exportation", "1 NAVAID ont été exportés dans " + path);
-    QVERIFY(world.exchange.exportAllNAV(dbfile::gen, path));
-    QCOMPARE(world.sandbox.readFile("nav.CSV").count("GEN;NAV;+;"), 2);
-}
-
-void TestExportFiles::anEmptyTableGivesNothing()
-{
-    UpdateWorld world;
-    QVERIFY(!world.exchange.exportAllNAV(dbfile::gen, world.sandbox.path("nav.CSV")));
-    QVERIFY(!world.exchange.exportAllWPT(dbfile::wpt, world.sandbox.path("wpt.CSV")));
-    QVERIFY(!world.sandbox.hasFile("nav.CSV"));
-    QVERIFY(!world.sandbox.hasFile("wpt.CSV"));
-}
-
-void TestExportFiles::aTableThatIsNotThereGivesNothing()
-{
-    UpdateWorld world;
-    world.sandbox.writeFile("nav.CSV", "old");
-    QVERIFY(!world.exchange.exportAllNAV(dbfile::wpt, world.sandbox.path("nav.CSV")));
-    QVERIFY(!world.exchange.exportAllNAV("no connection", world.sandbox.path("nav.CSV")));
-    QCOMPARE(world.sandbox.readFile("nav.CSV"), QByteArray("old"));
-}
-
-void TestExportFiles::anExistingFileIsKeptOnNo_data()
-{
-    QTest::addColumn<QString>("what");
-    for (const char* what : {"navaids", "waypoints", "object", "project"})
-        QTest::newRow(what) << what;
-}
-
-void TestExportFiles::anExistingFileIsKeptOnNo()
-{
-    QFETCH(QString, what);
-    UpdateWorld world;
-    world.sandbox.addNavaid();
-    world.sandbox.addWaypoint();
-    addModel(world, "T.SMF", "T.TGA", "v");
-    addProject(world, "Orly", 1, 5);
-    world.sandbox.writeFile("old.CSV", "old");
-    const QString path = world.sandbox.path("old.CSV");
-    world.boxes.expectMessage("Attention", existsText(path), QMessageBox::No);
-    bool done = true;
-    if (what == "navaids")
-        done = world.exchange.exportAllNAV(dbfile::gen, path);
-    else if (what == "waypoints")
-        done = world.exchange.exportAllWPT(dbfile::wpt, path);
-    else if (what == "object")
-        done = world.exchange.exportM3D(dbfile::m3d, "T.SMF", path);
-    else
-        done = world.exchange.exportOBJ(dbfile::obj, QDir(world.sandbox.path("Work")), "Orly", path);
-    QVERIFY(!done);
-    QCOMPARE(world.sandbox.readFile("old.CSV"), QByteArray("old"));
-    QCOMPARE(world.boxes.seen().first().icon, QMessageBox::Question);
-    QCOMPARE(world.boxes.seen().first().choices.size(), 2);
-}
-
-void TestExportFiles::anExistingFileIsWrittenOverOnYes()
-{
-    UpdateWorld world;
-    QVERIFY(world.importToTheEnd(navaidLine("A1")));
-    world.sandbox.writeFile("nav.CSV", QByteArray(5000, 'x'));
-    const QString path = world.sandbox.path("nav.CSV");
-    world.boxes.expectMessage("Attention", existsText(path), QMessageBox::Yes);
-    world.boxes.expectMessage("Exportation", "1 NAVAID ont été exportés dans " + path);
-    QVERIFY(world.exchange.exportAllNAV(dbfile::gen, path));
-    QCOMPARE(world.sandbox.readFile("nav.CSV"), oneNavaid);
-}
-
-void TestExportFiles::aFileOfAllNavaidsThatCannotBeOpened()
-{
-    UpdateWorld world;
-    world.sandbox.addNavaid();
-    const QString path = world.sandbox.path("nowhere/nav.CSV");
-    const QString text = "exportNAV: Impossible d'ouvrir le fichier " + path;
-    world.boxes.expectMessage("Erreur CSV", text);
-    QVERIFY(!world.exchange.exportAllNAV(dbfile::gen, path));
-    QCOMPARE(world.boxes.seen().first().icon, QMessageBox::Warning);
-    QCOMPARE(world.logged(QtWarningMsg), QStringList{"CIODataBase::exportNAV \"" + text + '"'});
-}
-
-void TestExportFiles::aFileOfAllWaypointsThatCannotBeOpened()
-{
-    UpdateWorld world;
-    world.sandbox.addWaypoint();
-    const QString path = world.sandbox.path("nowhere/wpt.CSV");
-    const QString text = "exportWPT: Impossible d'ouvrir le fichier " + path;
-    world.boxes.expectMessage("Erreur CSV", text);
-    QVERIFY(!world.exchange.exportAllWPT(dbfile::wpt, path));
-    QCOMPARE(world.logged(QtWarningMsg), QStringList{"CIODataBase::exportWPT \"" + text + '"'});
-}
-
-void TestExportFiles::aPercentSignInTheNameOfAFile()
-{
-    UpdateWorld world;
-    world.sandbox.addNavaid();
-    const QString path = world.sandbox.path("%2 100%.CSV");
-    world.boxes.expectMessage("Exportation", "1 NAVAID ont été exportés dans " + path);
-    QVERIFY(world.exchange.exportAllNAV(dbfile::gen, path));
-    QVERIFY(world.sandbox.hasFile("%2 100%.CSV"));
-}
-
-void TestExportFiles::textGoesOutInTheStreamsOwnEncoding()
-{
-    UpdateWorld world;
-    world.sandbox.insertRow(dbfile::gen, "NAV", {{"ukey", "A1"}, {"name", "CHÂTEAU"}});
-    const QString path = world.sandbox.path("nav.CSV");
-    world.boxes.expectMessage("Exportation", "1 NAVAID ont été exportés dans " + path);
-    QVERIFY(world.exchange.exportAllNAV(dbfile::gen, path));
-    QVERIFY(
-        world.sandbox.readFile("nav.CSV").contains(";" + QTextCodec::codecForLocale()->fromUnicode("CHÂTEAU") + ";"));
-}
-
-void TestExportFiles::anObjectWithItsTexture()
+void TestExportObjects::anObjectWithItsTexture()
 {
     UpdateWorld world;
     addModel(world, "TOWER.SMF", "TOWER.TGA", QByteArray("\x01\xff"));
@@ -234,7 +77,7 @@ void TestExportFiles::anObjectWithItsTexture()
     QCOMPARE(world.boxes.seen().first().icon, QMessageBox::Information);
 }
 
-void TestExportFiles::anObjectWithItsCompanion()
+void TestExportObjects::anObjectWithItsCompanion()
 {
     UpdateWorld world;
     addModel(world, "TOWER.SMF", "DAY.TGA", "1");
@@ -255,7 +98,7 @@ void TestExportFiles::anObjectWithItsCompanion()
                         "M3D;TEXTURE;+;NIGHT.TGA;1;1;34\n"));
 }
 
-void TestExportFiles::everyPointOfTheNameGetsAnN()
+void TestExportObjects::everyPointOfTheNameGetsAnN()
 {
     UpdateWorld world;
     addModel(world, "A.B.SMF", "", "1");
@@ -269,7 +112,7 @@ void TestExportFiles::everyPointOfTheNameGetsAnN()
                                                          "M3D;MOD;+;AN.BN.SMF;1;0;;90.5;-1.25;0;2;3;32;0a;0b;0c\n"));
 }
 
-void TestExportFiles::anObjectWithoutAPointIsWrittenTwice()
+void TestExportObjects::anObjectWithoutAPointIsWrittenTwice()
 {
     UpdateWorld world;
     addModel(world, "TOWER", "T.TGA", "1");
@@ -284,7 +127,7 @@ void TestExportFiles::anObjectWithoutAPointIsWrittenTwice()
     QCOMPARE(world.sandbox.readFile("tower.CSV"), QByteArray(once + once));
 }
 
-void TestExportFiles::allRowsOfAnObjectAreWritten()
+void TestExportObjects::allRowsOfAnObjectAreWritten()
 {
     UpdateWorld world;
     addModel(world, "T.SMF", "FIRST.TGA", "1");
@@ -304,7 +147,7 @@ void TestExportFiles::allRowsOfAnObjectAreWritten()
                                                          "M3D;TEXTURE;+;FIRST.TGA;1;1;34\n"));
 }
 
-void TestExportFiles::anObjectWithoutATexture()
+void TestExportObjects::anObjectWithoutATexture()
 {
     UpdateWorld world;
     addModel(world, "T.SMF", "GONE.TGA", "1");
@@ -315,7 +158,7 @@ void TestExportFiles::anObjectWithoutATexture()
              QByteArray("M3D;MOD;-;name;T.SMF;\nM3D;MOD;+;T.SMF;1;0;GONE.TGA;90.5;-1.25;0;2;3;31;0a;0b;0c\n"));
 }
 
-void TestExportFiles::anObjectThatIsNotThere()
+void TestExportObjects::anObjectThatIsNotThere()
 {
     UpdateWorld world;
     world.sandbox.writeFile("t.CSV", "old");
@@ -327,7 +170,7 @@ void TestExportFiles::anObjectThatIsNotThere()
     QCOMPARE(world.sandbox.readFile("t.CSV"), QByteArray("old"));
 }
 
-void TestExportFiles::anObjectsExistingFile()
+void TestExportObjects::anObjectsExistingFile()
 {
     UpdateWorld world;
     addModel(world, "T.SMF", "", "1");
@@ -339,7 +182,19 @@ void TestExportFiles::anObjectsExistingFile()
     QCOMPARE(world.sandbox.readFile("t.CSV").count('\n'), 2);
 }
 
-void TestExportFiles::anObjectsFileThatCannotBeOpenedIsASuccess()
+void TestExportObjects::anObjectsExistingFileIsKeptOnNo()
+{
+    UpdateWorld world;
+    addModel(world, "T.SMF", "", "1");
+    world.sandbox.writeFile("t.CSV", "old");
+    const QString path = world.sandbox.path("t.CSV");
+    world.boxes.expectMessage("Attention", existsText(path), QMessageBox::No);
+    QVERIFY(!world.exchange.exportM3D(dbfile::m3d, "T.SMF", path));
+    QCOMPARE(world.sandbox.readFile("t.CSV"), QByteArray("old"));
+    QCOMPARE(world.boxes.seen().first().icon, QMessageBox::Question);
+}
+
+void TestExportObjects::anObjectsFileThatCannotBeOpenedIsASuccess()
 {
     UpdateWorld world;
     addModel(world, "T.SMF", "", "1");
@@ -349,7 +204,7 @@ void TestExportFiles::anObjectsFileThatCannotBeOpenedIsASuccess()
     QVERIFY(!world.sandbox.hasFile("nowhere/t.CSV"));
 }
 
-void TestExportFiles::aProjectWithItsObjects()
+void TestExportObjects::aProjectWithItsObjects()
 {
     UpdateWorld world;
     addProject(world, "Orly", 1, "5");
@@ -375,7 +230,7 @@ void TestExportFiles::aProjectWithItsObjects()
     QCOMPARE(world.boxes.seen().first().icon, QMessageBox::Information);
 }
 
-void TestExportFiles::aProjectsFolderIsMade()
+void TestExportObjects::aProjectsFolderIsMade()
 {
     UpdateWorld world;
     addProject(world, "Orly", 1, "5");
@@ -387,7 +242,7 @@ void TestExportFiles::aProjectsFolderIsMade()
     QVERIFY(made.isEmpty());
 }
 
-void TestExportFiles::aProjectsFolderThatIsThereStays()
+void TestExportObjects::aProjectsFolderThatIsThereStays()
 {
     UpdateWorld world;
     addProject(world, "Orly", 1, "5");
@@ -398,7 +253,7 @@ void TestExportFiles::aProjectsFolderThatIsThereStays()
     QCOMPARE(world.sandbox.readFile("Work/Orly/plan.txt"), QByteArray("kept"));
 }
 
-void TestExportFiles::aProjectThatIsNotThere()
+void TestExportObjects::aProjectThatIsNotThere()
 {
     UpdateWorld world;
     world.boxes.expectMessage("Erreur SQL", "Impossible de trouver le projet Orly dans la base de donnée OBJ.db");
@@ -410,7 +265,7 @@ void TestExportFiles::aProjectThatIsNotThere()
     QVERIFY(!world.sandbox.hasFile("orly.CSV"));
 }
 
-void TestExportFiles::aProjectsExistingFile()
+void TestExportObjects::aProjectsExistingFile()
 {
     UpdateWorld world;
     addProject(world, "Orly", 1, "5");
@@ -422,7 +277,20 @@ void TestExportFiles::aProjectsExistingFile()
     QCOMPARE(world.sandbox.readFile("orly.CSV"), QByteArray("OBJ;FNM;-;scene;Orly;\nOBJ;FNM;+;1;f.sce;Orly;5;;\n"));
 }
 
-void TestExportFiles::aProjectsFileThatCannotBeOpenedIsASuccess()
+void TestExportObjects::aProjectsExistingFileIsKeptOnNo()
+{
+    UpdateWorld world;
+    addProject(world, "Orly", 1, "5");
+    world.sandbox.writeFile("orly.CSV", "old");
+    const QString path = world.sandbox.path("orly.CSV");
+    world.boxes.expectMessage("Attention", existsText(path), QMessageBox::No);
+    QVERIFY(!world.exchange.exportOBJ(dbfile::obj, QDir(world.sandbox.path("Work")), "Orly", path));
+    QCOMPARE(world.sandbox.readFile("orly.CSV"), QByteArray("old"));
+    // The folder comes before the question.
+    QVERIFY(QDir(world.sandbox.path("Work/Orly")).exists());
+}
+
+void TestExportObjects::aProjectsFileThatCannotBeOpenedIsASuccess()
 {
     UpdateWorld world;
     addProject(world, "Orly", 1, "5");
@@ -433,5 +301,5 @@ void TestExportFiles::aProjectsFileThatCannotBeOpenedIsASuccess()
     QVERIFY(QDir(world.sandbox.path("Work/Orly")).exists());
 }
 
-QTEST_MAIN(TestExportFiles)
-#include "tst_exportfiles.moc"
+QTEST_MAIN(TestExportObjects)
+#include "tst_exportobjects.moc"
