@@ -32,6 +32,7 @@ private slots:
     void aFileOfAllNavaidsThatCannotBeOpened();
     void aFileOfAllWaypointsThatCannotBeOpened();
     void aPercentSignInTheNameOfAFile();
+    void aPathWithBackslashesIsShownAsItIs();
     void textGoesOutInTheStreamsOwnEncoding();
 };
 
@@ -147,6 +148,16 @@ void TestExportTables::aPercentSignInTheNameOfAFile()
     world.boxes.expectMessage("Exportation", "1 NAVAID ont été exportés dans " + path);
     QVERIFY(world.exchange.exportAllNAV(dbfile::gen, path));
     QVERIFY(world.sandbox.hasFile("%2 100%.CSV"));
+}
+
+void TestExportTables::aPathWithBackslashesIsShownAsItIs()
+{
+    UpdateWorld world;
+    world.sandbox.addNavaid();
+    const QString path = world.sandbox.root() + "\\Work\\nav.CSV";
+    world.boxes.expectMessage("Exportation", "1 NAVAID ont été exportés dans " + path);
+    QVERIFY(world.exchange.exportAllNAV(dbfile::gen, path));
+    QVERIFY(world.sandbox.hasFile("Work/nav.CSV"));
 }
 
 void TestExportTables::textGoesOutInTheStreamsOwnEncoding()
