@@ -33,10 +33,11 @@ QVector<FoundPoint> findRows(CFlightPlan& plan, const QString& connection, Looku
                              const QString& text, bool exact)
 {
     QVector<FoundPoint> found;
+    SqlMgr& sqlMgr = *plan.navVar->sqlMgr;
     QSqlQuery row = walkOnce(connection);
-    for (bool more = (plan.navVar->sqlMgr->*lookup)(text, exact, row); more; more = row.next()) {
+    for (bool more = (sqlMgr.*lookup)(text, exact, row); more; more = row.next()) {
         const CFpLinePtr line = plan.newLine();
-        (line.data()->*fill)(row);
+        ((*line).*fill)(row);
         found.append({line, {}});
     }
     return found;
