@@ -3,6 +3,8 @@
 
 #include "positions.h"
 
+#include <QSignalBlocker>
+
 #include <cmath>
 
 namespace {
@@ -28,13 +30,16 @@ AngleBoxes longitudeBoxes(const Ui::CDialogLatLon& ui)
     return {ui.cbEW, ui.sbLonDeg, ui.sbLonMin, ui.sbLonSec};
 }
 
-// Zero counts as south and as west. Seconds that round to 60 stay 60.
+// Zero counts as south and as west. Seconds that round to 60 stay 60. Silent: a box that has the focus would take its
+// new value for a typed one.
 void showAngle(const AngleBoxes& boxes, double signedDegrees)
 {
     const bool northOrEast = signedDegrees > 0.0;
     const double degrees = northOrEast ? signedDegrees : -signedDegrees;
     const double minutes = (degrees - std::floor(degrees)) * 60.0;
     const double seconds = (minutes - std::floor(minutes)) * 60.0;
+    const QSignalBlocker silent[] = {QSignalBlocker(boxes.hemisphere), QSignalBlocker(boxes.degrees),
+                                     QSignalBlocker(boxes.minutes), QSignalBlocker(boxes.seconds)};
     boxes.hemisphere->setCurrentIndex(northOrEast ? 0 : southOrWest);
     boxes.degrees->setValue(truncatedInt(degrees));
     boxes.minutes->setValue(truncatedInt(std::floor(minutes)));

@@ -38,6 +38,7 @@ private slots:
     void longitudeZeroIsWest();
     void secondsThatRoundTo60Stay60();
     void aLatitudeBeyond80IsKeptUntilItIsTyped();
+    void showingAPositionIsNotTyping_data();
     void showingAPositionIsNotTyping();
     void aChangeByTheProgramHasNoEffect();
     void typingALatitude_data();
@@ -218,13 +219,33 @@ void TestCDialogLatLon::aLatitudeBeyond80IsKeptUntilItIsTyped()
     QCOMPARE(dialog->lat, 289800.0);
 }
 
+void TestCDialogLatLon::showingAPositionIsNotTyping_data()
+{
+    QTest::addColumn<QString>("focused");
+    for (const char* name :
+         {"edLat", "cbNS", "sbLatDeg", "sbLatMin", "sbLatSec", "cbEW", "sbLonDeg", "sbLonMin", "sbLonSec"})
+        QTest::newRow(name) << name;
+}
+
 void TestCDialogLatLon::showingAPositionIsNotTyping()
 {
-    // Whatever has the focus, the boxes that change are the program's doing but for that one.
-    widgetOf<QWidget>(*dialog, "edLat")->setFocus();
-    dialog->setPosition(180059.999, -7200);
-    QCOMPARE(dialog->lat, 180059.999);
+    QFETCH(QString, focused);
+    auto* box = widgetOf<QWidget>(*dialog, focused);
+    box->setFocus();
+    QVERIFY(box->hasFocus());
+    dialog->setPosition(-180000, -7200);
+    QCOMPARE(dialog->lat, -180000.0);
     QCOMPARE(dialog->lon, -7200.0);
+    // More decimals than the boxes hold: what is read out of them is another position.
+    dialog->setPosition(-175530.638, -8491.252);
+    QCOMPARE(dialog->lat, -175530.638);
+    QCOMPARE(dialog->lon, -8491.252);
+    QCOMPARE(textOf(*dialog, "edLat"), QString("-175530.64"));
+    QCOMPARE(textOf(*dialog, "edLon"), QString("-8491.25"));
+    QCOMPARE(latitude() + ", " + longitude(), QString("S 48 45 30.64, W 2 21 31.25"));
+    dialog->setPosition(180059.999, 7200);
+    QCOMPARE(dialog->lat, 180059.999);
+    QCOMPARE(dialog->lon, 7200.0);
 }
 
 void TestCDialogLatLon::aChangeByTheProgramHasNoEffect()
