@@ -91,7 +91,9 @@ void CDialogNav::setData(const QSqlQuery& qry)
     nsvr = qry.value(6).toDouble();
     country.select(qry.value(7).toString());
     stat = qry.value(8).toString();
-    checkStored(*ui, types, qry.value(9).toInt());
+    if (!checkStored(*ui, types, qry.value(9).toInt())) {
+        ui->rbVOR->setChecked(true); // the form's default, also when another row was shown before
+    }
     ncls = qry.value(10).toInt();
     checkStored(*ui, usages, qry.value(11).toInt());
     position.showStored(qry.value(12).toString(), qry.value(13).toString(), qry.value(0).toString());

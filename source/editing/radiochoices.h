@@ -9,15 +9,22 @@
 /// A group of radio buttons as a table. Each row has at least the form's member `button` and the value `stored` that
 /// the database has for it.
 
-/// Checks the button of a stored value. A value that no button stands for leaves the group as it is.
+/// Checks the button of a stored value and no other. False when no button stands for the value: then none is checked,
+/// but a QButtonGroup that is exclusive keeps the button that it has.
 template <typename Form, typename Choice, std::size_t count>
-void checkStored(const Form& form, const Choice (&choices)[count], int stored)
+bool checkStored(const Form& form, const Choice (&choices)[count], int stored)
 {
+    bool found = false;
     for (const Choice& choice : choices) {
-        if (choice.stored == stored) {
-            (form.*choice.button)->setChecked(true);
-        }
+        QRadioButton* const button = form.*choice.button;
+        const bool wanted = choice.stored == stored;
+        // A button that excludes its neighbours refuses to be unchecked.
+        button->setAutoExclusive(false);
+        button->setChecked(wanted);
+        button->setAutoExclusive(true);
+        found = found || wanted;
     }
+    return found;
 }
 
 /// The row of the button that is checked; null when none is.

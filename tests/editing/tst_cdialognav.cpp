@@ -45,6 +45,7 @@ private slots:
     void aStoredUsageChecksItsButton_data();
     void aStoredUsageChecksItsButton();
     void anUnknownUsageChecksNoButton();
+    void unknownValuesAfterKnownOnesShowTheFormsButtons();
     void openingARowAsksNothingAndKeepsItsKey();
     void aTextThatIsTooLongForTypingIsShownWhole();
     void aFrequencyBeyondTheBoxIsShownAtItsEdge_data();
@@ -269,6 +270,19 @@ void TestCDialogNav::anUnknownUsageChecksNoButton()
 {
     openRow({{"nuse", 0}});
     QCOMPARE(checkedIn(*dialog, "gbUsage"), QStringList());
+}
+
+void TestCDialogNav::unknownValuesAfterKnownOnesShowTheFormsButtons()
+{
+    openRow({{"ntyp", 8}, {"nuse", 3}});
+    world->sandbox.addNavaid({{"ukey", "OTHERKEY"}, {"ntyp", 5}, {"nuse", 0}});
+    dialog->setData(world->navaid("OTHERKEY"));
+    QCOMPARE(checkedIn(*dialog, "gbType"), QStringList{"rbVOR"});
+    QCOMPARE(checkedIn(*dialog, "gbUsage"), QStringList());
+    // One button at a time, as before.
+    for (const char* name : {"rbTerm", "rbLow"})
+        press(*dialog, name);
+    QCOMPARE(checkedIn(*dialog, "gbUsage"), QStringList{"rbLow"});
 }
 
 void TestCDialogNav::openingARowAsksNothingAndKeepsItsKey()

@@ -35,6 +35,7 @@ private slots:
     void aStoredUsageChecksItsButton();
     void anUnknownTypeChecksNoButton();
     void anUnknownUsageChecksNoButton();
+    void unknownValuesAfterKnownOnesCheckNoButton();
     void openingARowKeepsItsKey();
     void aTextThatIsTooLongForTypingIsShownWhole();
     void aRowOfNothingIsShown();
@@ -266,6 +267,20 @@ void TestCDialogWpt::anUnknownUsageChecksNoButton()
 {
     openRow({{"wuse", 0}});
     QCOMPARE(checkedIn(*dialog, "gbUsage"), QStringList());
+}
+
+void TestCDialogWpt::unknownValuesAfterKnownOnesCheckNoButton()
+{
+    openRow({{"wtyp", 6}, {"wuse", 3}});
+    world->sandbox.addWaypoint({{"ukey", "OTHERKEY"}, {"wtyp", 7}, {"wuse", 0}});
+    dialog->setData(world->waypoint("OTHERKEY"));
+    QCOMPARE(checkedIn(*dialog, "gbType"), QStringList());
+    QCOMPARE(checkedIn(*dialog, "gbUsage"), QStringList());
+    // One button at a time, as before.
+    for (const char* name : {"rbNDB", "rbOffRoute", "rbTerm", "rbLow"})
+        press(*dialog, name);
+    QCOMPARE(checkedIn(*dialog, "gbType"), QStringList{"rbOffRoute"});
+    QCOMPARE(checkedIn(*dialog, "gbUsage"), QStringList{"rbLow"});
 }
 
 void TestCDialogWpt::openingARowKeepsItsKey()
