@@ -3,7 +3,6 @@
 #include "ciodatabase.h"
 
 #include "databaselayout.h"
-#include "platformpath.h"
 #include "updateline.h"
 #include "updatestatements.h"
 
@@ -57,7 +56,7 @@ void CIODataBase::importFiles(CGlobalVar* navVar)
     const QStringList names = QFileDialog::getOpenFileNames(nullptr, tr("Ouvrir un fichier d'import"), QString(),
                                                             tr("Fichier Zephan Export (*.CSV);;Tous (*.*)"));
     for (const QString& name : names) {
-        QFile file(platformPath(name));
+        QFile file(name);
         if (file.open(QIODevice::ReadOnly)) {
             importDB(file, navVar);
         }

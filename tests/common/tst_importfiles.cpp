@@ -1,6 +1,7 @@
 // Picking update files, and the form that takes objects out of an OpenStreetMap database.
 #include "updateworld.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QtTest>
 
@@ -30,6 +31,7 @@ private slots:
     void severalFilesAreImportedInTheirOrder();
     void aFileAfterAStoppedOneIsStillTaken();
     void aFileThatCannotBeOpenedIsSkippedWithoutAWord();
+    void aNameWithABackslashIsTakenAsItIs();
     void osmRemovesNamedObjects();
     void osmInTheMiddleTakesOverTheRest();
     void osmReadsUtf8();
@@ -104,6 +106,18 @@ void TestImportFiles::aFileThatCannotBeOpenedIsSkippedWithoutAWord()
     world.exchange.importFiles(world.variables.get());
     QCOMPARE(world.titles(), (QStringList{dialogTitle, "Importation", "Importation"}));
     QCOMPARE(world.column(dbfile::obj, "SELECT file FROM FNM ORDER BY rowid"), QString("first last"));
+}
+
+void TestImportFiles::aNameWithABackslashIsTakenAsItIs()
+{
+    if (QDir::separator() == '\\')
+        QSKIP("no file has such a name here");
+    UpdateWorld world;
+    const QString picked = world.write("OBJ;FNM;+;1;picked;s;1\n", "back\\slash.CSV");
+    world.boxes.expectFiles(dialogTitle, {picked});
+    world.expectImported(picked);
+    world.exchange.importFiles(world.variables.get());
+    QCOMPARE(world.column(dbfile::obj, "SELECT file FROM FNM"), QString("picked"));
 }
 
 void TestImportFiles::osmRemovesNamedObjects()
