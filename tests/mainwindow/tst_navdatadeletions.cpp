@@ -61,6 +61,9 @@ private slots:
     void theKeyIsTheSecondPartOfTheTrimmedTitle();
     void aTitleOfNoRowIsTold_data();
     void aTitleOfNoRowIsTold();
+    void aTitleWithoutAKeyHasNoRow();
+    void theBoxesAreInformationWithoutAParent_data();
+    void theBoxesAreInformationWithoutAParent();
     void aRefusedDeletionIsReportedAndTheRestIsDone_data();
     void aRefusedDeletionIsReportedAndTheRestIsDone();
     void withoutDatabasesTheLookUpIsReported();
@@ -461,6 +464,52 @@ void TestNavdataDeletions::aTitleOfNoRowIsTold()
     session->window().sDelNavFromDB(title);
     QVERIFY(boxes->allUsed());
     QCOMPARE(rows("NAV") + rows("WPT"), 2);
+}
+
+void TestNavdataDeletions::aTitleWithoutAKeyHasNoRow()
+{
+    sandbox->addWaypoint({{"ukey", ""}});
+    sandbox->addNavaid({{"ukey", ""}});
+    boxes->expectMessage("Suppression d'un waypoint", "Le waypoint sélectionné n'existe pas dans la base");
+    boxes->expectMessage(heading, "Le point sélectionné n'existe pas dans la base");
+    session->window().sDelWptFromDB("BLETO");
+    session->window().sDelNavFromDB("CGO");
+    QVERIFY(boxes->allUsed());
+    QCOMPARE(rows("WPT"), 2);
+    QCOMPARE(rows("NAV"), 2);
+}
+
+void TestNavdataDeletions::theBoxesAreInformationWithoutAParent_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("button"); // none where no question comes
+    QTest::addColumn<QString>("blocked");
+    QTest::newRow("no such row") << "X-NOKEY"
+                                 << "" << QString();
+    QTest::newRow("deleted") << "CGO-CGO4FR" << erase << QString();
+    QTest::newRow("deleted and exported") << "CGO-CGO4FR" << eraseAndExport << QString();
+    QTest::newRow("deleted, no file") << "CGO-CGO4FR" << eraseAndExport << "CGO";
+    QTest::newRow("waypoint: deleted") << "BLETO-BLETOFR" << erase << QString();
+    QTest::newRow("waypoint: deleted and exported") << "BLETO-BLETOFR" << eraseAndExport << QString();
+}
+
+void TestNavdataDeletions::theBoxesAreInformationWithoutAParent()
+{
+    QFETCH(QString, title);
+    QFETCH(QString, button);
+    QFETCH(QString, blocked);
+    if (!blocked.isEmpty())
+        data->block(blocked);
+    if (!button.isEmpty())
+        boxes->expectMessage("", heading, button);
+    boxes->expectAnyMessage();
+    if (title.startsWith("BLETO"))
+        session->window().sDelWptFromDB(title);
+    else
+        session->window().sDelNavFromDB(title);
+    QVERIFY(boxes->allUsed());
+    QCOMPARE(boxes->seen().last().icon, QMessageBox::Information);
+    QCOMPARE(boxes->seen().last().parentClass, QString());
 }
 
 void TestNavdataDeletions::aRefusedDeletionIsReportedAndTheRestIsDone_data()

@@ -50,6 +50,8 @@ private slots:
     void aTitleOfNoRowIsTold();
     void anEmptyKeyIsLookedUpToo();
     void aTitleWithoutAKeyHasNoRow();
+    void theBoxesOfSavingAreInformation_data();
+    void theBoxesOfSavingAreInformation();
     void theDialogStaysWithTheWindow();
     void theTableIsNotLockedWhileTheDialogIsOpen();
     void withoutDatabasesTheLookUpIsReported();
@@ -374,6 +376,36 @@ void TestNavdataEdits::aTitleWithoutAKeyHasNoRow()
     boxes->expectMessage("Modification d'un waypoint", "Le waypoint ABLAN n'existe pas dans la base");
     session->window().sAddWptToDB("ABLAN", 0, 0);
     QVERIFY(boxes->allUsed());
+}
+
+void TestNavdataEdits::theBoxesOfSavingAreInformation_data()
+{
+    QTest::addColumn<QString>("dialogClass");
+    QTest::newRow("navaid") << "CDialogNav";
+    QTest::newRow("waypoint") << "CDialogWpt";
+}
+
+void TestNavdataEdits::theBoxesOfSavingAreInformation()
+{
+    QFETCH(QString, dialogClass);
+    const DataFolder data({"CHATEAUROUX", "ABLAN"});
+    boxes->expectDialog(dialogClass, [](QDialog* dialog) {
+        press(*dialog, "cbSaveCSV");
+        press(*dialog, "pbOK");
+    });
+    boxes->expectAnyMessage();
+    boxes->expectAnyMessage();
+    if (dialogClass == "CDialogNav")
+        session->window().sAddNavToDB("CGO-CGO4FR", 0, 0);
+    else
+        session->window().sAddWptToDB("ABLAN-ABLANFR", 0, 0);
+    QVERIFY(boxes->allUsed());
+    QCOMPARE(boxes->seen().size(), 3);
+    for (const SeenBox& box : boxes->seen().mid(1)) {
+        QCOMPARE(box.icon, QMessageBox::Information);
+        // Over the dialog, which is still open.
+        QCOMPARE(box.parentClass, dialogClass);
+    }
 }
 
 void TestNavdataEdits::theDialogStaysWithTheWindow()

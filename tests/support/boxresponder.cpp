@@ -20,6 +20,8 @@ SeenBox describe(QDialog* dialog)
     SeenBox box;
     box.className = QString::fromLatin1(dialog->metaObject()->className());
     box.title = dialog->windowTitle();
+    if (const QWidget* parent = dialog->parentWidget())
+        box.parentClass = QString::fromLatin1(parent->metaObject()->className());
     if (const auto* message = qobject_cast<QMessageBox*>(dialog)) {
         box.text = message->text();
         box.icon = message->icon();

@@ -20,6 +20,7 @@ struct SeenBox
     QString value;       ///< an input dialog's first value, a file dialog's folder
     QStringList choices; ///< texts of a message's buttons, entries of an input dialog, name filters of a file dialog
     QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QString parentClass; ///< of the widget that the box stands over; empty without one
 };
 
 /// Answers modal boxes while they block their caller, from a queue of what is expected, in order.

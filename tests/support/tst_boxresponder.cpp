@@ -23,6 +23,18 @@ private slots:
         QCOMPARE(boxes.seen().first().icon, QMessageBox::Question);
     }
 
+    void tellsWhatABoxStandsOver()
+    {
+        BoxResponder boxes;
+        boxes.expectAnyMessage();
+        boxes.expectAnyMessage();
+        QDialog window;
+        QMessageBox::information(&window, "Titre", "Texte");
+        QMessageBox::information(nullptr, "Titre", "Texte");
+        QCOMPARE(boxes.seen().at(0).parentClass, QString("QDialog"));
+        QCOMPARE(boxes.seen().at(1).parentClass, QString());
+    }
+
     void pressesAButtonOfItsOwn()
     {
         BoxResponder boxes;
