@@ -5,7 +5,7 @@
 #   ./run.sh SIMULATOR    beside the simulator in that folder
 #
 # With no display it takes a tour of the program on a virtual one instead, always beside a demonstration simulator,
-# and prints where the pictures and the written flight plan and situation files are.
+# and prints where the pictures and the written flight plan, situation and update files are.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)

@@ -1,11 +1,13 @@
 // "tour SIMULATOR PICTURES" takes the tour on a demonstration simulator and prints the pictures that it took and the
-// files that the program wrote into the simulator. The system's language decides the program's, as ever.
+// files that the program wrote: into the simulator, and an update file into the folder "Data" beside the program. The
+// system's language decides the program's, as ever.
 #include "interfacelanguage.h"
 #include "tour.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFileInfo>
 #include <QTranslator>
 
 #include <cstdio>
@@ -49,5 +51,7 @@ int main(int argc, char* argv[])
     const bool whole = tour.take();
     printFiles(root + "/Flightplan", "*.FPL");
     printFiles(root + "/Saved Simulations", "*.SIT");
+    const QFileInfo update(Tour::updateFile());
+    printFiles(update.path(), qPrintable(update.fileName()));
     return whole ? 0 : 1;
 }

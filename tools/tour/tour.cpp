@@ -1,11 +1,9 @@
-// The steps of the tour.
+// The tour, and its steps from the start to a plan that is saved and loaded again.
 #include "tour.h"
 
 #include "mainwindow.h"
 
 #include <QApplication>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QToolBar>
@@ -16,36 +14,11 @@
 
 namespace {
 
-struct Place
-{
-    double latitude; ///< degrees
-    double longitude;
-};
-
 // Of the demonstration simulator's rows.
 const Place orly{48.7295, 2.35896};
 const Place runwayHead{48.7355, 2.36068}; // of its longest runway, where a flight starts
 const Place rambouillet{48.6539, 1.99422};
 const Place balan{46.51611, 1.03333};
-
-/// The middle of a menu entry on the page; null without one.
-const char* const entryPlace = R"js(
-    (function (text) {
-        var found = Array.from(document.querySelectorAll('#menu .menu-entry')).filter(function (entry) {
-            return entry.textContent === text && entry.offsetWidth > 0;
-        });
-        if (found.length !== 1)
-            return null;
-        var box = found[0].getBoundingClientRect();
-        return [box.left + box.width / 2, box.top + box.height / 2];
-    })(pageWords['%1']))js";
-
-/// Time for the page to draw and for the window to lay itself out.
-void settle()
-{
-    constexpr int rest = 400; // milliseconds
-    QTest::qWait(rest);
-}
 
 } // namespace
 
@@ -77,6 +50,12 @@ const QVector<Tour::Step>& Tour::steps()
         {"start-set", &Tour::setStart},
         {"new-plan", &Tour::startNew},
         {"plan-loaded", &Tour::load},
+        {"empty-map-menu", &Tour::openEmptyMapMenu},
+        {"waypoint-made", &Tour::makeWaypoint},
+        {"waypoint-pop-up", &Tour::openNewPopup},
+        {"waypoint-menu", &Tour::openWaypointMenu},
+        {"waypoint-deleted", &Tour::deleteWaypoint},
+        {"update-imported", &Tour::importUpdate},
     };
     return all;
 }
@@ -268,120 +247,7 @@ void Tour::startNew()
 
 void Tour::load()
 {
-    boxes.expectDialog("QFileDialog", [this](QDialog* dialog) {
-        settle();
-        dialog->findChild<QLineEdit*>("fileNameEdit")->setText("LFPO_LFBO.FPL");
-        picture(dialog, "box-load");
-        QMetaObject::invokeMethod(dialog, "accept");
-    });
+    expectFile("LFPO_LFBO.FPL", "box-load");
     clickButton("btnLoadFlightPlan");
     requireLines(7);
-}
-
-void Tour::require(bool fulfilled, const QString& what)
-{
-    if (!fulfilled && failure.isEmpty()) {
-        failure = what;
-    }
-}
-
-void Tour::requireLines(int count)
-{
-    settle();
-    require(grid()->rowCount() == count,
-            QString("%1 lines in the plan instead of %2").arg(grid()->rowCount()).arg(count));
-}
-
-void Tour::picture(QWidget* widget, const char* name)
-{
-    require(album.take(widget, name), "the picture cannot be written");
-}
-
-void Tour::search(const QString& text, const QString& button)
-{
-    auto* edit = session.find<QLineEdit>("searchData");
-    edit->setFocus();
-    edit->clear();
-    QTest::keyClicks(edit, text);
-    clickButton(button);
-}
-
-void Tour::pickFound(const QString& key)
-{
-    constexpr int keyColumn = 4;
-    auto* tree = session.find<QTreeWidget>("treeWFound");
-    const QList<QTreeWidgetItem*> items = tree->findItems(key, Qt::MatchExactly, keyColumn);
-    require(items.size() == 1, QString("%1 found %2 times").arg(key).arg(items.size()));
-    if (!items.isEmpty()) {
-        tree->setCurrentItem(items.first());
-        tree->scrollToItem(items.first());
-    }
-}
-
-void Tour::addFound(const QString& key)
-{
-    pickFound(key);
-    auto* tree = session.find<QTreeWidget>("treeWFound");
-    const QPoint place = tree->visualItemRect(tree->currentItem()).center();
-    QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    QTest::mouseDClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-}
-
-void Tour::centreOn(const QString& ident, const QString& key)
-{
-    search(ident, "btnSearchExact");
-    pickFound(key);
-    session.find<QTreeWidget>("treeWFound")->actions().first()->trigger();
-    settle();
-}
-
-void Tour::zoomTo(double zoom)
-{
-    constexpr int notch = 120;
-    constexpr int most = 20;
-    auto* view = session.find<QWidget>("map");
-    for (int i = 0; i < most; ++i) {
-        const double now = session.page().evaluate("map.getZoom()").toDouble();
-        if (qFuzzyCompare(now, zoom)) {
-            return;
-        }
-        session.page().wheel(view->rect().center(), now < zoom ? notch : -notch);
-        settle();
-    }
-    require(false, QString("the wheel did not bring the map to zoom %1").arg(zoom));
-}
-
-void Tour::openMenuAt(const QPoint& place)
-{
-    session.page().contextMenu(place);
-    settle();
-    require(session.page().evaluate("!document.getElementById('menu').hidden").toBool(), "no menu opened on the page");
-}
-
-void Tour::chooseEntry(const QString& word)
-{
-    const QVariantList place = session.page().evaluate(QString(entryPlace).arg(word)).toList();
-    require(place.size() == 2, QString("the menu has no entry \"%1\"").arg(word));
-    if (place.size() == 2) {
-        session.page().click(QPoint(place.at(0).toInt(), place.at(1).toInt()));
-    }
-}
-
-void Tour::expectMessage(QMessageBox::StandardButton button, const char* pictureName)
-{
-    boxes.expectDialog("QMessageBox", [this, button, pictureName](QDialog* dialog) {
-        settle();
-        picture(dialog, pictureName);
-        qobject_cast<QMessageBox*>(dialog)->button(button)->click();
-    });
-}
-
-void Tour::clickButton(const QString& name)
-{
-    QTest::mouseClick(session.find<QPushButton>(name), Qt::LeftButton);
-}
-
-QTableWidget* Tour::grid() const
-{
-    return session.find<QTableWidget>("fltplnGrid");
 }

@@ -8,11 +8,18 @@
 #include <QString>
 #include <QStringList>
 
+class QDialog;
 class QTableWidget;
 
-/// The program's main job as a pilot does it, from the start to a plan that is saved and loaded again: real events on
-/// the real window, and a picture after each step. It flies from Paris Orly to Toulouse Blagnac on the demonstration
-/// simulator's data.
+struct Place
+{
+    double latitude; ///< degrees
+    double longitude;
+};
+
+/// The program's main job as a pilot does it, from the start to a plan that is saved and loaded again, and then a
+/// waypoint that is made, deleted and exported: real events on the real window, and a picture after each step. It flies
+/// from Paris Orly to Toulouse Blagnac on the demonstration simulator's data.
 class Tour
 {
 public:
@@ -21,6 +28,9 @@ public:
     /// Takes the steps in their order, up to the first that does not go as it should; that one is told on the standard
     /// error. True when all of them did.
     bool take();
+
+    /// Absolute path of the update file that the deletion of the waypoint leaves beside the program.
+    static QString updateFile();
 
 private:
     struct Step
@@ -54,6 +64,20 @@ private:
     void startNew();
     void load();
 
+    void openEmptyMapMenu();
+    void makeWaypoint();
+    void openNewPopup();
+    void openWaypointMenu();
+    void deleteWaypoint();
+    void importUpdate();
+
+    /// Fills the open dialog of the new waypoint, and ends it by its OK.
+    void fillWaypoint(QDialog* dialog);
+    /// Fills the position dialog that the waypoint's opened, and accepts it.
+    void fillPosition(QDialog* dialog);
+
+    /// Time for the page to draw and for the window to lay itself out.
+    static void settle();
     /// Remembers the first thing that went wrong.
     void require(bool fulfilled, const QString& what);
     void requireLines(int count);
@@ -70,6 +94,8 @@ private:
     void chooseEntry(const QString& word);
     /// Answers the next message box; its picture is taken first.
     void expectMessage(QMessageBox::StandardButton button, const char* pictureName);
+    /// Answers the next file dialog by a file's name; its picture is taken with the name in it.
+    void expectFile(const QString& name, const char* pictureName);
     void clickButton(const QString& name);
     QTableWidget* grid() const;
 
