@@ -22,10 +22,9 @@ var theLast = null;
 
   /** An edited row comes again under its key: its former marker goes. */
   function takePredecessor(marker) {
-    const key = marker.key();
     let found = null;
     page.layers.forEach(layer => layer.list.forEach(other => {
-      if (other !== marker && other.family === marker.family && key && other.key() === key)
+      if (other !== marker && marker.isSameRow(other))
         found = other;
     }));
     if (found)

@@ -17,6 +17,9 @@ var listWptVfr = [];
   /** What a marker stands for; decides the commands of its menu. */
   page.families = { airport: 'airport', navaid: 'navaid', waypoint: 'waypoint' };
 
+  /** Whether the one "-" of the title is that between name and key. */
+  const hasPlainName = marker => marker.title.split('-').length === 2;
+
   /**
    * One marker. The title joins it to its row: `iden` of an airport, `iden-ukey` of a navaid, `name-ukey` of a
    * waypoint. It is text and never markup; the HTML is that of the pop-up.
@@ -38,9 +41,20 @@ var listWptVfr = [];
       return this.position;
     }
 
-    /** @return {string} the key of the row behind the last "-" of the title; empty for an airport */
-    key() {
+    /** What stands behind the last "-" of the title; empty for an airport. */
+    tail() {
       return this.family === page.families.airport ? '' : this.title.slice(this.title.lastIndexOf('-') + 1);
+    }
+
+    /**
+     * Whether two markers stand for the same row. A navaid's key holds no "-", so it is the tail whatever the name. A
+     * waypoint's key begins with the name's first letters and may hold one: then only the whole title tells.
+     */
+    isSameRow(other) {
+      if (other.family !== this.family || !this.tail() || this.tail() !== other.tail())
+        return false;
+      return this.family !== page.families.waypoint || this.title === other.title
+        || (hasPlainName(this) && hasPlainName(other));
     }
   }
 

@@ -24,6 +24,8 @@ private slots:
     void anEditedUsageChangesTheLayer();
     void anEditedVorKeepsItsSymbol();
     void anotherKeyIsAnotherMarker();
+    void aWaypointWithAHyphenIsKnownByItsWholeTitle();
+    void aNavaidWithAHyphenIsKnownByItsKey();
     void aNavaidIsNotTakenForAWaypoint();
     void deletingRemovesTheMarkerLastUsed_data();
     void deletingRemovesTheMarkerLastUsed();
@@ -149,6 +151,29 @@ void TestPageEdits::anotherKeyIsAnotherMarker()
     window->run(R"(addWPTMarker2(new google.maps.LatLng(46.70000, 2.40000),"-",1,"x"))");
     window->run(R"(addWPTMarker2(new google.maps.LatLng(46.70000, 2.50000),"-",1,"x"))");
     QCOMPARE(titles("listWptRte"), (QStringList{"ABLAN-ABLANFR", "ABLAN-ABLANES", "-", "-"}));
+}
+
+void TestPageEdits::aWaypointWithAHyphenIsKnownByItsWholeTitle()
+{
+    const QString place = "(new google.maps.LatLng(46.70000, 2.30000),\"%1\",1,\"x\")";
+    // The feed's marker, then one whose title ends in the same letters, then one whose whole key are those letters.
+    window->run("addWPTMarker" + place.arg("AB-CD-AB-CDFR"));
+    window->run("addWPTMarker2" + place.arg("XY-CD-XY-CDFR"));
+    window->run("addWPTMarker2" + place.arg("CD-CDFR"));
+    QCOMPARE(titles("listWptRte"), (QStringList{"AB-CD-AB-CDFR", "XY-CD-XY-CDFR", "CD-CDFR"}));
+    window->run("addWPTMarker2" + place.arg("AB-CD-AB-CDFR"));
+    QCOMPARE(titles("listWptRte"), (QStringList{"XY-CD-XY-CDFR", "CD-CDFR", "AB-CD-AB-CDFR"}));
+    window->run("addWPTMarker2" + place.arg("NEW-CDFR"));
+    QCOMPARE(titles("listWptRte"), (QStringList{"XY-CD-XY-CDFR", "AB-CD-AB-CDFR", "NEW-CDFR"}));
+}
+
+void TestPageEdits::aNavaidWithAHyphenIsKnownByItsKey()
+{
+    window->run(R"(addVORMarker(new google.maps.LatLng(46.40000, 3.90000),"SYN-SYN1FR",1,"x"))");
+    window->run(R"(addVORMarker2(new google.maps.LatLng(46.40000, 3.90000),"SAINT-YAN-SYN1FR",1,"x"))");
+    QCOMPARE(titles("listVOR"), QStringList{"SAINT-YAN-SYN1FR"});
+    window->run(R"(addVORMarker2(new google.maps.LatLng(46.40000, 3.90000),"ST-YAN-SYN1FR",1,"x"))");
+    QCOMPARE(titles("listVOR"), QStringList{"ST-YAN-SYN1FR"});
 }
 
 void TestPageEdits::aNavaidIsNotTakenForAWaypoint()
