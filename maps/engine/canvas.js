@@ -87,7 +87,19 @@
       };
       this.place();
       const frame = this.frame();
-      this.painters.forEach(painter => painter.paint(frame));
+      this.painters.forEach(painter => this.paintOne(painter, frame));
+    },
+
+    /** A drawing that fails is told on the console; it stops neither the others nor the move of the view. */
+    paintOne: function (painter, frame) {
+      frame.context.save();
+      try {
+        painter.paint(frame);
+      } catch (error) {
+        console.error(`${error} ${error.stack}`);
+      } finally {
+        frame.context.restore();
+      }
     },
 
     frame: function () {

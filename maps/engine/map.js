@@ -73,19 +73,29 @@
       window.addEventListener('resize', () => this.fitWindow());
     }
 
-    /** Moves the view without the events of a move by the user. */
-    setQuietly(centre, zoom, reset) {
+    /** Moves the view without the events of a move by the user, which come again whatever happens in between. */
+    quietly(move) {
+      const before = this.quiet;
       this.quiet = true;
-      this.leaflet.setView([centre.lat(), centre.lng()], zoom, { animate: false, reset: reset });
-      this.quiet = false;
+      try {
+        move();
+      } finally {
+        this.quiet = before;
+      }
+    }
+
+    setQuietly(centre, zoom, reset) {
+      // Should the move fail half way, the centre is where the view is.
+      this.exactCentre = null;
+      this.quietly(() => {
+        this.leaflet.setView([centre.lat(), centre.lng()], zoom, { animate: false, reset: reset });
+      });
       this.exactCentre = centre;
     }
 
     fitWindow() {
       const centre = this.getCenter();
-      this.quiet = true;
-      this.leaflet.invalidateSize({ animate: false, pan: false });
-      this.quiet = false;
+      this.quietly(() => this.leaflet.invalidateSize({ animate: false, pan: false }));
       this.setQuietly(centre, this.getZoom(), true);
     }
 

@@ -31,6 +31,8 @@ private slots:
     void thePointerIsReported();
     void thePointerOverAMarkerTellsItsTitle();
     void theMapFollowsWithTwoSemicolons();
+    void aFailingPaintStopsNothingElse();
+    void aFailingListenerLeavesTheMapAlive();
 
 private:
     QScopedPointer<ProgramSide> program;
@@ -195,6 +197,47 @@ void TestPageView::theMapFollowsWithTwoSemicolons()
                 "google.maps.LatLng(48.10000, 2.10000));");
     QCOMPARE(number("map.getCenter().lat()"), 48.1);
     QCOMPARE(number("map.getCenter().lng()"), 2.1);
+}
+
+void TestPageView::aFailingPaintStopsNothingElse()
+{
+    window->run(R"(addAPTMarker(new google.maps.LatLng(48.50000,-3.00000),"LFXX",1,"x");pushAPT();)"
+                "var whole = mapEngine.Lines.prototype.paintHeight;"
+                "mapEngine.Lines.prototype.paintHeight = function () { throw new Error('no line'); };");
+    window->run("map.setCenter(new google.maps.LatLng(48.50000,-3.00000));map.setZoom(7)");
+    QCOMPARE(number("map.getCenter().lat()"), 48.5);
+    QCOMPARE(number("map.getCenter().lng()"), -3.0);
+    QCOMPARE(number("map.getZoom()"), 7.0);
+    window->view->resize(431, 307);
+    QTRY_COMPARE(window->run("innerWidth").toInt(), 431);
+    window->view->resize(800, 600);
+    QTRY_COMPARE(window->run("innerWidth").toInt(), 800);
+    program->clear();
+    window->mouse->wheel({400, 300}, 120);
+    QTRY_COMPARE(number("map.getZoom()"), 8.0);
+    QCOMPARE(program->calls("doZoom"), QStringList{"doZoom 8"});
+    window->mouse->drag({400, 300}, {200, 300});
+    QVERIFY(number("map.getCenter().lng()") > -2.9);
+    QVERIFY(!program->calls("doCenter").isEmpty());
+    // It is told, and the next frame shows everything again.
+    QVERIFY(window->page->messages.value(0).contains("no line"));
+    window->run(
+        "mapEngine.Lines.prototype.paintHeight = whole;map.setCenter(new google.maps.LatLng(48.50000,-3.00000));"
+        "map.setZoom(7)");
+    QVERIFY(window->pixelsAround(48.5, -3, 8, QColor("#1d3f8f")) > 0);
+}
+
+void TestPageView::aFailingListenerLeavesTheMapAlive()
+{
+    window->run(
+        "var failing = google.maps.event.addListener(map, 'idle', function () { throw new Error('no idle'); })");
+    window->run("map.setCenter(new google.maps.LatLng(48.50000,-3.00000));");
+    QVERIFY(qAbs(number("map.getCenter().lat()") - 48.5) < 0.01);
+    window->run("google.maps.event.removeListener(failing)");
+    program->clear();
+    window->mouse->drag({400, 300}, {300, 300});
+    QVERIFY(!program->calls("doCenter").isEmpty());
+    QVERIFY(number("map.getCenter().lng()") > -2);
 }
 
 QTEST_MAIN(TestPageView)
