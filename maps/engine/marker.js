@@ -13,6 +13,8 @@
       this.map = null;
       this.pin = null;
       this.dragged = false;
+      this.size = 0;
+      this.pending = 0;
       this.options = Object.assign({}, options);
       this.follow = () => this.place();
       this.setMap(this.options.map);
@@ -39,7 +41,7 @@
 
     setTitle(title) {
       this.options.title = title;
-      this.dress();
+      this.showTitle();
     }
 
     getIcon() {
@@ -48,7 +50,8 @@
 
     setIcon(icon) {
       this.options.icon = icon;
-      this.dress();
+      if (!this.pending)
+        this.pending = window.requestAnimationFrame(() => this.drawIcon());
     }
 
     getMap() {
@@ -76,7 +79,8 @@
       Object.keys(names).forEach(name => this.pin.on(name, leafletEvent => this.tell(name, leafletEvent)));
       this.place();
       this.pin.addTo(this.map.leaflet);
-      this.dress();
+      this.showTitle();
+      this.drawIcon();
       this.map.leaflet.on('moveend', this.follow);
     }
 
@@ -110,21 +114,32 @@
       this.pin.setLatLng([this.options.position.lat(), longitude + 360 * Math.round((centre - longitude) / 360)]);
     }
 
-    dress() {
+    showTitle() {
       const element = this.pin && this.pin.getElement();
-      if (!element)
+      if (element)
+        element.title = this.options.title || '';
+    }
+
+    /**
+     * Draws on the same canvas again and only with the next frame: an aircraft that turns comes with a new icon
+     * hundreds of times a second.
+     */
+    drawIcon() {
+      this.pending = 0;
+      const element = this.pin && this.pin.getElement();
+      if (!element || !this.options.icon)
         return;
-      element.title = this.options.title || '';
-      if (!this.options.icon)
+      const former = element.firstChild;
+      const drawing = engine.drawSymbol(this.options.icon, former);
+      if (former && this.size === drawing.size)
         return;
-      const drawing = engine.drawSymbol(this.options.icon);
+      this.size = drawing.size;
       Object.assign(drawing.canvas.style, {
         width: `${drawing.size}px`,
         height: `${drawing.size}px`,
         marginLeft: `${-drawing.middle}px`,
         marginTop: `${-drawing.middle}px`,
       });
-      element.innerHTML = '';
       element.appendChild(drawing.canvas);
     }
   }

@@ -3,42 +3,63 @@
   'use strict';
   const engine = window.mapEngine;
   const cache = new WeakMap();
+  /** The paths seen so far, read once: they are the few dozen of the page's symbols. */
+  const shapes = new Map();
 
   /** The farthest reach of a path from its origin; numbers that are no coordinates only make it a little larger. */
   function pathReach(path) {
     return (path.match(/-?\d+(\.\d+)?/g) || []).reduce((most, text) => Math.max(most, Math.abs(Number(text))), 1);
   }
 
+  function shapeOf(path) {
+    let shape = shapes.get(path);
+    if (!shape) {
+      shape = { path: new Path2D(path), reach: pathReach(path) };
+      shapes.set(path, shape);
+    }
+    return shape;
+  }
+
+  /** Makes a canvas empty and as large as wanted; a new size alone costs it new memory. */
+  function clearCanvas(canvas, pixels) {
+    if (canvas.width !== pixels)
+      canvas.width = canvas.height = pixels;
+    const context = canvas.getContext('2d');
+    context.setTransform(1, 0, 0, 1, 0, 0);
+    context.clearRect(0, 0, pixels, pixels);
+    return context;
+  }
+
   /**
-   * Draws a symbol on a canvas of its own.
+   * Draws a symbol on a canvas.
+   * @param {?HTMLCanvasElement} used a canvas whose picture may go; without it a new one is made
    * @return {{canvas: HTMLCanvasElement, size: number, middle: number}} size in CSS pixels; the symbol's origin lies
    *     `middle` pixels from the left and the upper edge
    */
-  function drawSymbol(symbol) {
+  function drawSymbol(symbol, used) {
     const scale = symbol.scale || 1;
     const weight = symbol.strokeWeight === undefined ? 1 : symbol.strokeWeight;
-    const radius = pathReach(symbol.path) * scale + weight / 2;
+    const shape = shapeOf(symbol.path);
+    const radius = shape.reach * scale + weight / 2;
     const middle = Math.ceil(radius) + 1;
     const ratio = window.devicePixelRatio || 1;
-    const canvas = document.createElement('canvas');
-    canvas.width = canvas.height = 2 * middle * ratio;
-    const context = canvas.getContext('2d');
+    const canvas = used || document.createElement('canvas');
+    const context = clearCanvas(canvas, Math.round(2 * middle * ratio));
     context.scale(ratio, ratio);
     context.translate(middle, middle);
     context.rotate((symbol.rotation || 0) * Math.PI / 180);
     context.scale(scale, scale);
-    const path = new Path2D(symbol.path);
     if (symbol.fillOpacity) {
       context.globalAlpha = symbol.fillOpacity;
       context.fillStyle = symbol.fillColor || '#000';
-      context.fill(path);
+      context.fill(shape.path);
     }
     if (weight > 0) {
       context.globalAlpha = symbol.strokeOpacity === undefined ? 1 : symbol.strokeOpacity;
       context.strokeStyle = symbol.strokeColor || '#000';
       context.lineWidth = weight / scale;
       context.lineJoin = 'round';
-      context.stroke(path);
+      context.stroke(shape.path);
     }
     return { canvas: canvas, size: 2 * middle, middle: middle };
   }

@@ -1,0 +1,149 @@
+// The simulator's aircraft on the map: it comes, moves, turns and goes.
+#include "pagewindow.h"
+
+#include <QtTest>
+
+class TestPageAircraft : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        program.reset(new FullProgramSide);
+        window.reset(new PageWindow(program.data()));
+        QVERIFY(window->load());
+        window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(8)");
+    }
+
+    void theAircraftComesMovesAndGoes();
+    void theAircraftTurns();
+    void theAircraftTurnsOnOneCanvas();
+    void anAircraftThatDoesNotTurnIsNotDrawnAgain();
+    void anAircraftWithoutAPlaceStaysWhereItWas();
+    void theAircraftOfTheOtherSideShows();
+    void thousandsOfTicksLeaveOneAircraft();
+
+private:
+    QScopedPointer<ProgramSide> program;
+    QScopedPointer<PageWindow> window;
+
+    int around(double latitude, double longitude, const char* colour, int reach = 12)
+    {
+        return window->pixelsAround(latitude, longitude, reach, QColor(colour));
+    }
+    QImage pictureAt(double latitude, double longitude)
+    {
+        window->settle();
+        const QPoint middle = window->mouse->pointOf(latitude, longitude);
+        return window->view->grab().toImage().copy(middle.x() - 18, middle.y() - 18, 37, 37);
+    }
+};
+
+namespace {
+
+const char aircraftColour[] = "#d32f2f";
+
+} // namespace
+
+void TestPageAircraft::theAircraftComesMovesAndGoes()
+{
+    window->run("eraseAcftMrkr();");
+    window->run("addAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),\"\",63);");
+    QVERIFY(around(46.7, 2.3, aircraftColour) > 20);
+    window->run("setAcftMrkr(new google.maps.LatLng(46.40000, 2.60000),63.25);");
+    QCOMPARE(around(46.7, 2.3, aircraftColour), 0);
+    QVERIFY(around(46.4, 2.6, aircraftColour) > 20);
+    window->run("eraseAcftMrkr();");
+    window->run("eraseAcftMrkr();");
+    QCOMPARE(around(46.4, 2.6, aircraftColour), 0);
+    QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageAircraft::theAircraftTurns()
+{
+    window->run("addAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),\"\",0);");
+    const QImage north = pictureAt(46.7, 2.3);
+    window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),135);");
+    QVERIFY(pictureAt(46.7, 2.3) != north);
+    window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),0);");
+    QCOMPARE(pictureAt(46.7, 2.3), north);
+}
+
+void TestPageAircraft::theAircraftTurnsOnOneCanvas()
+{
+    window->run("addAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),\"\",225);");
+    const QImage fresh = pictureAt(46.7, 2.3);
+    window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),0);");
+    window->settle();
+    window->run("var canvas = document.querySelector('.chart-marker canvas'), made = 0, make = document.createElement;"
+                "document.createElement = function (name) { ++made; return make.call(document, name); };");
+    for (int heading = 1; heading <= 225; ++heading)
+        window->run(QString("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),%1);").arg(heading));
+    // Nothing of the headings before is left in the picture.
+    QCOMPARE(pictureAt(46.7, 2.3), fresh);
+    QCOMPARE(window->run("made").toInt(), 0);
+    QVERIFY(window->run("document.querySelector('.chart-marker canvas') === canvas").toBool());
+    QCOMPARE(window->run("document.querySelectorAll('.chart-marker *').length").toInt(), 1);
+}
+
+void TestPageAircraft::anAircraftThatDoesNotTurnIsNotDrawnAgain()
+{
+    window->run("addAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),\"\",63.25);");
+    window->settle();
+    window->run("var drawn = 0, draw = mapEngine.drawSymbol;"
+                "mapEngine.drawSymbol = function (symbol, canvas) { ++drawn; return draw(symbol, canvas); };");
+    for (int i = 0; i < 100; ++i)
+        window->run(
+            QString("setAcftMrkr(new google.maps.LatLng(46.70000, %1),63.25);").arg(2.3 + i * 0.002, 3, 'f', 5));
+    window->settle();
+    QCOMPARE(window->run("drawn").toInt(), 0);
+    // Many turns before the next frame are one drawing.
+    window->run("for (var i = 0; i < 100; ++i) setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),i);");
+    window->settle();
+    QCOMPARE(window->run("drawn").toInt(), 1);
+}
+
+void TestPageAircraft::anAircraftWithoutAPlaceStaysWhereItWas()
+{
+    window->run("addAcftMrkr(new google.maps.LatLng(nan,nan),\"\",0);");
+    QCOMPARE(around(46.7, 2.3, aircraftColour), 0);
+    window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),0);");
+    QVERIFY(around(46.7, 2.3, aircraftColour) > 20);
+    window->run("setAcftMrkr(new google.maps.LatLng(inf,-inf),nan);");
+    QVERIFY(around(46.7, 2.3, aircraftColour) > 20);
+    QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageAircraft::theAircraftOfTheOtherSideShows()
+{
+    // The longitude of the trace is not wrapped by the program.
+    window->run("addAcftMrkr(new google.maps.LatLng(46.70000,362.30000),\"\",0);");
+    QVERIFY(around(46.7, 2.3, aircraftColour) > 20);
+    window->run("map.setCenter(new google.maps.LatLng(46.70000,179.90000));");
+    window->run("setAcftMrkr(new google.maps.LatLng(46.70000,181.00000),0);");
+    window->settle();
+    const QImage image = window->view->grab().toImage();
+    // 1.1 degrees east of the middle at 256 times 256 pixels around the world.
+    int red = 0;
+    for (int x = 588; x < 614; ++x)
+        for (int y = 286; y < 314; ++y)
+            red += image.pixelColor(x, y) == QColor(aircraftColour) ? 1 : 0;
+    QVERIFY(red > 20);
+}
+
+void TestPageAircraft::thousandsOfTicksLeaveOneAircraft()
+{
+    window->run("addAcftMrkr(new google.maps.LatLng(46.00000, 2.00000),\"\",0);");
+    for (int i = 1; i <= 3000; ++i) {
+        const QString place = QString("new google.maps.LatLng(%1, 2.30000)").arg(46 + i * 0.0002, 3, 'f', 5);
+        window->run(QString("setAcftMrkr(%1,%2);;map.setCenter(%1);").arg(place).arg(i % 360));
+    }
+    QCOMPARE(window->run("document.querySelectorAll('.chart-marker').length").toInt(), 1);
+    QCOMPARE(window->run("map.getCenter().lat()").toDouble(), 46.6);
+    QVERIFY(around(46.6, 2.3, aircraftColour) > 20);
+    QCOMPARE(program->calls("doCenter").size(), 3001);
+}
+
+QTEST_MAIN(TestPageAircraft)
+#include "tst_pageaircraft.moc"
