@@ -7,6 +7,9 @@
   /** The longest piece of a great circle that is drawn straight, degrees of arc. */
   const straightArc = 1;
 
+  /** A run ends with so many points, for the canvas takes many short paths far better than one long one. */
+  const runPoints = 200;
+
   function vectorOf(position) {
     const latitude = position.lat() * radians;
     const longitude = position.lng() * radians;
@@ -33,26 +36,61 @@
     return points;
   }
 
-  /**
-   * Unit coordinates of a line: each point in the copy of the world that is nearest to the point before, so that a line
-   * over 180 degrees takes the short way.
-   */
-  function unitLine(positions, geodesic) {
-    const xs = [];
-    const ys = [];
+  /** A piece of a line in unit coordinates. Its points lie from `least` to `most` on the x axis. */
+  class Run {
+    constructor(x, y) {
+      this.xs = [x];
+      this.ys = [y];
+      this.least = this.most = x;
+    }
+
+    get lastX() {
+      return this.xs[this.xs.length - 1];
+    }
+
+    /**
+     * The point comes in the copy of the world that is nearest to the point before, so that a line over 180 degrees
+     * takes the short way.
+     */
+    add(x, y) {
+      const near = x + Math.round(this.lastX - x);
+      this.xs.push(near);
+      this.ys.push(y);
+      this.least = Math.min(this.least, near);
+      this.most = Math.max(this.most, near);
+    }
+
+    isFull() {
+      return this.xs.length === runPoints || this.most - this.least > 1;
+    }
+
+    /** The run that goes on where this one ends, in the first copy of the world. */
+    next() {
+      return new Run(this.lastX - Math.floor(this.lastX), this.ys[this.ys.length - 1]);
+    }
+  }
+
+  /** @return {Run[]} a line in unit coordinates, in pieces that are painted one by one */
+  function runsOf(positions, geodesic) {
+    const runs = [];
     const put = (latitude, longitude) => {
-      let x = engine.unitX(longitude);
-      if (xs.length)
-        x += Math.round(xs[xs.length - 1] - x);
-      xs.push(x);
-      ys.push(engine.unitY(latitude));
+      const x = engine.unitX(longitude);
+      const y = engine.unitY(latitude);
+      const last = runs[runs.length - 1];
+      if (!last) {
+        runs.push(new Run(x, y));
+        return;
+      }
+      if (last.isFull())
+        runs.push(last.next());
+      runs[runs.length - 1].add(x, y);
     };
     positions.forEach((position, i) => {
       if (geodesic && i > 0)
         greatCircle(positions[i - 1], position).forEach(point => put(point[0], point[1]));
       put(position.lat(), position.lng());
     });
-    return { xs: xs, ys: ys, least: Math.min.apply(null, xs), most: Math.max.apply(null, xs) };
+    return runs;
   }
 
   class Lines {
@@ -79,31 +117,35 @@
     }
 
     paintLine(frame, line) {
-      const unit = line.unit || (line.unit = unitLine(line.positions, line.geodesic));
-      if (unit.xs.length < 2)
-        return;
+      if (!line.runs)
+        line.runs = runsOf(line.path.items.filter(engine.isFinitePosition), line.geodesic);
       const context = frame.context;
       context.globalAlpha = line.strokeOpacity;
       context.strokeStyle = line.strokeColor;
       context.lineWidth = line.strokeWeight;
       context.lineJoin = context.lineCap = 'round';
-      context.beginPath();
-      const firstWorld = Math.ceil(frame.left / frame.scale - unit.most);
-      const lastWorld = Math.floor((frame.left + frame.width) / frame.scale - unit.least);
-      for (let world = firstWorld; world <= lastWorld; ++world)
-        this.trace(frame, unit, frame.left - world * frame.scale);
-      context.stroke();
+      line.runs.forEach(run => this.paintRun(frame, run));
       context.globalAlpha = 1;
     }
 
-    trace(frame, unit, left) {
+    /** A run in every copy of the world that the frame shows. */
+    paintRun(frame, run) {
+      const firstWorld = Math.ceil(frame.left / frame.scale - run.most);
+      const lastWorld = Math.floor((frame.left + frame.width) / frame.scale - run.least);
+      frame.context.beginPath();
+      for (let world = firstWorld; world <= lastWorld; ++world)
+        this.trace(frame, run, frame.left - world * frame.scale);
+      frame.context.stroke();
+    }
+
+    trace(frame, run, left) {
       const context = frame.context;
       const edge = 40;
       let endX = NaN;
       let endY = NaN;
-      for (let i = 1; i < unit.xs.length; ++i) {
-        const part = engine.clipSegment(unit.xs[i - 1] * frame.scale - left, unit.ys[i - 1] * frame.scale - frame.top,
-          unit.xs[i] * frame.scale - left, unit.ys[i] * frame.scale - frame.top,
+      for (let i = 1; i < run.xs.length; ++i) {
+        const part = engine.clipSegment(run.xs[i - 1] * frame.scale - left, run.ys[i - 1] * frame.scale - frame.top,
+          run.xs[i] * frame.scale - left, run.ys[i] * frame.scale - frame.top,
           -edge, -edge, frame.width + edge, frame.height + edge);
         if (!part)
           continue;

@@ -2,7 +2,6 @@
 (function () {
   'use strict';
   const maps = window.google.maps;
-  const engine = window.mapEngine;
 
   const defaults = { strokeColor: '#000', strokeOpacity: 1, strokeWeight: 3, geodesic: false, zIndex: 0 };
 
@@ -56,9 +55,10 @@
       this.changed();
     }
 
+    /** Only notes the change: a path often grows by thousands of points before the next frame is painted. */
     changed() {
-      this.line.positions = (this.path ? this.path.items : []).filter(engine.isFinitePosition);
-      this.line.unit = null;
+      this.line.path = this.path;
+      this.line.runs = null;
       if (this.map)
         this.map.chart.invalidate();
     }

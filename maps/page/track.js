@@ -18,8 +18,9 @@
     }
 
     clear() {
-      this.points = [];
+      this.waiting = [];
       this.line.setMap(null);
+      this.line.setPath([]);
       if (this.layer)
         this.layer.setMap(null);
       this.layer = null;
@@ -28,23 +29,32 @@
     /** A point without a place is left out; the line goes on to the next. */
     add(position, name) {
       if (page.isPlace(position))
-        this.points.push({ position: position, name: String(name) });
+        this.waiting.push({ position: position, name: String(name) });
     }
 
+    /** Draws what has been added since it was drawn last: what stands there already costs nothing again. */
     draw() {
-      if (this.layer)
-        this.layer.setMap(null);
-      this.layer = new google.maps.Data();
-      this.layer.setStyle(feature => ({
+      if (!this.layer)
+        this.layer = this.newLayer();
+      const path = this.line.getPath();
+      this.waiting.forEach(point => {
+        this.layer.add({ geometry: point.position, properties: { name: point.name } });
+        path.push(point.position);
+      });
+      this.waiting = [];
+      this.layer.setMap(map);
+      this.line.setMap(map);
+    }
+
+    newLayer() {
+      const layer = new google.maps.Data();
+      layer.setStyle(feature => ({
         icon: this.style.point,
         zIndex: this.style.zIndex,
         clickable: false,
         label: { text: feature.getProperty('name'), color: this.style.colour, fontSize: '12px', fontWeight: 'bold' },
       }));
-      this.points.forEach(point => this.layer.add({ geometry: point.position, properties: { name: point.name } }));
-      this.layer.setMap(map);
-      this.line.setPath(this.points.map(point => point.position));
-      this.line.setMap(map);
+      return layer;
     }
   }
 

@@ -1,4 +1,4 @@
-// What scripts draw besides the markers: route, procedure, runways, airways, start marker and aircraft.
+// What scripts draw besides the markers: route, procedure, runways, airways and start marker.
 #include "pagewindow.h"
 
 #include <QtTest>
@@ -22,7 +22,12 @@ private slots:
     void aPointWithoutAPlaceIsLeftOut();
     void theRouteTakesTheShortWayOverTheDateLine();
     void theRouteFollowsTheGreatCircle();
+    void aRouteOfAThousandLongLegsShows();
+    void aRouteThriceAroundTheWorldShows();
     void theProcedureShowsBesideTheRoute();
+    void aProcedureGrowsPointByPoint();
+    void aPointMoreIsNoNewDrawing_data();
+    void aPointMoreIsNoNewDrawing();
     void runwaysShowUntilTheyAreCleared();
     void airwaysShowByLevel();
     void airwaysAddedLaterFollowTheirSwitch();
@@ -31,11 +36,6 @@ private slots:
     void theStartMarkerShowsItsHeading();
     void draggingTheStartMarkerTellsTheProgram();
     void theCommandsOfTheMapWorkOnTheStartMarker();
-    void theAircraftComesMovesAndGoes();
-    void theAircraftTurns();
-    void anAircraftWithoutAPlaceStaysWhereItWas();
-    void theAircraftOfTheOtherSideShows();
-    void thousandsOfTicksLeaveOneAircraft();
 
 private:
     QScopedPointer<ProgramSide> program;
@@ -62,7 +62,6 @@ const char lowColour[] = "#6d8c3c";
 const char highColour[] = "#3c6d8c";
 const char bothColour[] = "#7a5c99";
 const char startColour[] = "#f2a900";
-const char aircraftColour[] = "#d32f2f";
 
 } // namespace
 
@@ -132,6 +131,35 @@ void TestPageDrawing::theRouteFollowsTheGreatCircle()
     QCOMPARE(around(48, -40, routeColour, 6), 0);
 }
 
+void TestPageDrawing::aRouteOfAThousandLongLegsShows()
+{
+    // There and back between Paris and Sao Paulo: more points on great circles than a call takes arguments.
+    window->run("map.setZoom(3);map.setCenter(new google.maps.LatLng(10.00000,-20.00000));");
+    window->run("clearFP();for (var i = 0; i < 1300; ++i)"
+                "addPointToFp(i % 2 ? new google.maps.LatLng(-23.50000,-46.60000)"
+                " : new google.maps.LatLng(48.80000, 2.30000), \"\");pushFP();");
+    QVERIFY(around(48.8, 2.3, routeColour) > 0);
+    QVERIFY(around(13.7, -24.9, routeColour) > 0);
+    QVERIFY(around(-23.5, -46.6, routeColour) > 0);
+    QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageDrawing::aRouteThriceAroundTheWorldShows()
+{
+    window->run("map.setZoom(2);map.setCenter(new google.maps.LatLng(20.00000,-60.00000));");
+    window->run("clearFP();[0, 15, 30].forEach(function (latitude) { [-120, 0, 120].forEach(function (longitude) {"
+                "addPointToFp(new google.maps.LatLng(latitude, longitude), \"\"); }); });"
+                "addPointToFp(new google.maps.LatLng(30, -120), \"\");pushFP();");
+    // Half way between two points of a parallel 120 degrees apart, on each lap.
+    for (double latitude : {0.0, 28.19, 49.11})
+        QVERIFY2(around(latitude, -60, routeColour, 4) > 0, qPrintable(QString::number(latitude)));
+    window->run("map.setCenter(new google.maps.LatLng(20.00000,60.00000));");
+    for (double latitude : {0.0, 28.19, 49.11})
+        QVERIFY2(around(latitude, 60, routeColour, 4) > 0, qPrintable(QString::number(latitude)));
+    window->run("map.setCenter(new google.maps.LatLng(20.00000,180.00000));");
+    QVERIFY(around(49.11, 180, routeColour, 4) > 0);
+}
+
 void TestPageDrawing::theProcedureShowsBesideTheRoute()
 {
     window->run("clearFP();addPointToFp(new google.maps.LatLng(46.70000, 2.20000),\"A\");"
@@ -143,6 +171,57 @@ void TestPageDrawing::theProcedureShowsBesideTheRoute()
     window->run("clearSS()");
     QCOMPARE(around(46.4, 2.5, procedureColour, 100), 0);
     QVERIFY(around(46.7, 2.5, routeColour) > 0);
+}
+
+void TestPageDrawing::aProcedureGrowsPointByPoint()
+{
+    window->run("addPointToSS(new google.maps.LatLng(46.40000, 2.20000),\"C\")");
+    QVERIFY(around(46.4, 2.2, procedureColour) > 0);
+    QCOMPARE(around(46.4, 2.5, procedureColour), 0);
+    window->run("addPointToSS(new google.maps.LatLng(46.40000, 2.80000),\"D\")");
+    QVERIFY(around(46.4, 2.5, procedureColour) > 0);
+    window->run("addPointToSS(new google.maps.LatLng(46.70000, 2.80000),\"E\")");
+    QVERIFY(around(46.4, 2.5, procedureColour) > 0);
+    QVERIFY(around(46.55, 2.8, procedureColour) > 0);
+    // The next one begins at its own first point.
+    window->run("clearSS()");
+    window->run("addPointToSS(new google.maps.LatLng(46.40000, 2.20000),\"C\")");
+    QCOMPARE(around(46.4, 2.5, procedureColour), 0);
+    QCOMPARE(around(46.55, 2.8, procedureColour), 0);
+    QVERIFY(around(46.4, 2.2, procedureColour) > 0);
+}
+
+void TestPageDrawing::aPointMoreIsNoNewDrawing_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("point");
+    QTest::addColumn<QString>("colour");
+
+    QTest::newRow("procedure") << "clearSS()"
+                               << "addPointToSS(%1,\"P\")" << procedureColour;
+    QTest::newRow("airway") << "showATS('L',1);addATS('L')"
+                            << "addToATS(%1),'ATS'" << lowColour;
+    QTest::newRow("airway not shown yet") << "addATS('L')"
+                                          << "addToATS(%1),'ATS'" << lowColour;
+}
+
+void TestPageDrawing::aPointMoreIsNoNewDrawing()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, point);
+    QFETCH(QString, colour);
+    window->run("var looks = 0, look = mapEngine.isFinitePosition;"
+                "mapEngine.isFinitePosition = function (position) { ++looks; return look(position); };");
+    window->run(before);
+    QStringList points;
+    for (int i = 0; i <= 300; ++i)
+        points << point.arg(QString("new google.maps.LatLng(46.40000, %1)").arg(2.2 + i * 0.002, 3, 'f', 5));
+    window->run(points.join(';'));
+    // Each of the 301 is looked at a few times. All of them for each one more would be 45,000.
+    const int looks = window->run("looks").toInt();
+    QVERIFY2(looks < 2000, qPrintable(QString::number(looks)));
+    window->run("showATS('L',1)");
+    QVERIFY(window->pixelsAround(46.4, 2.8, 12, QColor(colour)) > 0);
 }
 
 void TestPageDrawing::runwaysShowUntilTheyAreCleared()
@@ -246,71 +325,6 @@ void TestPageDrawing::theCommandsOfTheMapWorkOnTheStartMarker()
     QVERIFY(window->menuAt(46.7, 2.3).contains("Ajouter un point utilisateur ici"));
     QVERIFY(window->chooseEntry("Ajouter un point utilisateur ici"));
     QCOMPARE(program->calls("sAddNewWptToFp"), QStringList{"sAddNewWptToFp \"WPT\" 46.70000 2.30000"});
-}
-
-void TestPageDrawing::theAircraftComesMovesAndGoes()
-{
-    window->run("eraseAcftMrkr();");
-    window->run("addAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),\"\",63);");
-    QVERIFY(around(46.7, 2.3, aircraftColour) > 20);
-    window->run("setAcftMrkr(new google.maps.LatLng(46.40000, 2.60000),63.25);");
-    QCOMPARE(around(46.7, 2.3, aircraftColour), 0);
-    QVERIFY(around(46.4, 2.6, aircraftColour) > 20);
-    window->run("eraseAcftMrkr();");
-    window->run("eraseAcftMrkr();");
-    QCOMPARE(around(46.4, 2.6, aircraftColour), 0);
-    QCOMPARE(window->page->messages, QStringList());
-}
-
-void TestPageDrawing::theAircraftTurns()
-{
-    window->run("addAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),\"\",0);");
-    const QImage north = pictureAt(46.7, 2.3);
-    window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),135);");
-    QVERIFY(pictureAt(46.7, 2.3) != north);
-    window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),0);");
-    QCOMPARE(pictureAt(46.7, 2.3), north);
-}
-
-void TestPageDrawing::anAircraftWithoutAPlaceStaysWhereItWas()
-{
-    window->run("addAcftMrkr(new google.maps.LatLng(nan,nan),\"\",0);");
-    QCOMPARE(around(46.7, 2.3, aircraftColour), 0);
-    window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),0);");
-    QVERIFY(around(46.7, 2.3, aircraftColour) > 20);
-    window->run("setAcftMrkr(new google.maps.LatLng(inf,-inf),nan);");
-    QVERIFY(around(46.7, 2.3, aircraftColour) > 20);
-    QCOMPARE(window->page->messages, QStringList());
-}
-
-void TestPageDrawing::theAircraftOfTheOtherSideShows()
-{
-    // The longitude of the trace is not wrapped by the program.
-    window->run("addAcftMrkr(new google.maps.LatLng(46.70000,362.30000),\"\",0);");
-    QVERIFY(around(46.7, 2.3, aircraftColour) > 20);
-    window->run("map.setCenter(new google.maps.LatLng(46.70000,179.90000));");
-    window->run("setAcftMrkr(new google.maps.LatLng(46.70000,181.00000),0);");
-    window->settle();
-    const QImage image = window->view->grab().toImage();
-    // 1.1 degrees east of the middle at 256 times 256 pixels around the world.
-    int red = 0;
-    for (int x = 588; x < 614; ++x)
-        for (int y = 286; y < 314; ++y)
-            red += image.pixelColor(x, y) == QColor(aircraftColour) ? 1 : 0;
-    QVERIFY(red > 20);
-}
-
-void TestPageDrawing::thousandsOfTicksLeaveOneAircraft()
-{
-    window->run("addAcftMrkr(new google.maps.LatLng(46.00000, 2.00000),\"\",0);");
-    for (int i = 1; i <= 3000; ++i) {
-        const QString place = QString("new google.maps.LatLng(%1, 2.30000)").arg(46 + i * 0.0002, 3, 'f', 5);
-        window->run(QString("setAcftMrkr(%1,%2);;map.setCenter(%1);").arg(place).arg(i % 360));
-    }
-    QCOMPARE(window->run("document.querySelectorAll('.chart-marker').length").toInt(), 1);
-    QCOMPARE(window->run("map.getCenter().lat()").toDouble(), 46.6);
-    QVERIFY(around(46.6, 2.3, aircraftColour) > 20);
-    QCOMPARE(program->calls("doCenter").size(), 3001);
 }
 
 QTEST_MAIN(TestPageDrawing)
