@@ -148,7 +148,12 @@ QString CFlightPlan::loadFpl()
         return {};
     }
     const PlanFile plan = readPlan(file, [this] { return newLine(); });
+    // What was read ahead of a failure would pass for a shorter plan, and its next save would replace the whole one.
+    const bool complete = file.error() == QFileDevice::NoError;
     file.close();
+    if (!complete) {
+        return {};
+    }
     if (plan.lines.isEmpty()) {
         QMessageBox::warning(nullptr, tr("Chargement plan de vol"),
                              tr("Le fichier %1 n'est pas un plan de vol : il ne contient aucun point").arg(path));

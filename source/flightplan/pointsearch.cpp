@@ -83,7 +83,9 @@ bool isPlainKey(const QString& key)
 QString commonPrefix(const QString& a, const QString& b)
 {
     const auto end = std::mismatch(a.cbegin(), a.cend(), b.cbegin(), b.cend()).first;
-    return a.left(static_cast<int>(end - a.cbegin()));
+    const QString prefix = a.left(static_cast<int>(end - a.cbegin()));
+    // Half of a surrogate pair is no character that the database could find.
+    return !prefix.isEmpty() && prefix.back().isHighSurrogate() ? prefix.chopped(1) : prefix;
 }
 
 // Runways whose key begins with the key of one of the airports, out of all those that begin with what the keys share.

@@ -12,16 +12,16 @@ namespace {
 const QLatin1String byteOrderMark("\xEF\xBB\xBF"); // of UTF-8, as some editors put it
 
 // The lines pass through as Latin-1, one character a byte, so that whatever code page the simulator's user has
-// written them in comes out as it went in. Only the new line is encoded for the platform.
+// written them in comes out as it went in. Only the new line is encoded: as the mark tells, else for the platform.
 void passBytes(QTextStream& stream)
 {
     stream.setCodec("ISO-8859-1");
     stream.setAutoDetectUnicode(false);
 }
 
-QString bytesAsText(const QString& text)
+QString bytesAsText(const QString& text, bool isUtf8)
 {
-    return QString::fromLatin1(QTextCodec::codecForLocale()->fromUnicode(text));
+    return QString::fromLatin1(isUtf8 ? text.toUtf8() : QTextCodec::codecForLocale()->fromUnicode(text));
 }
 
 } // namespace
@@ -29,18 +29,20 @@ QString bytesAsText(const QString& text)
 QStringList startupLines(QIODevice& ini, const QString& situationFile)
 {
     // A forward slash, unlike in the paths of the files themselves: as the simulator's ini file expects it.
-    const QString startup = bytesAsText(QStringLiteral("startupSituation=Saved Simulations/%1").arg(situationFile));
+    const QString startup = QStringLiteral("startupSituation=Saved Simulations/%1").arg(situationFile);
     QTextStream reader(&ini);
     passBytes(reader);
     QStringList lines;
     QString line;
+    bool isUtf8 = false;
     // Until no line comes, not until the stream's end: a file that holds less than its size tells, or fails under the
     // reader, never comes to that end.
     while (reader.readLineInto(&line)) {
         if (lines.isEmpty() && line.startsWith(byteOrderMark)) {
             line.remove(0, byteOrderMark.size());
+            isUtf8 = true;
         }
-        lines += line.startsWith(QLatin1String("startupSituation")) ? startup : line;
+        lines += line.startsWith(QLatin1String("startupSituation")) ? bytesAsText(startup, isUtf8) : line;
     }
     return lines;
 }

@@ -11,6 +11,8 @@
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
+#include <algorithm>
+
 namespace {
 
 QString drawRunwayOf(const QSqlQuery& row)

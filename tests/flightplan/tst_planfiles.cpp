@@ -43,6 +43,22 @@ private slots:
         QCOMPARE(on.plan.textLines.join("").toUtf8(), QByteArray(airportAndNavaidText));
     }
 
+    void aFileWhoseReadFailsLeavesThePlan()
+    {
+        const QString path = "/sys/class/net/lo/speed"; // opens, and fails every read
+        if (!QFile::exists(path)) {
+            QSKIP("no such file on this machine");
+        }
+        PlanOnSandbox on;
+        on.plan.lines = airportAndNavaid();
+        on.plan.fplVersion = 7;
+        BoxResponder boxes;
+        boxes.expectFiles(openTitle, {path});
+        QCOMPARE(on.plan.loadFpl(), QString());
+        QCOMPARE(on.plan.lines.size(), 2);
+        QCOMPARE(on.plan.fplVersion, 7);
+    }
+
     void accentsAreWrittenAsTheReaderReadsThem()
     {
         PlanOnSandbox on;
