@@ -14,16 +14,14 @@ complain() {
     bad=1
 }
 
-is_text() {
-    [ "$(git check-attr text -- "$1" | sed 's/.*: //')" != unset ] && [ -s "$1" ] && grep -Iq . "$1"
+may_end_in_blanks() {
+    [ "$(git check-attr whitespace -- "$1" | sed 's/.*: //')" = -blank-at-eol ]
 }
-
-may_end_in_blanks() { [ "$(git check-attr whitespace -- "$1" | sed 's/.*: //')" = -blank-at-eol ]; }
 
 check_text() {
     local file=$1
     if grep -q $'\r' "$file"; then complain "$file: has a carriage return"; fi
-    if ! may_end_in_blanks "$file" && grep -nqE '[[:blank:]]+$' "$file"; then
+    if grep -qE '[[:blank:]]+$' "$file" && ! may_end_in_blanks "$file"; then
         complain "$file:$(grep -nE '[[:blank:]]+$' "$file" | head -n 1 | cut -d: -f1): blanks at the end of the line"
     fi
     if [ -n "$(tail -c 1 "$file")" ]; then complain "$file: no newline at the end"; fi
@@ -35,14 +33,15 @@ tell_long_source() {
     if [ "$lines" -ge "$limit" ]; then printf '%s: %d lines, more than is easily read (told, not refused)\n' "$file" "$lines"; fi
 }
 
-while IFS= read -r file; do
-    [ -f "$file" ] || continue
+# git tells the line ends in the working tree (w/...) and the attributes of each file; "-text" stands for bytes.
+while IFS=$'\t' read -r kinds file; do
+    [ -s "$file" ] || continue
     if [ "$(wc -c <"$file")" -gt $largest_bytes ]; then complain "$file: over $largest_bytes bytes"; fi
-    if is_text "$file"; then check_text "$file"; fi
+    if [[ $kinds != *-text* ]]; then check_text "$file"; fi
     case $file in
         *.cpp) tell_long_source "$file" 400 ;;
         *.h) tell_long_source "$file" 150 ;;
     esac
-done < <(git ls-files)
+done < <(git ls-files --eol)
 
 exit $bad
