@@ -2,7 +2,7 @@
 # Sets up what building, running and testing need. Asks nothing; a second call finds everything there and is quick.
 #
 #   scripts/setup.sh             what ./run.sh and ./test.sh need
-#   scripts/setup.sh --checks    and what .ci/run needs besides
+#   scripts/setup.sh --checks    and what .ci/run and bench/run need besides
 #
 # With apt-get (Debian, Ubuntu) it installs what is missing. Elsewhere it names what is wanted and goes on: the build
 # then finds the same things under their local names, or says what it misses.
@@ -33,6 +33,7 @@ git|git
 clang-format|clang-format
 clang-tidy|run-clang-tidy
 shellcheck|shellcheck
+sqlite3|sqlite3
 '
 
 say() { printf '%s\n' "set-up: $*"; }
