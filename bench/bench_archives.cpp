@@ -80,7 +80,7 @@ void measure(int entryCount)
             cruise += readAircraftArchive(path).speedCruise;
         }
     });
-    constexpr qint64 readings = (rounds + 1) * archives;
+    constexpr qint64 readings = (rounds + qint64(1)) * archives;
     if (bytes == 0 || entries != readings * (entryCount + 2) || cruise != readings * 110) {
         qFatal("something was not read");
     }

@@ -18,7 +18,7 @@ void enterSimulator(const QString& root)
 
 void waitUntilLoaded(MainWindow& window)
 {
-    constexpr qint64 patience = 10 * 60 * 1000; // milliseconds
+    constexpr qint64 patience = 600000; // milliseconds: ten minutes
     const auto* debugText = window.findChild<QTextEdit*>("debugText");
     QElapsedTimer timer;
     timer.start();

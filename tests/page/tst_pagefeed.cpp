@@ -307,11 +307,14 @@ void TestPageFeed::symbolsShrinkFromAfar()
 void TestPageFeed::fiftyThousandMarkersAreTaken()
 {
     QStringList batch;
-    for (int i = 0; i < 50000; ++i)
+    for (int i = 0; i < 50000; ++i) {
+        const int row = i % 250;
+        const int column = i / 250;
         batch.append(QString(R"(addWPTMarker(new google.maps.LatLng(%1,%2),"W%3-W%3FR",1,"x"))")
-                         .arg(42 + (i % 250) * 0.036, 3, 'f', 5)
-                         .arg(-4 + (i / 250) * 0.055, 3, 'f', 5)
+                         .arg(42 + row * 0.036, 3, 'f', 5)
+                         .arg(-4 + column * 0.055, 3, 'f', 5)
                          .arg(i));
+    }
     batch << "addWptMgr();"
           << "WPTRteMgr.addMarkers(listWptRte)";
     window->run(batch.join(";"));
