@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+/// The named block of memory through which the running simulator tells its aircraft's state to its companions.
+///
+/// Four steps, each of which may be repeated without harm: attach, map, release, detach. Whoever comes first makes the
+/// block, filled with zeros. There is one file for each platform; on POSIX the block outlives its users, on Windows it
+/// ends with the last of them. Free of Qt, so that the simulator's side can use it as well.
+class SharedBlock
+{
+public:
+    static constexpr std::size_t size = 256;    ///< bytes of the block
+    static constexpr std::size_t viewSize = 80; ///< bytes of it that are mapped: an AeoZephanNavRecord
+
+    SharedBlock() = default;
+    /// Releases and detaches.
+    ~SharedBlock();
+    SharedBlock(const SharedBlock&) = delete;
+    SharedBlock& operator=(const SharedBlock&) = delete;
+
+    /// Opens the block, or makes it. False when the system refuses, true also when already attached.
+    bool attach();
+    /// The block's first bytes, readable and writable; the same address until `release`. Null when not attached or when
+    /// the system refuses.
+    void* map();
+    /// Gives the view back: its address is invalid from here on.
+    void release();
+    /// Leaves the block. A view that is still mapped stays valid.
+    void detach();
+
+private:
+    static constexpr std::intptr_t none = -1;
+
+    std::intptr_t handle = none; ///< a file descriptor on POSIX, a HANDLE on Windows
+    void* view = nullptr;
+};

@@ -1,0 +1,78 @@
+// The block as POSIX shared memory.
+
+#include "sharedblock.h"
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr char blockName[] = "/AeoZephanToNavigation";
+
+/// Brings the block to its size at least and takes the memory for it. Without that the first access to a block that is
+/// too short, or for which there is no memory, would be a SIGBUS.
+bool reserve(int file)
+{
+    int error = 0;
+    do {
+        error = posix_fallocate(file, 0, SharedBlock::size);
+    } while (error == EINTR);
+    return error == 0;
+}
+
+} // namespace
+
+SharedBlock::~SharedBlock()
+{
+    release();
+    detach();
+}
+
+bool SharedBlock::attach()
+{
+    if (handle != none) {
+        return true;
+    }
+    // The block is the logged-on user's own.
+    const int file = shm_open(blockName, O_RDWR | O_CREAT, S_IRUSR | S_IWUSR);
+    if (file < 0) {
+        return false;
+    }
+    if (!reserve(file)) {
+        close(file);
+        return false;
+    }
+    handle = file;
+    return true;
+}
+
+void* SharedBlock::map()
+{
+    if (view == nullptr && handle != none) {
+        void* const address = mmap(nullptr, viewSize, PROT_READ | PROT_WRITE, MAP_SHARED, static_cast<int>(handle), 0);
+        view = address == MAP_FAILED ? nullptr : address;
+    }
+    return view;
+}
+
+void SharedBlock::release()
+{
+    if (view != nullptr) {
+        // A second call would take away what has since come to stand at that address.
+        munmap(view, viewSize);
+        view = nullptr;
+    }
+}
+
+void SharedBlock::detach()
+{
+    if (handle != none) {
+        // The name stays: a simulator that runs on, or one that starts later, is to find the same block.
+        close(static_cast<int>(handle));
+        handle = none;
+    }
+}
