@@ -6,8 +6,8 @@
   /** Steps in degrees; the finest that leaves at least `leastPixels` between two meridians is drawn. */
   const steps = [1 / 60, 1 / 12, 1 / 6, 0.5, 1, 2, 5, 10, 30];
   const leastPixels = 110;
-  const colour = 'rgba(70, 100, 125, 0.28)';
-  const textColour = 'rgba(60, 85, 105, 0.8)';
+  /** The ink is that of the names on the water: how strongly lines and letters are drawn with it. */
+  const strength = { lines: 0.32, text: 0.95 };
 
   function stepFor(scale) {
     return steps.find(step => step / 360 * scale >= leastPixels) || steps[steps.length - 1];
@@ -22,11 +22,17 @@
   }
 
   class Graticule {
+    constructor() {
+      this.colours = engine.baseColours();
+    }
+
     paint(frame) {
+      if (!this.colours.seaText)
+        return;
       const step = stepFor(frame.scale);
       const context = frame.context;
-      context.strokeStyle = colour;
-      context.fillStyle = textColour;
+      context.strokeStyle = context.fillStyle = this.colours.seaText;
+      context.globalAlpha = strength.lines;
       context.lineWidth = 1;
       context.font = '10px sans-serif';
       const meridians = this.meridians(frame, step);
@@ -41,6 +47,7 @@
         context.lineTo(frame.width, line.at);
       });
       context.stroke();
+      context.globalAlpha = strength.text;
       this.write(frame, meridians, parallels);
     }
 

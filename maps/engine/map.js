@@ -27,7 +27,7 @@
   class ChartMap extends maps.MVCObject {
     /**
      * @param {Element} element
-     * @param {{center: LatLng, zoom: number, zoomControl: boolean, scaleControl: boolean}} options
+     * @param {{center: LatLng, zoom: number, zoomControl: boolean, scaleControl: boolean, styles: Array}} options
      */
     constructor(element, options) {
       super();
@@ -40,12 +40,15 @@
       this.exactCentre = centre;
       this.leaflet = L.map(element, leafletOptions);
       this.leaflet.setView([centre.lat(), centre.lng()], wanted.zoom || 0);
-      const outlines = new engine.Outlines(window.worldOutlines);
-      this.base = new engine.ChartCanvas('tilePane', [outlines, new engine.Graticule()]);
+      this.outlines = new engine.Outlines(window.worldOutlines);
+      this.graticule = new engine.Graticule();
+      this.base = new engine.ChartCanvas('tilePane', [this.outlines, this.graticule]);
       this.chart = new engine.ChartCanvas('overlayPane', [new engine.Stack([this.lines, this.points])]);
       this.base.addTo(this.leaflet);
       this.chart.addTo(this.leaflet);
+      this.controls = engine.controlsOf(this.leaflet);
       this.addControls(wanted);
+      this.setOptions({ styles: wanted.styles });
       this.listen();
       engine.listenToPointer(this);
     }
@@ -130,6 +133,24 @@
         return;
       this.setQuietly(this.getCenter(), Math.max(zoomLimits.least, Math.min(zoomLimits.most, wanted)));
       maps.event.trigger(this, 'zoom_changed');
+    }
+
+    /** @param {{center: LatLng, zoom: number, styles: Array}} options those that are there are set */
+    setOptions(options) {
+      if (options.center !== undefined)
+        this.setCenter(options.center);
+      if (options.zoom !== undefined)
+        this.setZoom(options.zoom);
+      if ('styles' in options)
+        this.setColours(engine.baseColours(options.styles));
+    }
+
+    /** A dark map has dark boxes: the sheet knows the class. */
+    setColours(colours) {
+      this.outlines.colours = this.graticule.colours = colours;
+      this.element.style.backgroundColor = colours.sea;
+      this.element.classList.toggle('dark-map', !!colours.land && engine.isDark(colours.land));
+      this.base.invalidate();
     }
 
     getDiv() {

@@ -3,8 +3,6 @@
   'use strict';
   const engine = window.mapEngine;
 
-  const colours = { sea: '#d3e4ee', land: '#f6f3ea', coast: '#7f9cab', border: '#b79f86' };
-
   /** Cells are read when they come into view for the first time. */
   class Level {
     constructor(data) {
@@ -178,10 +176,12 @@
   class Outlines {
     constructor(data) {
       this.levels = (data || []).map(level => new Level(level));
+      this.colours = engine.baseColours();
     }
 
     paint(frame) {
       const context = frame.context;
+      const colours = this.colours;
       context.fillStyle = colours.sea;
       context.fillRect(0, 0, frame.width, frame.height);
       const level = this.levels.filter(candidate => candidate.fromZoom <= frame.zoom).pop();

@@ -4,6 +4,7 @@
 
   const element = document.createElement('div');
   element.id = 'menu';
+  element.className = 'chart-box';
   element.hidden = true;
   document.body.appendChild(element);
 
