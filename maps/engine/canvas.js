@@ -102,7 +102,17 @@
       }
     },
 
-    frame: function () {
+    /**
+     * Paints over what stands there already.
+     * @param {function(Frame)} paint not called when everything is about to be painted anyway
+     */
+    paintMore: function (paint) {
+      if (!this.pending)
+        this.paintOne({ paint: paint }, this.frame(true));
+    },
+
+    /** @param {boolean} keep whether the picture stays */
+    frame: function (keep) {
       const area = this.area;
       const ratio = window.devicePixelRatio || 1;
       const scale = engine.tileSize * Math.pow(2, area.zoom);
@@ -116,7 +126,8 @@
       }
       const context = this.canvas.getContext('2d');
       context.setTransform(ratio, 0, 0, ratio, 0, 0);
-      context.clearRect(0, 0, area.width, area.height);
+      if (!keep)
+        context.clearRect(0, 0, area.width, area.height);
       return Object.assign({
         context: context,
         scale: scale,

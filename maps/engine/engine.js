@@ -18,6 +18,8 @@ function loadMapEngine() {
     'maps/engine/styles.js',
     'maps/engine/outlines.js',
     'maps/engine/graticule.js',
+    'maps/engine/linepath.js',
+    'maps/engine/lineicons.js',
     'maps/engine/lines.js',
     'maps/engine/points.js',
     'maps/engine/hitgrid.js',

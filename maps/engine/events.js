@@ -103,6 +103,18 @@
       return this.items.length;
     }
 
+    setAt(index, item) {
+      const former = this.items[index];
+      this.items[index] = item;
+      event.trigger(this, 'set_at', index, former);
+    }
+
+    pop() {
+      const item = this.items.pop();
+      event.trigger(this, 'remove_at', this.items.length, item);
+      return item;
+    }
+
     clear() {
       this.items = [];
       event.trigger(this, 'remove_at', 0);

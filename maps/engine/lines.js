@@ -1,162 +1,284 @@
-/** The polylines of a map. */
+/** The lines of a map: paints them, and keeps the canvas of those that grow. */
 (function () {
   'use strict';
   const engine = window.mapEngine;
-  const radians = Math.PI / 180;
 
-  /** The longest piece of a great circle that is drawn straight, degrees of arc. */
-  const straightArc = 1;
+  /** Points are left out when the line passes them this near without them, pixels. */
+  const nearEnough = 0.2;
 
-  /** A run ends with so many points, for the canvas takes many short paths far better than one long one. */
-  const runPoints = 200;
+  /** A great circle may leave its straight pieces by so much, pixels. */
+  const leastBend = 0.3;
 
-  function vectorOf(position) {
-    const latitude = position.lat() * radians;
-    const longitude = position.lng() * radians;
-    return [Math.cos(latitude) * Math.cos(longitude), Math.cos(latitude) * Math.sin(longitude), Math.sin(latitude)];
-  }
+  /** How far beyond the canvas a line is still painted, pixels: wider than any line. */
+  const edge = 60;
 
-  /** The points between two positions on their great circle as [latitude, longitude] degrees, without the two. */
-  function greatCircle(from, to) {
-    const a = vectorOf(from);
-    const b = vectorOf(to);
-    const arc = Math.acos(Math.max(-1, Math.min(1, a[0] * b[0] + a[1] * b[1] + a[2] * b[2])));
-    const pieces = Math.ceil(arc / radians / straightArc);
-    const sine = Math.sin(arc);
-    const points = [];
-    // Opposite ends have no one great circle.
-    if (sine < 1e-9)
-      return points;
-    for (let i = 1; i < pieces; ++i) {
-      const p = Math.sin((1 - i / pieces) * arc) / sine;
-      const q = Math.sin(i / pieces * arc) / sine;
-      const v = [0, 1, 2].map(axis => p * a[axis] + q * b[axis]);
-      points.push([Math.atan2(v[2], Math.hypot(v[0], v[1])) / radians, Math.atan2(v[1], v[0]) / radians]);
-    }
-    return points;
-  }
-
-  /** A piece of a line in unit coordinates. Its points lie from `least` to `most` on the x axis. */
-  class Run {
-    constructor(x, y) {
-      this.xs = [x];
-      this.ys = [y];
-      this.least = this.most = x;
-    }
-
-    get lastX() {
-      return this.xs[this.xs.length - 1];
-    }
-
-    /**
-     * The point comes in the copy of the world that is nearest to the point before, so that a line over 180 degrees
-     * takes the short way.
-     */
-    add(x, y) {
-      const near = x + Math.round(this.lastX - x);
-      this.xs.push(near);
-      this.ys.push(y);
-      this.least = Math.min(this.least, near);
-      this.most = Math.max(this.most, near);
-    }
-
-    isFull() {
-      return this.xs.length === runPoints || this.most - this.least > 1;
-    }
-
-    /** The run that goes on where this one ends, in the first copy of the world. */
-    next() {
-      return new Run(this.lastX - Math.floor(this.lastX), this.ys[this.ys.length - 1]);
-    }
-  }
-
-  /** @return {Run[]} a line in unit coordinates, in pieces that are painted one by one */
-  function runsOf(positions, geodesic) {
-    const runs = [];
-    const put = (latitude, longitude) => {
-      const x = engine.unitX(longitude);
-      const y = engine.unitY(latitude);
-      const last = runs[runs.length - 1];
-      if (!last) {
-        runs.push(new Run(x, y));
-        return;
-      }
-      if (last.isFull())
-        runs.push(last.next());
-      runs[runs.length - 1].add(x, y);
-    };
-    positions.forEach((position, i) => {
-      if (geodesic && i > 0)
-        greatCircle(positions[i - 1], position).forEach(point => put(point[0], point[1]));
-      put(position.lat(), position.lng());
-    });
-    return runs;
-  }
+  /** Straight pieces of one piece of a great circle at the most. */
+  const mostPieces = 500;
 
   class Lines {
     constructor() {
-      this.lines = [];
+      this.lines = new Set();
+      this.ordered = null;
     }
 
     add(line) {
-      this.lines.push(line);
+      this.lines.add(line);
+      this.ordered = null;
     }
 
     remove(line) {
-      this.lines = this.lines.filter(other => other !== line);
+      this.lines.delete(line);
+      this.ordered = null;
+    }
+
+    /** The lines by their zIndex; within one they stand as they were added. @return {Map<number, Array>} */
+    byHeight() {
+      if (this.ordered)
+        return this.ordered;
+      this.ordered = new Map();
+      this.lines.forEach(line => {
+        const level = this.ordered.get(line.zIndex);
+        if (level)
+          level.push(line);
+        else
+          this.ordered.set(line.zIndex, [line]);
+      });
+      return this.ordered;
     }
 
     /** @return {number[]} the zIndex values that occur */
     heights() {
-      return this.lines.map(line => line.zIndex);
+      return Array.from(this.byHeight().keys());
+    }
+
+    paint(frame) {
+      this.heights().sort((a, b) => a - b).forEach(height => this.paintHeight(frame, height));
     }
 
     /** @param {number} height the zIndex of the lines to paint */
     paintHeight(frame, height) {
-      this.lines.filter(line => line.zIndex === height).forEach(line => this.paintLine(frame, line));
+      (this.byHeight().get(height) || []).forEach(line => this.paintLine(frame, line));
     }
 
     paintLine(frame, line) {
-      if (!line.runs)
-        line.runs = runsOf(line.path.items.filter(engine.isFinitePosition), line.geodesic);
+      line.geometry.extend(line.positions());
+      engine.fillArea(frame, line);
+      this.stroke(frame, line, 0, 0);
+      engine.paintIcons(frame, line, emitRun);
+      this.note(line);
+    }
+
+    /** Paints what lines have gained since they were painted, over what stands there. Their icons are left out. */
+    paintGrowth(frame) {
+      this.lines.forEach(line => {
+        line.geometry.extend(line.positions());
+        this.stroke(frame, line, line.paintedRun || 0, line.paintedPoint || 0);
+        this.note(line);
+      });
+    }
+
+    /** Notes how far a line has been painted. */
+    note(line) {
+      const runs = line.geometry.runs;
+      line.paintedRun = Math.max(0, runs.length - 1);
+      line.paintedPoint = runs.length ? runs[runs.length - 1].xs.length - 1 : 0;
+    }
+
+    stroke(frame, line, firstRun, firstPoint) {
       const context = frame.context;
+      if (line.strokeOpacity <= 0 || line.strokeWeight <= 0)
+        return;
       context.globalAlpha = line.strokeOpacity;
       context.strokeStyle = line.strokeColor;
       context.lineWidth = line.strokeWeight;
       context.lineJoin = context.lineCap = 'round';
-      line.runs.forEach(run => this.paintRun(frame, run));
+      const runs = line.geometry.runs;
+      for (let i = firstRun; i < runs.length; ++i)
+        this.strokeRun(frame, runs[i], line.geometry.geodesic, i === firstRun ? firstPoint : 0);
       context.globalAlpha = 1;
     }
 
-    /** A run in every copy of the world that the frame shows. */
-    paintRun(frame, run) {
-      const firstWorld = Math.ceil(frame.left / frame.scale - run.most);
-      const lastWorld = Math.floor((frame.left + frame.width) / frame.scale - run.least);
-      frame.context.beginPath();
-      for (let world = firstWorld; world <= lastWorld; ++world)
-        this.trace(frame, run, frame.left - world * frame.scale);
-      frame.context.stroke();
-    }
-
-    trace(frame, run, left) {
+    strokeRun(frame, run, geodesic, first) {
       const context = frame.context;
-      const edge = 40;
       let endX = NaN;
       let endY = NaN;
-      for (let i = 1; i < run.xs.length; ++i) {
-        const part = engine.clipSegment(run.xs[i - 1] * frame.scale - left, run.ys[i - 1] * frame.scale - frame.top,
-          run.xs[i] * frame.scale - left, run.ys[i] * frame.scale - frame.top,
-          -edge, -edge, frame.width + edge, frame.height + edge);
-        if (!part)
-          continue;
-        if (part[0] !== endX || part[1] !== endY)
-          context.moveTo(part[0], part[1]);
-        context.lineTo(part[2], part[3]);
-        endX = part[2];
-        endY = part[3];
-      }
+      let any = false;
+      emitRun(frame, run, geodesic, first, (x1, y1, x2, y2) => {
+        if (!any)
+          context.beginPath();
+        any = true;
+        if (x1 !== endX || y1 !== endY)
+          context.moveTo(x1, y1);
+        context.lineTo(x2, y2);
+        endX = x2;
+        endY = y2;
+      });
+      if (any)
+        context.stroke();
     }
   }
 
+  /**
+   * Tells the pieces of a run that lie in the frame, in every copy of the world that it shows.
+   * @param {number} first the point to begin with
+   * @param {function(number, number, number, number, number)} emit x and y of both ends in pixels, cut to the frame, and
+   *     how many pixels the first end lies behind the run's point `first`, counted along the line
+   */
+  function emitRun(frame, run, geodesic, first, emit) {
+    const margin = edge + (geodesic ? run.bend * frame.scale : 0);
+    if (run.bottom * frame.scale < frame.top - margin || run.top * frame.scale > frame.top + frame.height + margin)
+      return;
+    const firstWorld = Math.ceil((frame.left - margin) / frame.scale - run.right);
+    const lastWorld = Math.floor((frame.left + frame.width + margin) / frame.scale - run.left);
+    for (let world = firstWorld; world <= lastWorld; ++world)
+      emitWorld(frame, run, frame.left - world * frame.scale, geodesic, first, emit);
+  }
+
+  function isInside(frame, run, left) {
+    return run.left * frame.scale >= left - edge && run.right * frame.scale <= left + frame.width + edge
+      && run.top * frame.scale >= frame.top - edge && run.bottom * frame.scale <= frame.top + frame.height + edge;
+  }
+
+  /**
+   * Tells how far a line may go straight: from its start the points seen so far leave a cone of directions that pass all
+   * of them near enough.
+   */
+  class Cone {
+    begin(x, y) {
+      this.x = x;
+      this.y = y;
+      this.far = 0;
+    }
+
+    /** @return {boolean} whether the line may go straight to this point; then it has been seen */
+    takes(x, y) {
+      const dx = x - this.x;
+      const dy = y - this.y;
+      const square = dx * dx + dy * dy;
+      if (square < nearEnough * nearEnough)
+        return this.far === 0;
+      const turn = nearEnough / Math.sqrt(square);
+      const leftX = dx + turn * dy;
+      const leftY = dy - turn * dx;
+      const rightX = dx - turn * dy;
+      const rightY = dy + turn * dx;
+      const isFirst = this.far === 0;
+      if (!isFirst && (square < this.far || this.leftX * dy < this.leftY * dx || this.rightX * dy > this.rightY * dx))
+        return false;
+      if (isFirst || this.leftX * leftY > this.leftY * leftX) {
+        this.leftX = leftX;
+        this.leftY = leftY;
+      }
+      if (isFirst || this.rightX * rightY < this.rightY * rightX) {
+        this.rightX = rightX;
+        this.rightY = rightY;
+      }
+      this.far = square;
+      return true;
+    }
+  }
+
+  const cone = new Cone();
+
+  /** @return {number} the last point that a straight piece from the point `from` may end at */
+  function endOfPiece(run, from, scale) {
+    const last = run.xs.length - 1;
+    let to = from;
+    cone.begin(run.xs[from] * scale, run.ys[from] * scale);
+    while (to < last && cone.takes(run.xs[to + 1] * scale, run.ys[to + 1] * scale))
+      ++to;
+    return to;
+  }
+
+  function emitWorld(frame, run, left, geodesic, first, emit) {
+    const scale = frame.scale;
+    const bends = geodesic && run.bend * scale > leastBend;
+    const put = isInside(frame, run, left) && !bends ? emit : clipped(frame, emit);
+    let along = 0;
+    let x1 = run.xs[first] * scale - left;
+    let y1 = run.ys[first] * scale - frame.top;
+    for (let from = first; from < run.xs.length - 1;) {
+      const to = bends ? from + 1 : endOfPiece(run, from, scale);
+      const x2 = run.xs[to] * scale - left;
+      const y2 = run.ys[to] * scale - frame.top;
+      if (bends)
+        emitBent(frame, run, left, from, to, along, put);
+      else
+        put(x1, y1, x2, y2, along);
+      along += Math.hypot(x2 - x1, y2 - y1);
+      from = to;
+      x1 = x2;
+      y1 = y2;
+    }
+  }
+
+  function clipped(frame, emit) {
+    return (x1, y1, x2, y2, along) => {
+      const part = engine.clipSegment(x1, y1, x2, y2, -edge, -edge, frame.width + edge, frame.height + edge);
+      if (part)
+        emit(part[0], part[1], part[2], part[3], along + Math.hypot(part[0] - x1, part[1] - y1));
+    };
+  }
+
+  /** A piece of a great circle in as many straight pieces as the zoom asks for, if it may come into the frame at all. */
+  function emitBent(frame, run, left, from, to, along, put) {
+    const scale = frame.scale;
+    const top = frame.top;
+    const xs = run.xs;
+    const ys = run.ys;
+    const width = xs[to] - xs[from];
+    const bend = engine.bendOf(width, Math.hypot(width, ys[to] - ys[from]), ys[to]) * scale;
+    let x1 = xs[from] * scale - left;
+    let y1 = ys[from] * scale - top;
+    const x2 = xs[to] * scale - left;
+    const y2 = ys[to] * scale - top;
+    const margin = edge + 2 * bend;
+    if (Math.max(x1, x2) < -margin || Math.min(x1, x2) > frame.width + margin
+      || Math.max(y1, y2) < -margin || Math.min(y1, y2) > frame.height + margin)
+      return;
+    const pieces = Math.min(mostPieces, Math.ceil(Math.sqrt(bend / leastBend)));
+    const between = pieces > 1 ? engine.bentPoints(xs[from], ys[from], xs[to], ys[to], pieces) : [];
+    let behind = along;
+    for (let i = 0; i < between.length; i += 2) {
+      const x = between[i] * scale - left;
+      const y = between[i + 1] * scale - top;
+      put(x1, y1, x, y, behind);
+      behind += Math.hypot(x - x1, y - y1);
+      x1 = x;
+      y1 = y;
+    }
+    put(x1, y1, x2, y2, behind);
+  }
+
   engine.Lines = Lines;
+
+  /**
+   * The lines below everything else on the chart, those of a negative zIndex, have a canvas of their own: there a line
+   * grows by painting its new piece alone, while everything else on the map stays as it is.
+   */
+  class Ground {
+    constructor(leaflet) {
+      this.lines = new Lines();
+      this.canvas = new engine.ChartCanvas('tilePane', [this.lines]);
+      this.canvas.addTo(leaflet);
+      this.growing = 0;
+    }
+
+    /** A line has new points at its end: paints them with the next frame. */
+    grow() {
+      if (!this.growing)
+        this.growing = window.requestAnimationFrame(() => {
+          this.growing = 0;
+          this.canvas.paintMore(frame => this.lines.paintGrowth(frame));
+        });
+    }
+  }
+
+  /** Where a map's lines of some height live: the lines among which they are painted, and the canvas. */
+  engine.linesAt = (map, height) => {
+    if (height >= 0)
+      return { lines: map.lines, canvas: map.chart, grow: () => map.chart.invalidate() };
+    map.ground = map.ground || new Ground(map.leaflet);
+    return map.ground;
+  };
 })();

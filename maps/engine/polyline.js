@@ -1,29 +1,49 @@
-/** `google.maps.Polyline`. */
+/** `google.maps.Polyline` and `google.maps.Polygon`. */
 (function () {
   'use strict';
   const maps = window.google.maps;
+  const engine = window.mapEngine;
 
-  const defaults = { strokeColor: '#000', strokeOpacity: 1, strokeWeight: 3, geodesic: false, zIndex: 0 };
+  const defaults = {
+    strokeColor: '#000',
+    strokeOpacity: 1,
+    strokeWeight: 3,
+    fillColor: '#000',
+    fillOpacity: 0,
+    geodesic: false,
+    icons: null,
+    zIndex: 0,
+  };
 
   class Polyline extends maps.MVCObject {
-    /** @param options path (positions), map, strokeColor, strokeOpacity, strokeWeight, geodesic, zIndex */
+    /**
+     * @param options path (positions), map, strokeColor, strokeOpacity, strokeWeight, geodesic, zIndex, and icons: an
+     *     array of { icon: Symbol, offset: '50%' or '20px', repeat: '40px' }. A line of a negative zIndex lies below
+     *     everything else and costs nothing but its new piece when it grows.
+     */
     constructor(options) {
       super();
       this.map = null;
-      this.line = Object.assign({}, defaults);
+      this.home = null;
+      this.line = Object.assign({ positions: () => this.positions() }, defaults);
       this.setOptions(options || {});
     }
 
     setOptions(options) {
+      const before = this.line.zIndex;
       Object.keys(defaults).forEach(name => {
         if (options[name] !== undefined)
           this.line[name] = options[name];
       });
       if (options.path || !this.path)
         this.setPath(options.path || []);
+      if (options.geodesic !== undefined)
+        this.forgetGeometry();
+      if (this.map && this.line.zIndex !== before)
+        this.enter(this.leave());
       if (options.map !== undefined)
         this.setMap(options.map);
-      this.changed();
+      this.repaint();
     }
 
     /** @return {MVCArray} the positions; what is pushed there is drawn */
@@ -32,9 +52,33 @@
     }
 
     setPath(path) {
+      (this.listening || []).forEach(maps.event.removeListener);
       this.path = path instanceof maps.MVCArray ? path : new maps.MVCArray(path);
-      ['insert_at', 'remove_at'].forEach(name => this.path.addListener(name, () => this.changed()));
-      this.changed();
+      const anew = () => this.forgetGeometry();
+      this.listening = [
+        this.path.addListener('insert_at', index => this.inserted(index)),
+        this.path.addListener('remove_at', anew),
+        this.path.addListener('set_at', anew),
+      ];
+      this.forgetGeometry();
+    }
+
+    /** The positions that the line goes through. */
+    positions() {
+      return this.path.items;
+    }
+
+    /** Only notes the change: a path often grows by thousands of points before the next frame is painted. */
+    inserted(index) {
+      if (index !== this.path.getLength() - 1)
+        this.forgetGeometry();
+      else if (this.home)
+        this.home.grow();
+    }
+
+    forgetGeometry() {
+      this.line.geometry = new engine.LinePath(this.line.geodesic);
+      this.repaint();
     }
 
     getMap() {
@@ -45,24 +89,50 @@
       const next = map || null;
       if (next === this.map)
         return;
-      if (this.map) {
-        this.map.lines.remove(this.line);
-        this.map.chart.invalidate();
-      }
-      this.map = next;
-      if (next)
-        next.lines.add(this.line);
-      this.changed();
+      this.leave();
+      this.enter(next);
     }
 
-    /** Only notes the change: a path often grows by thousands of points before the next frame is painted. */
-    changed() {
-      this.line.path = this.path;
-      this.line.runs = null;
-      if (this.map)
-        this.map.chart.invalidate();
+    /** @return {?Map} the map that the line was on */
+    leave() {
+      const map = this.map;
+      if (this.home)
+        this.home.lines.remove(this.line);
+      this.repaint();
+      this.map = this.home = null;
+      return map;
+    }
+
+    enter(map) {
+      this.map = map;
+      this.home = map ? engine.linesAt(map, this.line.zIndex) : null;
+      if (this.home)
+        this.home.lines.add(this.line);
+      this.repaint();
+    }
+
+    repaint() {
+      if (this.home)
+        this.home.canvas.invalidate();
+    }
+  }
+
+  /** A closed line with its area: options as for Polyline, with `paths`, fillColor and fillOpacity. */
+  class Polygon extends Polyline {
+    constructor(options) {
+      super(Object.assign({ fillOpacity: 0.35, path: (options || {}).paths }, options));
+    }
+
+    positions() {
+      const items = this.path.items;
+      return items.length ? items.concat(items[0]) : items;
+    }
+
+    inserted() {
+      this.forgetGeometry();
     }
   }
 
   maps.Polyline = Polyline;
+  maps.Polygon = Polygon;
 })();
