@@ -23,7 +23,7 @@ build_program() {
     "$root/scripts/setup.sh"
     (cd "$root" && cmake --preset release -DBUILD_TESTING=ON)
     (cd "$root" && cmake --build --preset release -j "$(getconf _NPROCESSORS_ONLN)" \
-        --target ZephanTrajector makedemo tour)
+        --target ZephanTrajector makedemo tour flysim)
 }
 
 make_demonstration() {
