@@ -940,6 +940,16 @@ dans %2</source>
         <translation>The waypoint %1 has been deleted and saved for export 
 in %2</translation>
     </message>
+    <message>
+        <source>Trajectoire avion</source>
+        <translation>Aircraft trace</translation>
+    </message>
+    <message>
+        <source>Impossible de se connecter à Aeo!Zephan.
+Assurez vous de l&apos;avoir démarré.</source>
+        <translation>Cannot connect to Aeo!Zephan.
+Make sure that you have started it.</translation>
+    </message>
 </context>
 <context>
     <name>RowSaving</name>

@@ -12,6 +12,7 @@
 class CAircraftData;
 class CFlightPlan;
 class CNavGlobalVar;
+class CNavPlug;
 class QLabel;
 class QTreeWidgetItem;
 struct ViewLayer;
@@ -120,6 +121,9 @@ private slots:
     void on_cbAircraftType_activated(int index);
     void on_dockWAircraft_visibilityChanged(bool visible);
     void on_btnPod_clicked();
+    // Trace of the simulator's aircraft.
+    void on_pbTraceAcft_clicked(bool checked);
+    void sTraceAircraft();
 
 private:
     void createViewActions();
@@ -140,11 +144,14 @@ private:
     void centerOnLine(const CFpLinePtr& line);
     void resetProcedureTitles();
     void showAircraft(const CAircraftData& aircraft);
+    void startTrace();
+    void stopTrace();
 
     std::unique_ptr<Ui::MainWindow> ui;
     CNavGlobalVar* settings = nullptr; ///< the singleton, not owned; gone once the tear-down has begun
     std::unique_ptr<CFlightPlan> flightPlan;
     QList<QSharedPointer<CAircraftData>> aircraftList; ///< runs parallel to the items of cbAircraftType
+    CNavPlug* navPlug = nullptr;                       ///< of the latest trace, null until the first; never freed
     QString lastCenterScript;
     QString searchKey; ///< upper-cased text of the last search
     QLabel *lblData = nullptr, *lblCenter = nullptr, *lblZoom = nullptr;
