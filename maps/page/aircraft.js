@@ -4,9 +4,11 @@
 
   const path = 'M 0 -14 L 2 -11 L 2 -5 L 13 2 L 13 5 L 2 2 L 1.5 9 L 5 11.5 L 5 13.5 L 0 12 '
     + 'L -5 13.5 L -5 11.5 L -1.5 9 L -2 2 L -13 5 L -13 2 L -2 -5 L -2 -11 Z';
+  /** @type {?google.maps.Marker} */
   let marker = null;
   let drawn = NaN;
 
+  /** @param {number} heading degrees */
   function iconFor(heading) {
     drawn = heading;
     return page.symbol(path, '#4a0d0d', 1.2, '#d32f2f', { rotation: heading });
@@ -40,12 +42,12 @@
   };
 })();
 
-/** Shows the aircraft; the title comes empty. */
+/** Shows the aircraft; the title comes empty. @type {(position: Place, title: string, heading: number) => void} */
 function addAcftMrkr(position, title, heading) {
   page.showAircraft(position, title, page.heading(heading));
 }
 
-/** Moves the aircraft; comes with every tick of the trace. */
+/** Moves the aircraft; comes with every tick of the trace. @type {(position: Place, heading: number) => void} */
 function setAcftMrkr(position, heading) {
   page.moveAircraft(position, page.heading(heading));
 }

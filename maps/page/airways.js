@@ -2,8 +2,11 @@
 (function () {
   'use strict';
 
+  /** @type {Record<string, string>} */
   const colours = { L: '#6d8c3c', H: '#3c6d8c', B: '#7a5c99' };
+  /** @type {Array<{level: string, line: google.maps.Polyline}>} */
   const routes = [];
+  /** @type {Record<string, boolean>} */
   const shown = {};
 
   /** Opens a new route; what `page.addToAirway` brings next belongs to it. */
@@ -32,17 +35,20 @@
   };
 })();
 
-/** A new route of a level, told as one character. */
+/** A new route of a level, told as one character. @param {string} level */
 function addATS(level) {
   page.openAirway(level);
 }
 
-/** A point of the current route. The program's script closes the bracket early, so its second value never comes. */
+/**
+ * A point of the current route. The program's script closes the bracket early, so its second value never comes.
+ * @param {Place} position
+ */
 function addToATS(position) {
   page.addToAirway(position);
 }
 
-/** Shows (1) or hides (0) the routes of a level, those that come later too. */
+/** Shows (1) or hides (0) the routes of a level, those that come later too. @type {(level: string, on: number) => void} */
 function showATS(level, on) {
   page.showAirways(level, !!on);
 }

@@ -1,5 +1,6 @@
 /** The way to the program: the object `mainWindow`, which is absent when the page is opened in a browser. */
-var page = page || {};
+/** @type {Page} */
+var page = page || /** @type {Page} */ ({});
 
 (function () {
   'use strict';

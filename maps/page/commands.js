@@ -6,8 +6,12 @@
   const samePoint = 0.0005;
   const userPointStem = 'WPT';
 
-  /** The title of a marker of a family at the place of another marker; empty without one. */
+  /**
+   * The title of a marker of a family at the place of another marker; empty without one.
+   * @type {(place: Place, family: MarkerFamily) => string}
+   */
   function titleAt(place, family) {
+    /** @type {(a: Place, b: Place) => boolean} */
     const near = (a, b) => Math.abs(a.lat() - b.lat()) < samePoint && Math.abs(a.lng() - b.lng()) < samePoint;
     let title = '';
     page.layers.forEach(layer => layer.list.forEach(marker => {
@@ -17,7 +21,10 @@
     return title;
   }
 
-  /** Airways are found by a waypoint's name first and by the navaid's at the same point after it. */
+  /**
+   * Airways are found by a waypoint's name first and by the navaid's at the same point after it.
+   * @param {ChartMarker} marker
+   */
   function askAirways(marker) {
     if (marker.family === 'waypoint')
       page.call('sATS', marker.title, titleAt(marker.position, 'navaid'));
@@ -25,18 +32,22 @@
       page.call('sATS', titleAt(marker.position, 'waypoint') || marker.title, marker.title);
   }
 
+  /** @param {Place} place */
   function startHere(place) {
     page.call('sAddSitToFp', place.lat(), place.lng());
     // The slot above only draws; this one moves the start position.
     page.call('doMoveSIT', place.lat(), place.lng());
   }
 
+  /** @type {(word: string, slot: string) => Command<ChartMarker>} */
   const plain = (word, slot) => ({ word: word, slots: [slot], run: marker => page.call(slot, marker.title) });
+  /** @type {(word: string, slot: string) => Command<ChartMarker>} */
   const edit = (word, slot) => ({
     word: word,
     slots: [slot],
     run: marker => page.call(slot, marker.title, marker.position.lat(), marker.position.lng()),
   });
+  /** @type {(word: string, slot: string, text: string) => Command<Place>} */
   const here = (word, slot, text) => ({
     word: word,
     slots: [slot],
@@ -44,7 +55,10 @@
   });
   const airways = { word: 'airways', slots: ['sATS'], run: askAirways };
 
-  /** The words are keys of the page's language. An entry is shown when the program has all its slots. */
+  /**
+   * The words are keys of the page's language. An entry is shown when the program has all its slots.
+   * @type {Record<MarkerFamily, Command<ChartMarker>[]>}
+   */
   const markerCommands = {
     airport: [plain('addToPlan', 'sAddAptToFp'), plain('showRunways', 'doViewRwy')],
     navaid: [
@@ -61,6 +75,7 @@
     ],
   };
 
+  /** @type {Command<Place>[]} */
   const mapCommands = [
     here('userPoint', 'sAddNewWptToFp', userPointStem),
     { word: 'startHere', slots: ['sAddSitToFp', 'doMoveSIT'], run: startHere },
@@ -70,6 +85,7 @@
     { word: 'centreHere', slots: [], run: place => map.setCenter(place) },
   ];
 
+  /** @type {<Subject>(commands: Command<Subject>[], subject: Subject) => MenuEntry[]} */
   function entriesFor(commands, subject) {
     return commands
       .filter(command => command.slots.every(page.offers) && (!command.wanted || command.wanted()))
@@ -78,6 +94,7 @@
 
   /** Clicks on the markers of a layer: the pop-up, the menu, the title beside the pointer. */
   page.listenToLayer = function (layer) {
+    /** @param {google.maps.Data.MouseEvent} event */
     const markerOf = event => event.feature.getProperty('marker');
     layer.addListener('click', event => {
       theLast = markerOf(event);
@@ -91,6 +108,6 @@
     layer.addListener('mouseout', () => page.pointAt(null));
   };
 
-  google.maps.event.addListener(map, 'rightclick', event =>
+  map.addListener('rightclick', event =>
     page.openMenu(pageWords.mapMenu, entriesFor(mapCommands, event.latLng)));
 })();

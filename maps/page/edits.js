@@ -1,16 +1,17 @@
 /** Single markers after an edit in the program's dialogs, and the end of the marker last used. */
 
-/** The marker that the user clicked last, with either button. */
+/** The marker that the user clicked last, with either button. @type {?ChartMarker} */
 var theLast = null;
 
 (function () {
   'use strict';
 
-  /** The layer that holds a marker, or null. */
+  /** @param {ChartMarker} marker @return {?ChartLayer} the layer that holds a marker */
   function layerOf(marker) {
     return page.layers.find(layer => layer.list.indexOf(marker) >= 0) || null;
   }
 
+  /** @param {ChartMarker} marker */
   function removeMarker(marker) {
     const layer = layerOf(marker);
     if (!layer)
@@ -20,8 +21,9 @@ var theLast = null;
     page.closePopup(marker);
   }
 
-  /** An edited row comes again under its key: its former marker goes. */
+  /** An edited row comes again under its key: its former marker goes. @param {ChartMarker} marker */
   function takePredecessor(marker) {
+    /** @type {?ChartMarker} */
     let found = null;
     page.layers.forEach(layer => layer.list.forEach(other => {
       if (other !== marker && marker.isSameRow(other))
@@ -50,17 +52,17 @@ var theLast = null;
   };
 })();
 
-/** A VOR after an edit. The number is the usage, not the type: a new one gets the plain symbol. */
+/** A VOR after an edit. The number is the usage, not the type: a new one gets the plain symbol. @type {MarkerFeed} */
 function addVORMarker2(position, title, use, html) {
   page.showEdited(page.collectVor(position, title, 'vor', html));
 }
 
-/** An NDB after an edit. */
+/** An NDB after an edit. @type {MarkerFeed} */
 function addNDBMarker2(position, title, use, html) {
   page.showEdited(page.collectNdb(position, title, use, html));
 }
 
-/** A waypoint after an edit. */
+/** A waypoint after an edit. @type {MarkerFeed} */
 function addWPTMarker2(position, title, use, html) {
   page.showEdited(page.collectWaypoint(position, title, use, html));
 }

@@ -14,12 +14,16 @@
   /**
    * Latitudes and the difference of longitudes in radians. Only sine and cosine of the latter are taken, so that it
    * does not matter how often it goes around the world.
+   * @param {Place} from @param {Place} to
    */
   function anglesOf(from, to) {
     return { from: from.lat() * radians, to: to.lat() * radians, turn: (to.lng() - from.lng()) * radians };
   }
 
-  /** The components of the way to the second point at the first: to the east, to the north, and straight up. */
+  /**
+   * The components of the way to the second point at the first: to the east, to the north, and straight up.
+   * @param {Place} from @param {Place} to
+   */
   function componentsOf(from, to) {
     const angles = anglesOf(from, to);
     const cosine = Math.cos(angles.to);

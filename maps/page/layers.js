@@ -1,17 +1,24 @@
 /** The seven marker layers: each manager shows and hides the markers of a list. */
 
+/** @type {?MarkerManager} */
 var ArptMgr = null;
+/** @type {?MarkerManager} */
 var VORMgr = null;
+/** @type {?MarkerManager} */
 var NDBRteMgr = null;
+/** @type {?MarkerManager} */
 var NDBTermMgr = null;
+/** @type {?MarkerManager} */
 var WPTRteMgr = null;
+/** @type {?MarkerManager} */
 var WPTTermMgr = null;
+/** @type {?MarkerManager} */
 var WPTVfrMgr = null;
 
 (function () {
   'use strict';
 
-  /** All managers made so far, for what concerns every layer. */
+  /** All managers made so far, for what concerns every layer. @type {MarkerManager[]} */
   const managers = [];
 
   class LayerManager {
@@ -20,13 +27,14 @@ var WPTVfrMgr = null;
       this.clearMarkers();
     }
 
-    /** Shows the markers of a list, each once however often this is asked. */
+    /** Shows the markers of a list, each once however often this is asked. @param {ChartMarker[]} list */
     addMarkers(list) {
       if (Array.isArray(list))
         list.forEach(marker => this.addMarker(marker));
       this.layer.setMap(map);
     }
 
+    /** @param {ChartMarker} marker */
     addMarker(marker) {
       if (!this.shown.has(marker))
         this.shown.set(marker, this.layer.add({ geometry: marker.position, properties: { marker: marker } }));
@@ -34,6 +42,7 @@ var WPTVfrMgr = null;
         this.layer.setMap(map);
     }
 
+    /** @param {ChartMarker} marker */
     removeMarker(marker) {
       const feature = this.shown.get(marker);
       if (!feature)
@@ -46,6 +55,7 @@ var WPTVfrMgr = null;
     clearMarkers() {
       if (this.layer)
         this.layer.setMap(null);
+      /** @type {Map<ChartMarker, google.maps.Data.Feature>} */
       this.shown = new Map();
       this.layer = new google.maps.Data();
       this.dress();
@@ -57,7 +67,7 @@ var WPTVfrMgr = null;
       this.layer.setStyle(feature => page.symbolLook(feature.getProperty('marker').symbol, size));
     }
 
-    /** Takes the symbols' size that suits a zoom. */
+    /** Takes the symbols' size that suits a zoom. @param {number} zoom */
     fit(zoom) {
       const size = page.symbolSize(zoom);
       if (size === this.size)

@@ -1,11 +1,18 @@
 /** The markers of the feed: every row of the databases that the map can show, sorted into the lists of the layers. */
 
+/** @type {ChartMarker[]} */
 var listApt = [];
+/** @type {ChartMarker[]} */
 var listVOR = [];
+/** @type {ChartMarker[]} */
 var listNDBRte = [];
+/** @type {ChartMarker[]} */
 var listNDBTerm = [];
+/** @type {ChartMarker[]} */
 var listWptRte = [];
+/** @type {ChartMarker[]} */
 var listWptTerm = [];
+/** @type {ChartMarker[]} */
 var listWptVfr = [];
 
 (function () {
@@ -17,7 +24,7 @@ var listWptVfr = [];
   /** What a marker stands for; decides the commands of its menu. */
   page.families = { airport: 'airport', navaid: 'navaid', waypoint: 'waypoint' };
 
-  /** Whether the one "-" of the title is that between name and key. */
+  /** @type {(marker: ChartMarker) => boolean} whether the one "-" of the title is that between name and key. */
   const hasPlainName = marker => marker.title.split('-').length === 2;
 
   /**
@@ -25,6 +32,10 @@ var listWptVfr = [];
    * waypoint. It is text and never markup; the HTML is that of the pop-up.
    */
   class ChartMarker {
+    /**
+     * @param {MarkerFamily} family @param {string} symbol @param {Place} position
+     * @param {string} title @param {string} html
+     */
     constructor(family, symbol, position, title, html) {
       this.family = family;
       this.symbol = symbol;
@@ -49,6 +60,7 @@ var listWptVfr = [];
     /**
      * Whether two markers stand for the same row. A navaid's key holds no "-", so it is the tail whatever the name. A
      * waypoint's key begins with the name's first letters and may hold one: then only the whole title tells.
+     * @param {ChartMarker} other
      */
     isSameRow(other) {
       if (other.family !== this.family || !this.tail() || this.tail() !== other.tail())
@@ -67,6 +79,7 @@ var listWptVfr = [];
     return marker;
   };
 
+  /** @type {Record<number, string>} */
   const waypointSymbols = {
     [usage.terminal]: 'waypointTerminal',
     [usage.rnav]: 'waypointRnav',
@@ -89,22 +102,22 @@ var listWptVfr = [];
   };
 })();
 
-/** An airport. The number is always 1. */
+/** An airport. The number is always 1. @type {MarkerFeed} */
 function addAPTMarker(position, title, number, html) {
   page.collectAirport(position, title, html);
 }
 
-/** A VOR, TACAN or DME; its type decides its symbol. */
+/** A VOR, TACAN or DME; its type decides its symbol. @type {MarkerFeed} */
 function addVORMarker(position, title, type, html) {
   page.collectVor(position, title, page.vorSymbol(type), html);
 }
 
-/** An NDB; its usage decides its layer. */
+/** An NDB; its usage decides its layer. @type {MarkerFeed} */
 function addNDBMarker(position, title, use, html) {
   page.collectNdb(position, title, use, html);
 }
 
-/** A waypoint; its usage decides its layer. */
+/** A waypoint; its usage decides its layer. @type {MarkerFeed} */
 function addWPTMarker(position, title, use, html) {
   page.collectWaypoint(position, title, use, html);
 }

@@ -11,15 +11,19 @@
   const pointer = { x: 0, y: 0 };
 
   // The map's events tell a position, but no place on the screen.
-  ['mousedown', 'contextmenu'].forEach(name => document.addEventListener(name, event => {
+  /** @param {MouseEvent} event */
+  const notePointer = event => {
     pointer.x = event.clientX;
     pointer.y = event.clientY;
-  }, true));
+  };
+  document.addEventListener('mousedown', notePointer, true);
+  document.addEventListener('contextmenu', notePointer, true);
 
   page.closeMenu = function () {
     element.hidden = true;
   };
 
+  /** @param {string} text */
   function addTitle(text) {
     const title = document.createElement('div');
     title.className = 'menu-title';
@@ -27,6 +31,7 @@
     element.appendChild(title);
   }
 
+  /** @param {MenuEntry} entry */
   function addEntry(entry) {
     const item = document.createElement('div');
     item.className = 'menu-entry';
@@ -50,7 +55,7 @@
   /**
    * Opens the menu at the mouse; without entries there is none.
    * @param {string} title what the commands are for, as text
-   * @param {Array<{text: string, run: function()}>} entries
+   * @param {MenuEntry[]} entries
    */
   page.openMenu = function (title, entries) {
     page.closeMenu();
@@ -64,7 +69,7 @@
   };
 
   document.addEventListener('mousedown', event => {
-    if (!element.contains(event.target))
+    if (!element.contains(/** @type {Node} */ (event.target)))
       page.closeMenu();
   }, true);
   document.addEventListener('keydown', event => {

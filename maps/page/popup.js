@@ -3,6 +3,7 @@
   'use strict';
 
   const infoWindow = new google.maps.InfoWindow();
+  /** @type {?ChartMarker} */
   let shown = null;
 
   /** What the program's texts are made of. Anything else in them came with a name and is shown as its text. */
@@ -10,12 +11,15 @@
   /** Elements whose inside is no text for a reader. */
   const mute = ['SCRIPT', 'STYLE', 'TITLE', 'TEXTAREA'];
 
-  /** Copies the children of a node, with the allowed elements only, colours being their only attribute. */
+  /**
+   * Copies the children of a node, with the allowed elements only, colours being their only attribute.
+   * @type {(from: Element, to: Element) => void}
+   */
   function copyChildren(from, to) {
     Array.from(from.childNodes).forEach(node => {
       if (node.nodeType === Node.TEXT_NODE) {
         to.appendChild(document.createTextNode(node.nodeValue));
-      } else if (node.nodeType === Node.ELEMENT_NODE && mute.indexOf(node.nodeName) < 0) {
+      } else if (node instanceof Element && mute.indexOf(node.nodeName) < 0) {
         const known = allowed.indexOf(node.nodeName) >= 0;
         const target = known ? to.appendChild(document.createElement(node.nodeName)) : to;
         if (known && node.hasAttribute('color'))
@@ -25,7 +29,7 @@
     });
   }
 
-  /** Reads the text in a document of its own, in which nothing loads and nothing runs. */
+  /** Reads the text in a document of its own, in which nothing loads and nothing runs. @param {string} html */
   function contentOf(html) {
     const reader = document.implementation.createHTMLDocument('');
     reader.body.innerHTML = html;

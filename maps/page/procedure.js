@@ -16,7 +16,10 @@ function clearSS() {
   page.procedure.clear();
 }
 
-/** A point more of the shown procedure. No script ends the list, so each point is drawn as it comes. */
+/**
+ * A point more of the shown procedure. No script ends the list, so each point is drawn as it comes.
+ * @type {(position: Place, name: string) => void}
+ */
 function addPointToSS(position, name) {
   page.procedure.add(position, name);
   page.procedure.draw();

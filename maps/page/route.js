@@ -16,7 +16,7 @@ function clearFP() {
   page.route.clear();
 }
 
-/** The next point of the route; `pushFP` draws them. */
+/** The next point of the route; `pushFP` draws them. @type {(position: Place, name: string) => void} */
 function addPointToFp(position, name) {
   page.route.add(position, name);
 }

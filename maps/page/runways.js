@@ -2,8 +2,10 @@
 (function () {
   'use strict';
 
+  /** @type {google.maps.Polyline[]} */
   let lines = [];
 
+  /** @type {(path: Place[], colour: string, weight: number, zIndex: number) => void} */
   function draw(path, colour, weight, zIndex) {
     lines.push(new google.maps.Polyline({
       path: path,
@@ -37,7 +39,7 @@ function clearRunway() {
   page.clearRunways();
 }
 
-/** One runway from its high end to its low end. */
+/** One runway from its high end to its low end. @type {(highEnd: Place, lowEnd: Place) => void} */
 function drawRwy(highEnd, lowEnd) {
   page.drawRunway(highEnd, lowEnd);
 }

@@ -10,6 +10,8 @@ var mapService = {
   key: '',
   /** Seconds after which the service is given up. */
   wait: 4,
+  /** Runs while the service is awaited. */
+  timer: 0,
 };
 
 (function () {

@@ -4,8 +4,10 @@
 
   const path = 'M 0 -15 L 4 -4 L 11 2 L 11 5 L 3 3 L 2 9 L 5 12 L 5 14 L 0 12.5 '
     + 'L -5 14 L -5 12 L -2 9 L -3 3 L -11 5 L -11 2 L -4 -4 Z';
+  /** @type {?google.maps.Marker} */
   let marker = null;
 
+  /** @param {number} heading degrees */
   function iconFor(heading) {
     return page.symbol(path, '#5b3d00', 1.4, '#f2a900', { rotation: heading });
   }
@@ -36,7 +38,10 @@
   };
 })();
 
-/** Shows the start marker: the place, the aircraft's name, the heading in degrees. */
+/**
+ * Shows the start marker: the place, the aircraft's name, the heading in degrees.
+ * @type {(position: Place, aircraft: string, heading: number) => void}
+ */
 function addSitMarker(position, aircraft, heading) {
   page.setStart(position, aircraft, page.heading(heading));
 }

@@ -11,13 +11,20 @@
   const red = '#b4402a';
 
   // Paths are in pixels around the position, y downwards.
+  /** @typedef {(...numbers: number[]) => string} Shape */
+  /** @typedef {(...points: number[][]) => string} Outline */
+  /** @param {number} value */
   const rounded = value => Number(value.toFixed(2));
+  /** @type {Shape} x, y, radius */
   const circle = (x, y, r) => `M ${x - r} ${y} A ${r} ${r} 0 1 1 ${x + r} ${y} A ${r} ${r} 0 1 1 ${x - r} ${y} Z`;
+  /** @type {Outline} each corner as x, y */
   const polygon = (...corners) => `M ${corners.map(corner => corner.join(' ')).join(' L ')} Z`;
+  /** @type {Shape} half the width, half the height */
   const box = (w, h) => polygon([-w, -h], [w, -h], [w, h], [-w, h]);
+  /** @type {Outline} each line as x, y of its two ends */
   const lines = (...ends) => ends.map(([x1, y1, x2, y2]) => `M ${x1} ${y1} L ${x2} ${y2}`).join(' ');
 
-  /** A ring of small dots, as charts draw a non-directional beacon. */
+  /** A ring of small dots, as charts draw a non-directional beacon. @type {(radius: number, count: number) => string} */
   function dotRing(radius, count) {
     const dots = [];
     for (let i = 0; i < count; ++i) {
@@ -44,7 +51,10 @@
     lines([0, -5.6, 0, -9], [0, 5.6, 0, 9], [-5.6, 0, -9, 0], [5.6, 0, 9, 0], [-3, 3, 3, -3]);
   const star = polygon([0, -7], [1.8, -1.8], [7, 0], [1.8, 1.8], [0, 7], [-1.8, 1.8], [-7, 0], [-1.8, -1.8]);
 
-  /** zIndex: what is rarer and more wanted lies over the rest. */
+  /**
+   * zIndex: what is rarer and more wanted lies over the rest.
+   * @type {Record<string, {path: string, stroke: string, weight: number, fill: string, zIndex: number}>}
+   */
   const designs = {
     airport: { path: aerodrome, stroke: blue, weight: 1.9, fill: white, zIndex: 40 },
     vor: { path: `${hexagon} ${dot}`, stroke: navaidBlue, weight: 1.5, fill: white, zIndex: 30 },
@@ -74,9 +84,13 @@
    * A `google.maps.Symbol`.
    * @param {string} fill a colour; the more options are scale, rotation and fillOpacity
    */
-  page.symbol = (path, stroke, weight, fill, more) => Object.assign(
-    { path: path, strokeColor: stroke, strokeWeight: weight, fillColor: fill, fillOpacity: 1 }, more);
+  page.symbol = function (path, stroke, weight, fill, more) {
+    /** @type {google.maps.Symbol} */
+    const symbol = { path: path, strokeColor: stroke, strokeWeight: weight, fillColor: fill, fillOpacity: 1 };
+    return Object.assign(symbol, more);
+  };
 
+  /** @type {(name: string, size: {scale: number, dot?: number}) => google.maps.Data.StyleOptions} */
   function lookOf(name, size) {
     const design = designs[name];
     const weight = design.weight * Math.sqrt(size.scale);
@@ -87,6 +101,7 @@
   }
 
   const looks = sizes.map(size => {
+    /** @type {Record<string, google.maps.Data.StyleOptions>} */
     const all = {};
     Object.keys(designs).forEach(name => {
       all[name] = lookOf(name, size);
@@ -97,7 +112,7 @@
   /** @return {number} which of the sizes suits a zoom */
   page.symbolSize = zoom => sizes.findIndex(size => zoom >= size.fromZoom);
 
-  /** @return {Object} how a marker is drawn: the same object for all markers of one symbol and size */
+  /** How a marker is drawn: the same object for all markers of one symbol and size. */
   page.symbolLook = (symbol, size) => looks[size][symbol];
 
   const bits = { tacan: 4, dme: 16 };

@@ -3,7 +3,7 @@
   'use strict';
 
   class Track {
-    /** @param {{colour: string, weight: number, zIndex: number, point: Object}} style point is the points' symbol */
+    /** @param {TrackStyle} style */
     constructor(style) {
       this.style = style;
       this.line = new google.maps.Polyline({
@@ -18,6 +18,7 @@
     }
 
     clear() {
+      /** @type {Array<{position: Place, name: string}>} */
       this.waiting = [];
       this.line.setMap(null);
       this.line.setPath([]);
@@ -26,7 +27,10 @@
       this.layer = null;
     }
 
-    /** A point without a place is left out; the line goes on to the next. */
+    /**
+     * A point without a place is left out; the line goes on to the next.
+     * @param {Place} position @param {string} name
+     */
     add(position, name) {
       if (page.isPlace(position))
         this.waiting.push({ position: position, name: String(name) });
@@ -48,7 +52,7 @@
 
     newLayer() {
       const layer = new google.maps.Data();
-      layer.setStyle(feature => ({
+      layer.setStyle(/** @return {google.maps.Data.StyleOptions} */ feature => ({
         icon: this.style.point,
         zIndex: this.style.zIndex,
         clickable: false,

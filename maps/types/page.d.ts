@@ -1,0 +1,157 @@
+/**
+ * What the scripts of the page share, for the type check alone: nothing here is shipped. The types of the map are those
+ * that its maker declares, so that a word that the map service does not know is found before a user finds it.
+ */
+
+type Place = google.maps.LatLng;
+
+/** The words of the page's language; the pages themselves hold them. */
+declare const pageWords: Record<string, string>;
+
+/** What a marker stands for; decides the commands of its menu. */
+type MarkerFamily = 'airport' | 'navaid' | 'waypoint';
+
+/** A marker of the feed. */
+interface ChartMarker {
+  family: MarkerFamily;
+  /** The name of its design. */
+  symbol: string;
+  position: Place;
+  title: string;
+  html: string;
+  getTitle(): string;
+  getPosition(): Place;
+  isSameRow(other: ChartMarker): boolean;
+}
+
+/** Shows and hides the markers of a list. */
+interface MarkerManager {
+  addMarkers(list: ChartMarker[]): void;
+  clearMarkers(): void;
+  addMarker(marker: ChartMarker): void;
+  removeMarker(marker: ChartMarker): void;
+  fit(zoom: number): void;
+}
+
+interface ChartLayer {
+  list: ChartMarker[];
+  /** The manager is made when it is asked for. */
+  manager: () => MarkerManager;
+}
+
+/** A function of the feed; the number is a type or a usage. */
+type MarkerFeed = (position: Place, title: string, number: number, html: string) => void;
+
+/** A command of a menu and the slots of the program that it needs. */
+interface Command<Subject> {
+  /** A key of the page's words. */
+  word: string;
+  slots: string[];
+  wanted?: () => boolean;
+  run: (subject: Subject) => void;
+}
+
+interface MenuEntry {
+  text: string;
+  run: () => void;
+}
+
+interface TrackStyle {
+  colour: string;
+  weight: number;
+  zIndex: number;
+  point: google.maps.Symbol;
+}
+
+interface Track {
+  clear(): void;
+  add(position: Place, name: string): void;
+  draw(): void;
+}
+
+/** What a file of the page offers to the others; the comments stand where it is made. */
+interface Page {
+  offers(slot: string): boolean;
+  call(slot: string, ...values: (string | number)[]): void;
+
+  isPlace(position: Place | null | undefined): boolean;
+  heading(value: number): number;
+
+  distanceTo(from: Place, to: Place): number;
+  courseTo(from: Place, to: Place): number;
+  midPoint(from: Place, to: Place): Place;
+  kilometresOf(miles: number): number;
+
+  symbol(path: string, stroke: string, weight: number, fill: string,
+    more?: Partial<google.maps.Symbol>): google.maps.Symbol;
+  symbolSize(zoom: number): number;
+  symbolLook(symbol: string, size: number): google.maps.Data.StyleOptions;
+  vorSymbol(type: number): string;
+
+  families: Record<MarkerFamily, MarkerFamily>;
+  collect(list: ChartMarker[], family: MarkerFamily, symbol: string, position: Place, title: string,
+    html: string): ChartMarker | null;
+  collectAirport(position: Place, title: string, html: string): ChartMarker | null;
+  collectVor(position: Place, title: string, symbol: string, html: string): ChartMarker | null;
+  collectNdb(position: Place, title: string, use: number, html: string): ChartMarker | null;
+  collectWaypoint(position: Place, title: string, use: number, html: string): ChartMarker | null;
+
+  layers: ChartLayer[];
+  newManager(old?: MarkerManager | null): MarkerManager;
+  listenToLayer(layer: google.maps.Data): void;
+  showEdited(marker: ChartMarker | null): void;
+  removeLast(): void;
+
+  openPopup(marker: ChartMarker): void;
+  closePopup(marker?: ChartMarker): void;
+  openMenu(title: string, entries: MenuEntry[]): void;
+  closeMenu(): void;
+  pointAt(marker: ChartMarker | null): void;
+
+  Track: new (style: TrackStyle) => Track;
+  route: Track;
+  procedure: Track;
+
+  drawRunway(highEnd: Place, lowEnd: Place): void;
+  clearRunways(): void;
+  hasRunways(): boolean;
+
+  openAirway(level: string): void;
+  addToAirway(position: Place): void;
+  showAirways(level: string, on: boolean): void;
+
+  setStart(position: Place, aircraft: string, heading: number): void;
+  showAircraft(position: Place, title: string, heading: number): void;
+  moveAircraft(position: Place, heading: number): void;
+  eraseAircraft(): void;
+}
+
+interface Window {
+  /** The program; absent in a browser. */
+  mainWindow?: Record<string, (...values: (string | number)[]) => void>;
+  loadMapService(): void;
+  settleMapService(): void;
+}
+
+/** Writes the map engine into the page. */
+declare function loadMapEngine(): void;
+
+// The map service leaves open what a feature's properties are and what a listener is given.
+declare namespace google.maps {
+  interface Map {
+    addListener(event: 'click' | 'rightclick' | 'mousemove' | 'mouseout',
+      handler: (event: google.maps.MapMouseEvent) => void): google.maps.MapsEventListener;
+  }
+
+  interface Data {
+    addListener(event: 'click' | 'rightclick' | 'mouseover' | 'mouseout' | 'mousemove',
+      handler: (event: google.maps.Data.MouseEvent) => void): google.maps.MapsEventListener;
+  }
+}
+
+declare namespace google.maps.Data {
+  interface Feature {
+    getProperty(name: 'marker'): ChartMarker;
+    getProperty(name: 'name'): string;
+  }
+}
