@@ -48,7 +48,10 @@ function addToATS(position) {
   page.addToAirway(position);
 }
 
-/** Shows (1) or hides (0) the routes of a level, those that come later too. @type {(level: string, on: number) => void} */
+/**
+ * Shows (1) or hides (0) the routes of a level, those that come later too.
+ * @type {(level: string, on: number) => void}
+ */
 function showATS(level, on) {
   page.showAirways(level, !!on);
 }

@@ -32,6 +32,7 @@
 (function () {
   'use strict';
 
+  /** @type {Record<string, Palette>} */
   const palettes = {
     day: {
       name: 'day',
@@ -123,6 +124,7 @@
     },
   };
 
+  /** @type {Array<(palette: Palette) => void>} */
   const listeners = [];
 
   /** The colours that hold now. */

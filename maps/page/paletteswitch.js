@@ -27,7 +27,10 @@
   button.addEventListener('click', () => page.setPalette(offers[page.palette.name].next));
   map.controls[google.maps.ControlPosition.TOP_RIGHT].push(button);
 
-  /** In the map service's own words for the things of a map. */
+  /**
+   * In the map service's own words for the things of a map.
+   * @type {(palette: Palette) => google.maps.MapTypeStyle[]}
+   */
   const stylesOf = palette => [
     { featureType: 'water', elementType: 'geometry.fill', stylers: [{ color: palette.sea }] },
     { featureType: 'water', elementType: 'geometry.stroke', stylers: [{ color: palette.coast }] },

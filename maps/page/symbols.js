@@ -24,7 +24,10 @@
   /** @type {Outline} each line as x, y of its two ends */
   const lines = (...ends) => ends.map(([x1, y1, x2, y2]) => `M ${x1} ${y1} L ${x2} ${y2}`).join(' ');
 
-  /** A ring of small dots, as charts draw a non-directional beacon. @type {(radius: number, count: number) => string} */
+  /**
+   * A ring of small dots, as charts draw a non-directional beacon.
+   * @type {(radius: number, count: number) => string}
+   */
   function dotRing(radius, count) {
     const dots = [];
     for (let i = 0; i < count; ++i) {

@@ -69,6 +69,16 @@ interface Track {
   draw(): void;
 }
 
+/** What the palettes colour; the table stands in palette.js. */
+type Colour = 'sea' | 'land' | 'coast' | 'border' | 'river' | 'town' | 'seaText' | 'placeText' | 'countryText'
+    | 'placeRim' | 'airport' | 'airportFill' | 'navaid' | 'navaidFill' | 'ndb' | 'waypoint' | 'waypointFill'
+    | 'waypointTerminal' | 'waypointVfr' | 'waypointVfrFill' | 'label' | 'labelRim' | 'highlight' | 'route'
+    | 'routeFill' | 'procedure' | 'procedureFill' | 'airwayLow' | 'airwayHigh' | 'airwayBoth' | 'airwayOther'
+    | 'runway' | 'runwayCentre' | 'start' | 'startEdge' | 'aircraft' | 'aircraftEdge' | 'trail' | 'measure'
+    | 'measureText' | 'measureFill';
+
+type Palette = Record<Colour, string> & { name: 'day' | 'night' };
+
 /** What a file of the page offers to the others; the comments stand where it is made. */
 interface Page {
   offers(slot: string): boolean;
@@ -81,6 +91,10 @@ interface Page {
   courseTo(from: Place, to: Place): number;
   midPoint(from: Place, to: Place): Place;
   kilometresOf(miles: number): number;
+
+  palette: Palette;
+  onPalette(listener: (palette: Palette) => void): void;
+  setPalette(name: string): void;
 
   symbol(path: string, stroke: string, weight: number, fill: string,
     more?: Partial<google.maps.Symbol>): google.maps.Symbol;
