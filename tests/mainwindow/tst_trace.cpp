@@ -1,11 +1,7 @@
-// The simulator's aircraft on the map, against processes that write the shared block as the simulator does.
-#include "blockpeer.h"
-#include "boxresponder.h"
+// The simulator's aircraft on the map: the two buttons, the ticks and what they send, tick by tick.
 #include "messagelog.h"
-#include "sandbox.h"
-#include "windowsession.h"
+#include "tracewindow.h"
 
-#include "cnavglobalvar.h"
 #include "mainwindow.h"
 
 #include <QDir>
@@ -15,8 +11,8 @@
 
 namespace {
 
-constexpr int never = 24 * 3600 * 1000; // milliseconds
-constexpr int patience = 20000;         // milliseconds
+constexpr int aDay = 24 * 3600 * 1000; // milliseconds
+constexpr int patience = 20000;        // milliseconds
 const QString boxTitle = "Trajectoire avion";
 const QString boxText = "Impossible de se connecter à Aeo!Zephan.\nAssurez vous de l'avoir démarré.";
 
@@ -45,9 +41,6 @@ private slots:
     void aRefusedBlockIsToldAndLeavesTheButtonChecked();
     void theClickAfterAFailureSwitchesOff();
     void afterAFailureTheNextTraceWorks();
-    void aSimulatorStartedBeforeTheTraceIsSeen();
-    void aSimulatorStartedAfterTheTraceIsSeen();
-    void aKilledSimulatorLeavesTheMarkerAndItsSuccessorMovesIt();
     void numbersThatAreNoneLeaveTheMarkerWhereItWas();
     void numbersOfAnySizeDoNoHarm();
     void aTraceBeforeThePageIsThereDoesNoHarm();
@@ -55,89 +48,41 @@ private slots:
     void theWindowMayEndWithATraceOn();
 
 private:
-    PageProbe& page()
-    {
-        return session->page();
-    }
-    QPushButton* traceButton()
-    {
-        return session->find<QPushButton>("pbTraceAcft");
-    }
-    QPushButton* centreButton()
-    {
-        return session->find<QPushButton>("pbCenterAcft");
-    }
-    /// A click on the button, and the calls that it made.
-    QStringList clickTrace()
-    {
-        page().clear();
-        traceButton()->click();
-        return page().calls();
-    }
-    /// One tick, with the timer's own far away; and the calls that it made.
-    QStringList tick()
-    {
-        page().clear();
-        if (!QMetaObject::invokeMethod(&session->window(), "sTraceAircraft", Qt::DirectConnection))
-            return {"no slot"};
-        return page().calls();
-    }
-    void setInterval(int milliseconds)
-    {
-        CNavGlobalVar::instance()->traceInterval = milliseconds;
-    }
-    bool markerComesTo(const QString& place, const QString& heading)
-    {
-        const QString call = QString("setAcftMrkr(LatLng(%1),%2)").arg(place, heading);
-        return QTest::qWaitFor([this, call] { return page().calls("setAcftMrkr").contains(call); }, patience);
-    }
-
-    QScopedPointer<NoBlock> noBlock;
-    QScopedPointer<BoxResponder> boxes;
-    QScopedPointer<Sandbox> sandbox;
-    QScopedPointer<WindowSession> session;
+    QScopedPointer<TraceWindow> trace;
 };
 
 void TestTrace::init()
 {
-    noBlock.reset(new NoBlock);
-    boxes.reset(new BoxResponder);
-    sandbox.reset(new Sandbox);
-    session.reset(new WindowSession);
-    QVERIFY(session->load());
-    setInterval(never);
+    trace.reset(new TraceWindow);
 }
 
 void TestTrace::cleanup()
 {
-    session.reset();
-    sandbox.reset();
-    boxes.reset();
-    noBlock.reset();
+    trace.reset();
 }
 
 void TestTrace::offBeforeAnyTraceDoesNothing()
 {
     MessageLog log;
-    page().clear();
-    QVERIFY(QMetaObject::invokeMethod(&session->window(), "on_pbTraceAcft_clicked", Q_ARG(bool, false)));
-    QCOMPARE(page().calls(), QStringList());
+    trace->page().clear();
+    QVERIFY(QMetaObject::invokeMethod(&trace->session->window(), "on_pbTraceAcft_clicked", Q_ARG(bool, false)));
+    QCOMPARE(trace->page().calls(), QStringList());
     QCOMPARE(log.messages(), QStringList());
 }
 
 void TestTrace::aTickBeforeAnyTraceDoesNothing()
 {
-    QCOMPARE(tick(), QStringList());
+    QCOMPARE(trace->tick(), QStringList());
 }
 
 void TestTrace::withNoSimulatorTheMarkerSitsAtZero()
 {
     MessageLog log;
-    QCOMPARE(clickTrace(), QStringList{"addAcftMrkr(LatLng(0,0),\"\",0)"});
+    QCOMPARE(trace->clickTrace(), QStringList{"addAcftMrkr(LatLng(0,0),\"\",0)"});
     QCOMPARE(log.messages(), (QStringList{"", "NAVIGATION: Connect", "Trace is ON"}));
-    QVERIFY(traceButton()->isChecked());
-    QCOMPARE(boxes->seen().size(), 0);
-    QCOMPARE(tick(), QStringList{"setAcftMrkr(LatLng(0,0),0)"});
+    QVERIFY(trace->traceButton()->isChecked());
+    QCOMPARE(trace->boxes.seen().size(), 0);
+    QCOMPARE(trace->tick(), QStringList{"setAcftMrkr(LatLng(0,0),0)"});
 }
 
 void TestTrace::theFirstPositionIsTheSimulators()
@@ -145,37 +90,37 @@ void TestTrace::theFirstPositionIsTheSimulators()
     BlockPeer simulator;
     QVERIFY(simulator.publish("175411", "8494", "271.123456"));
     // Five decimals of a degree, six digits of the heading.
-    QCOMPARE(clickTrace(), QStringList{"addAcftMrkr(LatLng(48.72528,2.35944),\"\",271.123)"});
+    QCOMPARE(trace->clickTrace(), QStringList{"addAcftMrkr(LatLng(48.72528,2.35944),\"\",271.123)"});
 }
 
 void TestTrace::eachTickMovesTheMarker()
 {
     BlockPeer simulator;
-    clickTrace();
+    trace->clickTrace();
     QVERIFY(simulator.publish("175411", "8494", "271.5"));
-    QCOMPARE(tick(), QStringList{"setAcftMrkr(LatLng(48.72528,2.35944),271.5)"});
+    QCOMPARE(trace->tick(), QStringList{"setAcftMrkr(LatLng(48.72528,2.35944),271.5)"});
     QVERIFY(simulator.publish("-1800", "-3600", "-0.25"));
-    QCOMPARE(tick(), QStringList{"setAcftMrkr(LatLng(-0.5,-1),-0.25)"});
+    QCOMPARE(trace->tick(), QStringList{"setAcftMrkr(LatLng(-0.5,-1),-0.25)"});
 }
 
 void TestTrace::theTimerOfTheSettingsTicks()
 {
-    setInterval(2);
+    trace->setInterval(2);
     BlockPeer simulator;
-    clickTrace();
+    trace->clickTrace();
     QVERIFY(simulator.publish("3600", "7200", "10"));
-    QVERIFY(markerComesTo("1,2", "10"));
+    QVERIFY(trace->markerComesTo("1,2", "10"));
     QVERIFY(simulator.publish("3600", "10800", "20"));
-    QVERIFY(markerComesTo("1,3", "20"));
-    QCOMPARE(page().calls("addAcftMrkr"), QStringList{"addAcftMrkr(LatLng(0,0),\"\",0)"});
-    QCOMPARE(page().calls("map.setCenter"), QStringList());
+    QVERIFY(trace->markerComesTo("1,3", "20"));
+    QCOMPARE(trace->page().calls("addAcftMrkr"), QStringList{"addAcftMrkr(LatLng(0,0),\"\",0)"});
+    QCOMPARE(trace->page().calls("map.setCenter"), QStringList());
 }
 
 void TestTrace::aLongIntervalOfTheSettingsIsKept()
 {
-    clickTrace();
+    trace->clickTrace();
     QTest::qWait(50);
-    QCOMPARE(page().calls("setAcftMrkr"), QStringList());
+    QCOMPARE(trace->page().calls("setAcftMrkr"), QStringList());
 }
 
 void TestTrace::theLongitudeIsNotWrapped_data()
@@ -194,242 +139,197 @@ void TestTrace::theLongitudeIsNotWrapped()
 {
     QFETCH(QString, lonS);
     QFETCH(QString, script);
-    page().evaluate(
+    trace->page().evaluate(
         "var given = [], made = google.maps.LatLng;"
         "google.maps.LatLng = function (lat, lon) { given.push(lat + ' ' + lon); return new made(lat, lon); };");
     BlockPeer simulator;
     QVERIFY(simulator.publish("3600", lonS, "0"));
     const QString place = "1 " + script;
-    page().evaluate("given = []");
-    clickTrace();
-    QCOMPARE(page().evaluate("given[0]").toString(), place);
-    page().evaluate("given = []");
-    tick();
-    QCOMPARE(page().evaluate("given[0]").toString(), place);
-    centreButton()->click();
-    page().evaluate("given = []");
-    tick();
-    QCOMPARE(page().evaluate("given[0] + ' ' + given[1]").toString(), place + " " + place);
+    trace->page().evaluate("given = []");
+    trace->clickTrace();
+    QCOMPARE(trace->page().evaluate("given[0]").toString(), place);
+    trace->page().evaluate("given = []");
+    trace->tick();
+    QCOMPARE(trace->page().evaluate("given[0]").toString(), place);
+    trace->centreButton()->click();
+    trace->page().evaluate("given = []");
+    trace->tick();
+    QCOMPARE(trace->page().evaluate("given[0] + ' ' + given[1]").toString(), place + " " + place);
 }
 
 void TestTrace::theMapFollowsWhileTheButtonIsChecked()
 {
     BlockPeer simulator;
     QVERIFY(simulator.publish("36000", "7200", "10"));
-    clickTrace();
-    page().clear();
-    centreButton()->click();
-    QCOMPARE(page().calls(), QStringList());
-    QCOMPARE(tick().mid(0, 2), (QStringList{"setAcftMrkr(LatLng(10,2),10)", "map.setCenter(LatLng(10,2))"}));
+    trace->clickTrace();
+    trace->page().clear();
+    trace->centreButton()->click();
+    QCOMPARE(trace->page().calls(), QStringList());
+    QCOMPARE(trace->tick().mid(0, 2), (QStringList{"setAcftMrkr(LatLng(10,2),10)", "map.setCenter(LatLng(10,2))"}));
     QVERIFY(simulator.publish("39600", "10800", "20"));
-    QCOMPARE(tick().mid(0, 2), (QStringList{"setAcftMrkr(LatLng(11,3),20)", "map.setCenter(LatLng(11,3))"}));
-    QCOMPARE(page().evaluate("map.getCenter().lat() + ' ' + map.getCenter().lng()").toString(), QString("11 3"));
-    centreButton()->click();
+    QCOMPARE(trace->tick().mid(0, 2), (QStringList{"setAcftMrkr(LatLng(11,3),20)", "map.setCenter(LatLng(11,3))"}));
+    QCOMPARE(trace->mapCentre(), QString("11 3"));
+    trace->centreButton()->click();
     QVERIFY(simulator.publish("43200", "14400", "30"));
-    QCOMPARE(tick(), QStringList{"setAcftMrkr(LatLng(12,4),30)"});
-    QCOMPARE(page().evaluate("map.getCenter().lat() + ' ' + map.getCenter().lng()").toString(), QString("11 3"));
+    QCOMPARE(trace->tick(), QStringList{"setAcftMrkr(LatLng(12,4),30)"});
+    QCOMPARE(trace->mapCentre(), QString("11 3"));
 }
 
 void TestTrace::followingDoesNothingWithoutATrace()
 {
-    page().clear();
-    centreButton()->click();
-    QCOMPARE(tick(), QStringList());
-    clickTrace();
-    QCOMPARE(clickTrace(), QStringList{"eraseAcftMrkr()"});
-    QCOMPARE(tick(), QStringList());
+    trace->page().clear();
+    trace->centreButton()->click();
+    QCOMPARE(trace->tick(), QStringList());
+    trace->clickTrace();
+    QCOMPARE(trace->clickTrace(), QStringList{"eraseAcftMrkr()"});
+    QCOMPARE(trace->tick(), QStringList());
 }
 
 void TestTrace::switchingOffErasesTheMarkerAndEndsTheTicks()
 {
-    setInterval(1);
-    clickTrace();
-    QTRY_VERIFY_WITH_TIMEOUT(!page().calls("setAcftMrkr").isEmpty(), patience);
+    trace->setInterval(1);
+    trace->clickTrace();
+    QTRY_VERIFY_WITH_TIMEOUT(!trace->page().calls("setAcftMrkr").isEmpty(), patience);
     MessageLog log;
-    QCOMPARE(clickTrace(), QStringList{"eraseAcftMrkr()"});
+    QCOMPARE(trace->clickTrace(), QStringList{"eraseAcftMrkr()"});
     QCOMPARE(log.messages(), (QStringList{"NAVIGATION: Disconnect", "Trace is OFF"}));
-    QVERIFY(!traceButton()->isChecked());
+    QVERIFY(!trace->traceButton()->isChecked());
     QTest::qWait(50);
-    QCOMPARE(page().calls(), QStringList{"eraseAcftMrkr()"});
+    QCOMPARE(trace->page().calls(), QStringList{"eraseAcftMrkr()"});
     // The block is the simulator's as much as ours.
     QVERIFY(QFileInfo::exists(NoBlock::path()));
 }
 
 void TestTrace::twoTracesInARow()
 {
-    setInterval(1);
+    trace->setInterval(1);
     BlockPeer simulator;
     QVERIFY(simulator.publish("3600", "7200", "10"));
-    clickTrace();
-    QVERIFY(markerComesTo("1,2", "10"));
-    clickTrace();
-    setInterval(never);
+    trace->clickTrace();
+    QVERIFY(trace->markerComesTo("1,2", "10"));
+    trace->clickTrace();
+    trace->setInterval(aDay);
     QVERIFY(simulator.publish("7200", "7200", "10"));
-    QCOMPARE(clickTrace(), QStringList{"addAcftMrkr(LatLng(2,2),\"\",10)"});
+    QCOMPARE(trace->clickTrace(), QStringList{"addAcftMrkr(LatLng(2,2),\"\",10)"});
     // The first trace's timer is dead.
     QTest::qWait(50);
-    QCOMPARE(page().calls("setAcftMrkr"), QStringList());
+    QCOMPARE(trace->page().calls("setAcftMrkr"), QStringList());
     QVERIFY(simulator.publish("10800", "7200", "10"));
-    QCOMPARE(tick(), QStringList{"setAcftMrkr(LatLng(3,2),10)"});
-    QCOMPARE(clickTrace(), QStringList{"eraseAcftMrkr()"});
+    QCOMPARE(trace->tick(), QStringList{"setAcftMrkr(LatLng(3,2),10)"});
+    QCOMPARE(trace->clickTrace(), QStringList{"eraseAcftMrkr()"});
 }
 
 void TestTrace::aRefusedBlockIsToldAndLeavesTheButtonChecked()
 {
     QVERIFY(QDir().mkdir(NoBlock::path()));
-    boxes->expectMessage(boxTitle, boxText);
+    trace->boxes.expectMessage(boxTitle, boxText);
     MessageLog log;
-    QCOMPARE(clickTrace(), QStringList());
+    QCOMPARE(trace->clickTrace(), QStringList());
     QCOMPARE(log.messages(QtDebugMsg),
              (QStringList{"Error CreateFileMapping", "Trace failed", "NAVIGATION: Disconnect"}));
-    QVERIFY(traceButton()->isChecked());
-    QCOMPARE(boxes->seen().size(), 1);
-    QCOMPARE(boxes->seen().at(0).icon, QMessageBox::Warning);
-    QCOMPARE(boxes->seen().at(0).choices, QStringList{"OK"});
-    QCOMPARE(boxes->seen().at(0).parentClass, QString("MainWindow"));
-    QCOMPARE(tick(), QStringList());
+    QVERIFY(trace->traceButton()->isChecked());
+    QCOMPARE(trace->boxes.seen().size(), 1);
+    QCOMPARE(trace->boxes.seen().at(0).icon, QMessageBox::Warning);
+    QCOMPARE(trace->boxes.seen().at(0).choices, QStringList{"OK"});
+    QCOMPARE(trace->boxes.seen().at(0).parentClass, QString("MainWindow"));
+    QCOMPARE(trace->tick(), QStringList());
 }
 
 void TestTrace::theClickAfterAFailureSwitchesOff()
 {
     QVERIFY(QDir().mkdir(NoBlock::path()));
-    boxes->expectMessage(boxTitle, boxText);
-    clickTrace();
+    trace->boxes.expectMessage(boxTitle, boxText);
+    trace->clickTrace();
     MessageLog log;
-    QCOMPARE(clickTrace(), QStringList{"eraseAcftMrkr()"});
+    QCOMPARE(trace->clickTrace(), QStringList{"eraseAcftMrkr()"});
     QCOMPARE(log.messages(), (QStringList{"NAVIGATION: Disconnect", "Trace is OFF"}));
-    QVERIFY(!traceButton()->isChecked());
-    QCOMPARE(boxes->seen().size(), 1);
+    QVERIFY(!trace->traceButton()->isChecked());
+    QCOMPARE(trace->boxes.seen().size(), 1);
 }
 
 void TestTrace::afterAFailureTheNextTraceWorks()
 {
     QVERIFY(QDir().mkdir(NoBlock::path()));
-    boxes->expectMessage(boxTitle, boxText);
-    clickTrace();
-    clickTrace();
+    trace->boxes.expectMessage(boxTitle, boxText);
+    trace->clickTrace();
+    trace->clickTrace();
     NoBlock::remove();
     BlockPeer simulator;
     QVERIFY(simulator.publish("3600", "7200", "10"));
-    QCOMPARE(clickTrace(), QStringList{"addAcftMrkr(LatLng(1,2),\"\",10)"});
-    QVERIFY(traceButton()->isChecked());
-}
-
-void TestTrace::aSimulatorStartedBeforeTheTraceIsSeen()
-{
-    setInterval(2);
-    BlockPeer simulator;
-    QVERIFY(simulator.publish("3600", "7200", "10"));
-    QCOMPARE(clickTrace().mid(0, 1), QStringList{"addAcftMrkr(LatLng(1,2),\"\",10)"});
-    QVERIFY(simulator.publish("7200", "7200", "20"));
-    QVERIFY(markerComesTo("2,2", "20"));
-}
-
-void TestTrace::aSimulatorStartedAfterTheTraceIsSeen()
-{
-    setInterval(2);
-    clickTrace();
-    QVERIFY(markerComesTo("0,0", "0"));
-    BlockPeer simulator;
-    QVERIFY(simulator.publish("3600", "7200", "10"));
-    QVERIFY(markerComesTo("1,2", "10"));
-    QCOMPARE(boxes->seen().size(), 0);
-}
-
-void TestTrace::aKilledSimulatorLeavesTheMarkerAndItsSuccessorMovesIt()
-{
-    setInterval(2);
-    BlockPeer simulator;
-    clickTrace();
-    QVERIFY(simulator.publish("3600", "7200", "10"));
-    QVERIFY(markerComesTo("1,2", "10"));
-    simulator.kill();
-    page().clear();
-    // Ticks go on, at the last values, and nobody is told.
-    QTRY_VERIFY_WITH_TIMEOUT(page().calls("setAcftMrkr").size() >= 3, patience);
-    QStringList places = page().calls("setAcftMrkr");
-    places.removeDuplicates();
-    QCOMPARE(places, QStringList{"setAcftMrkr(LatLng(1,2),10)"});
-    QVERIFY(simulator.publish("7200", "7200", "20"));
-    QVERIFY(markerComesTo("2,2", "20"));
-    QCOMPARE(boxes->seen().size(), 0);
-    QVERIFY(traceButton()->isChecked());
+    QCOMPARE(trace->clickTrace(), QStringList{"addAcftMrkr(LatLng(1,2),\"\",10)"});
+    QVERIFY(trace->traceButton()->isChecked());
 }
 
 void TestTrace::numbersThatAreNoneLeaveTheMarkerWhereItWas()
 {
     BlockPeer simulator;
     QVERIFY(simulator.publish("nan", "-inf", "nan"));
-    QCOMPARE(clickTrace(), QStringList{"addAcftMrkr(LatLng(NaN,NaN),\"\",NaN)"});
+    QCOMPARE(trace->clickTrace(), QStringList{"addAcftMrkr(LatLng(NaN,NaN),\"\",NaN)"});
     QVERIFY(simulator.publish("169200", "7200", "10"));
-    centreButton()->click();
-    tick();
+    trace->centreButton()->click();
+    trace->tick();
     const QStringList numbers[] = {{"nan", "7200", "0"}, {"3600", "inf", "0"}, {"-nan", "-nan", "-inf"}};
     for (const QStringList& record : numbers) {
         QVERIFY(simulator.publish(record.at(0), record.at(1), record.at(2)));
-        QCOMPARE(tick().filter("setAcftMrkr").size(), 1);
+        QCOMPARE(trace->tick().filter("setAcftMrkr").size(), 1);
         // The map stays where the last true position had put it.
-        QCOMPARE(page().evaluate("map.getCenter().lat() + ' ' + map.getCenter().lng()").toString(), QString("47 2"));
+        QCOMPARE(trace->mapCentre(), QString("47 2"));
     }
     QVERIFY(simulator.publish("172800", "7200", "10"));
-    tick();
-    QCOMPARE(page().evaluate("map.getCenter().lat() + ' ' + map.getCenter().lng()").toString(), QString("48 2"));
-    QCOMPARE(page().evaluate("document.querySelectorAll('.chart-marker').length").toInt(), 1);
+    trace->tick();
+    QCOMPARE(trace->mapCentre(), QString("48 2"));
+    QCOMPARE(trace->page().evaluate("document.querySelectorAll('.chart-marker').length").toInt(), 1);
 }
 
 void TestTrace::numbersOfAnySizeDoNoHarm()
 {
     BlockPeer simulator;
-    centreButton()->click();
+    trace->centreButton()->click();
     QVERIFY(simulator.publish("1e308", "-1e308", "1e300"));
-    clickTrace();
-    QCOMPARE(tick().filter("setAcftMrkr").size(), 1);
+    trace->clickTrace();
+    QCOMPARE(trace->tick().filter("setAcftMrkr").size(), 1);
     QVERIFY(simulator.publish("5e-324", "1e18", "-1e-300"));
-    QCOMPARE(tick().filter("setAcftMrkr").size(), 1);
+    QCOMPARE(trace->tick().filter("setAcftMrkr").size(), 1);
     QVERIFY(simulator.publish("172800", "7200", "10"));
-    QVERIFY(tick().contains("setAcftMrkr(LatLng(48,2),10)"));
-    QCOMPARE(page().evaluate("map.getCenter().lat() + ' ' + map.getCenter().lng()").toString(), QString("48 2"));
+    QVERIFY(trace->tick().contains("setAcftMrkr(LatLng(48,2),10)"));
+    QCOMPARE(trace->mapCentre(), QString("48 2"));
 }
 
 void TestTrace::aTraceBeforeThePageIsThereDoesNoHarm()
 {
-    session.reset();
-    session.reset(new WindowSession);
-    setInterval(1);
-    traceButton()->click();
-    QVERIFY(session->load());
-    QVERIFY(traceButton()->isChecked());
+    trace->session.reset();
+    trace->session.reset(new WindowSession);
+    trace->setInterval(1);
+    trace->traceButton()->click();
+    QVERIFY(trace->session->load());
+    QVERIFY(trace->traceButton()->isChecked());
     // There was no page to put the marker on; the next trace brings it.
-    traceButton()->click();
-    QVERIFY(clickTrace().contains("addAcftMrkr(LatLng(0,0),\"\",0)"));
+    trace->traceButton()->click();
+    QVERIFY(trace->clickTrace().contains("addAcftMrkr(LatLng(0,0),\"\",0)"));
 }
 
 void TestTrace::theTraceGoesOnInAClosedWindow()
 {
-    setInterval(2);
+    trace->setInterval(2);
     BlockPeer simulator;
-    clickTrace();
-    session->window().close();
-    QVERIFY(!session->window().isVisible());
+    trace->clickTrace();
+    trace->session->window().close();
+    QVERIFY(!trace->session->window().isVisible());
     QVERIFY(simulator.publish("3600", "7200", "10"));
-    QVERIFY(markerComesTo("1,2", "10"));
+    QVERIFY(trace->markerComesTo("1,2", "10"));
 }
 
 void TestTrace::theWindowMayEndWithATraceOn()
 {
-    setInterval(1);
-    clickTrace();
-    QTRY_VERIFY_WITH_TIMEOUT(!page().calls("setAcftMrkr").isEmpty(), patience);
-    session->close();
+    trace->setInterval(1);
+    trace->clickTrace();
+    QTRY_VERIFY_WITH_TIMEOUT(!trace->page().calls("setAcftMrkr").isEmpty(), patience);
+    trace->session->close();
     // The timer ticks on for nobody.
     QTest::qWait(50);
-    session.reset();
-    sandbox.reset();
-    sandbox.reset(new Sandbox);
-    session.reset(new WindowSession);
-    QVERIFY(session->load());
-    setInterval(never);
-    QCOMPARE(clickTrace(), QStringList{"addAcftMrkr(LatLng(0,0),\"\",0)"});
+    trace.reset();
+    trace.reset(new TraceWindow);
+    QCOMPARE(trace->clickTrace(), QStringList{"addAcftMrkr(LatLng(0,0),\"\",0)"});
 }
 
 QTEST_MAIN(TestTrace)
