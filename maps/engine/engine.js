@@ -31,6 +31,7 @@ function loadMapEngine() {
     'maps/engine/data.js',
     'maps/engine/polyline.js',
     'maps/engine/marker.js',
+    'maps/engine/overlay.js',
     'maps/engine/infowindow.js',
   ];
   // The program's web view reports touch without having it; Leaflet would wait for fingers.

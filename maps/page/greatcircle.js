@@ -69,5 +69,35 @@
     return new google.maps.LatLng(Math.atan2(z, Math.hypot(x, y)) / radians, longitude);
   };
 
+  /**
+   * A point on the great circle between two points, at a part of the way (0 the first point, 1 the second). Between
+   * opposite points, which have no one great circle, it is one of the two.
+   */
+  page.pointAlong = function (from, to, part) {
+    const arc = page.distanceTo(from, to) / milesPerDegree * radians;
+    const sine = Math.sin(arc);
+    if (sine < 1e-12)
+      return part < 0.5 ? from : to;
+    const angles = anglesOf(from, to);
+    const p = Math.sin((1 - part) * arc) / sine;
+    const q = Math.sin(part * arc) / sine;
+    const x = p * Math.cos(angles.from) + q * Math.cos(angles.to) * Math.cos(angles.turn);
+    const y = q * Math.cos(angles.to) * Math.sin(angles.turn);
+    const z = p * Math.sin(angles.from) + q * Math.sin(angles.to);
+    const longitude = from.lng() + Math.atan2(y, x) / radians;
+    return new google.maps.LatLng(Math.atan2(z, Math.hypot(x, y)) / radians, longitude);
+  };
+
+  /**
+   * Which part of the way on a great circle comes nearest to a third point: below 0 before the first point, above 1
+   * behind the second (the along-track distance: tan a = cos of the angle between the courses times tan of the way).
+   */
+  page.partAlong = function (from, to, point) {
+    const way = page.distanceTo(from, point) / milesPerDegree * radians;
+    const angle = (page.courseTo(from, point) - page.courseTo(from, to)) * radians;
+    const along = Math.atan2(Math.cos(angle) * Math.sin(way), Math.cos(way)) / radians * milesPerDegree;
+    return along / page.distanceTo(from, to);
+  };
+
   page.kilometresOf = miles => miles * kilometresPerMile;
 })();

@@ -1,13 +1,30 @@
 /** The SID or STAR that the user looks at. */
 (function () {
   'use strict';
-  const colour = '#00796b';
+
+  /** Dashes and, farther apart, arrows. Their paths point upwards, which is the way of the line. */
+  const dash = colour => ({ path: 'M 0 -5 L 0 5', strokeColor: colour, strokeOpacity: 1, strokeWeight: 2.5 });
+  const arrow = colour => ({
+    path: 'M 0 -7 L 4.5 4 L 0 1.5 L -4.5 4 Z',
+    strokeWeight: 0,
+    fillColor: colour,
+    fillOpacity: 1,
+  });
 
   page.procedure = new page.Track({
-    colour: colour,
-    weight: 2.5,
+    colours: ['procedure', 'procedureFill'],
     zIndex: 55,
-    point: page.symbol('M -3.5 -3.5 L 3.5 -3.5 L 3.5 3.5 L -3.5 3.5 Z', colour, 1.6, '#ffffff'),
+    point: { path: 'M -3.5 -3.5 L 3.5 -3.5 L 3.5 3.5 L -3.5 3.5 Z', weight: 1.6 },
+    lines: (colour, fill) => [
+      { strokeColor: fill, strokeOpacity: 0.8, strokeWeight: 5.5 },
+      {
+        strokeOpacity: 0,
+        icons: [
+          { icon: dash(colour), offset: '8px', repeat: '15px' },
+          { icon: arrow(colour), offset: '38px', repeat: '120px' },
+        ],
+      },
+    ],
   });
 })();
 

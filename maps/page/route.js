@@ -1,13 +1,16 @@
 /** The plan's route. */
 (function () {
   'use strict';
-  const colour = '#c2185b';
 
   page.route = new page.Track({
-    colour: colour,
-    weight: 3,
+    colours: ['route', 'routeFill'],
     zIndex: 60,
-    point: page.symbol('M -4 0 A 4 4 0 1 1 4 0 A 4 4 0 1 1 -4 0 Z', colour, 2, '#ffffff'),
+    point: { path: 'M -4 0 A 4 4 0 1 1 4 0 A 4 4 0 1 1 -4 0 Z', weight: 2 },
+    legs: true,
+    lines: (colour, fill) => [
+      { strokeColor: fill, strokeOpacity: 0.8, strokeWeight: 6 },
+      { strokeColor: colour, strokeOpacity: 1, strokeWeight: 3 },
+    ],
   });
 })();
 

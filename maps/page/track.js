@@ -3,62 +3,85 @@
   'use strict';
 
   class Track {
-    /** @param {TrackStyle} style */
+    /**
+     * @param {{colours: Array<string>, lines: Array<Object>, zIndex: number, point: Object, legs: boolean}} style
+     *     colours: the palette's names of the line's colour and of what lies inside its points;
+     *     lines: a function from these two colours to the options of a polyline for each that lies over the one before;
+     *     point: path and weight of the points' symbol; legs: whether the legs have their course and distance
+     */
     constructor(style) {
       this.style = style;
-      this.line = new google.maps.Polyline({
-        strokeColor: style.colour,
-        strokeWeight: style.weight,
-        strokeOpacity: 1,
-        geodesic: true,
-        clickable: false,
-        zIndex: style.zIndex,
-      });
-      this.clear();
+      this.points = [];
+      this.drawn = 0;
+      this.lines = [];
+      this.layer = null;
+      this.legs = style.legs ? new page.LegTexts(() => ({ text: this.colour, rim: page.palette.labelRim })) : null;
+      page.onPalette(palette => this.dress(palette));
+    }
+
+    /** Takes the colours of a palette. */
+    dress(palette) {
+      this.colour = palette[this.style.colours[0]];
+      this.fill = palette[this.style.colours[1]];
+      this.point = page.symbol(this.style.point.path, this.colour, this.style.point.weight, this.fill);
+      this.options = this.style.lines(this.colour, this.fill);
+      this.lines.forEach((line, i) => line.setOptions(this.options[i]));
+      if (this.layer)
+        this.layer.setStyle(feature => this.look(feature));
+      if (this.legs)
+        this.legs.refresh();
     }
 
     clear() {
-      /** @type {Array<{position: Place, name: string}>} */
-      this.waiting = [];
-      this.line.setMap(null);
-      this.line.setPath([]);
+      this.points = [];
+      this.drawn = 0;
+      this.lines.forEach(line => line.setMap(null));
+      this.lines = [];
       if (this.layer)
         this.layer.setMap(null);
       this.layer = null;
+      if (this.legs)
+        this.legs.setPoints([]);
     }
 
-    /**
-     * A point without a place is left out; the line goes on to the next.
-     * @param {Place} position @param {string} name
-     */
+    /** A point without a place is left out; the line goes on to the next. */
     add(position, name) {
       if (page.isPlace(position))
-        this.waiting.push({ position: position, name: String(name) });
+        this.points.push({ position: position, name: String(name) });
     }
 
     /** Draws what has been added since it was drawn last: what stands there already costs nothing again. */
     draw() {
       if (!this.layer)
-        this.layer = this.newLayer();
-      const path = this.line.getPath();
-      this.waiting.forEach(point => {
+        this.begin();
+      this.points.slice(this.drawn).forEach(point => {
         this.layer.add({ geometry: point.position, properties: { name: point.name } });
-        path.push(point.position);
+        this.lines.forEach(line => line.getPath().push(point.position));
       });
-      this.waiting = [];
+      this.drawn = this.points.length;
       this.layer.setMap(map);
-      this.line.setMap(map);
+      if (this.legs)
+        this.legs.setPoints(this.points);
     }
 
-    newLayer() {
-      const layer = new google.maps.Data();
-      layer.setStyle(/** @return {google.maps.Data.StyleOptions} */ feature => ({
-        icon: this.style.point,
-        zIndex: this.style.zIndex,
+    begin() {
+      this.layer = new google.maps.Data();
+      this.layer.setStyle(feature => this.look(feature));
+      this.lines = this.options.map((options, i) => new google.maps.Polyline(Object.assign({
+        geodesic: true,
         clickable: false,
-        label: { text: feature.getProperty('name'), color: this.style.colour, fontSize: '12px', fontWeight: 'bold' },
-      }));
-      return layer;
+        zIndex: this.style.zIndex + i,
+        map: map,
+      }, options)));
+    }
+
+    look(feature) {
+      return {
+        icon: this.point,
+        zIndex: this.style.zIndex + this.options.length,
+        clickable: false,
+        label: { text: feature.getProperty('name'), color: this.colour, fontSize: '12px', fontWeight: 'bold' },
+      };
     }
   }
 

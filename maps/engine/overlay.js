@@ -1,0 +1,91 @@
+/** `google.maps.OverlayView`: elements of a page's own that move with the map. */
+(function () {
+  'use strict';
+  const maps = window.google.maps;
+  const engine = window.mapEngine;
+  const paneName = 'overlayLayer';
+
+  /** From positions to pixels and back, of the map and of the elements in its panes. */
+  class Projection {
+    constructor(leaflet) {
+      this.leaflet = leaflet;
+    }
+
+    /** A position in the copy of the world that is nearest to the view. */
+    near(position) {
+      const centre = this.leaflet.getCenter().lng;
+      return [position.lat(), position.lng() + 360 * Math.round((centre - position.lng()) / 360)];
+    }
+
+    fromLatLngToDivPixel(position) {
+      const point = this.leaflet.project(this.near(position)).subtract(this.leaflet.getPixelOrigin());
+      return new maps.Point(point.x, point.y);
+    }
+
+    fromLatLngToContainerPixel(position) {
+      const point = this.leaflet.layerPointToContainerPoint(this.fromLatLngToDivPixel(position));
+      return new maps.Point(point.x, point.y);
+    }
+
+    fromDivPixelToLatLng(pixel) {
+      const position = this.leaflet.layerPointToLatLng([pixel.x, pixel.y]);
+      return new maps.LatLng(position.lat, position.lng);
+    }
+
+    fromContainerPixelToLatLng(pixel) {
+      const position = this.leaflet.containerPointToLatLng([pixel.x, pixel.y]);
+      return new maps.LatLng(position.lat, position.lng);
+    }
+
+    /** Pixels around the world. */
+    getWorldWidth() {
+      return engine.tileSize * Math.pow(2, this.leaflet.getZoom());
+    }
+  }
+
+  /**
+   * To be derived from: `onAdd` puts elements into a pane, `draw` gives them their places, `onRemove` takes them away.
+   * `draw` is called when places in the panes have become others, which a mere pan does not do.
+   */
+  class OverlayView extends maps.MVCObject {
+    getMap() {
+      return this.map_ || null;
+    }
+
+    setMap(map) {
+      const next = map || null;
+      if (next === this.getMap())
+        return;
+      if (this.map_) {
+        this.map_.leaflet.off('viewreset', this.redraw_);
+        this.map_ = null;
+        this.onRemove();
+      }
+      if (next) {
+        this.map_ = next;
+        this.redraw_ = () => this.draw();
+        next.leaflet.on('viewreset', this.redraw_);
+        this.onAdd();
+        this.draw();
+      }
+    }
+
+    /** One pane, over the lines and below the markers; the mouse goes through it. */
+    getPanes() {
+      const leaflet = this.map_.leaflet;
+      return { overlayLayer: leaflet.getPane(paneName) || leaflet.createPane(paneName) };
+    }
+
+    getProjection() {
+      return this.map_ ? new Projection(this.map_.leaflet) : undefined;
+    }
+
+    onAdd() {}
+
+    draw() {}
+
+    onRemove() {}
+  }
+
+  maps.OverlayView = OverlayView;
+})();
