@@ -85,6 +85,11 @@
       this.items = Array.from(items || []);
     }
 
+    /** The list itself, not a copy. */
+    getArray() {
+      return this.items;
+    }
+
     getAt(index) {
       return this.items[index];
     }

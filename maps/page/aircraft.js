@@ -11,9 +11,10 @@
   /** @param {number} heading degrees */
   function iconFor(heading) {
     drawn = heading;
-    return page.symbol(path, '#4a0d0d', 1.2, '#d32f2f', { rotation: heading });
+    return page.symbol(path, page.palette.aircraftEdge, 1.2, page.palette.aircraft, { rotation: heading });
   }
 
+  /** The trail stays until the next aircraft comes. */
   page.eraseAircraft = function () {
     if (marker)
       marker.setMap(null);
@@ -22,34 +23,42 @@
 
   page.showAircraft = function (position, title, heading) {
     page.eraseAircraft();
+    page.clearTrail();
     marker = new google.maps.Marker({
       position: position,
       map: map,
-      icon: iconFor(heading),
+      icon: iconFor(page.heading(heading)),
       title: title || pageWords.aircraft,
       zIndex: 2000,
     });
+    if (page.isPlace(position))
+      page.continueTrail(position);
   };
 
-  /** Moves the aircraft; the picture is drawn again only when it turns. */
+  /** Moves the aircraft; the picture is drawn again only when it turns. A tick with a value that is none is no tick. */
   page.moveAircraft = function (position, heading) {
-    if (!marker)
+    if (!marker || !page.isPlace(position) || !isFinite(heading))
       return;
-    if (page.isPlace(position))
-      marker.setPosition(position);
-    if (heading !== drawn)
-      marker.setIcon(iconFor(heading));
+    marker.setPosition(position);
+    if (page.heading(heading) !== drawn)
+      marker.setIcon(iconFor(page.heading(heading)));
+    page.continueTrail(position);
   };
+
+  page.onPalette(() => {
+    if (marker)
+      marker.setIcon(iconFor(drawn));
+  });
 })();
 
 /** Shows the aircraft; the title comes empty. @type {(position: Place, title: string, heading: number) => void} */
 function addAcftMrkr(position, title, heading) {
-  page.showAircraft(position, title, page.heading(heading));
+  page.showAircraft(position, title, heading);
 }
 
 /** Moves the aircraft; comes with every tick of the trace. @type {(position: Place, heading: number) => void} */
 function setAcftMrkr(position, heading) {
-  page.moveAircraft(position, page.heading(heading));
+  page.moveAircraft(position, heading);
 }
 
 /** Removes the aircraft. */

@@ -22,6 +22,7 @@
 
   const ruler = document.createElement('canvas').getContext('2d');
 
+  /** @type {(text: string, textFont: string) => number} */
   function widthOf(text, textFont) {
     ruler.font = textFont;
     return ruler.measureText(text).width;
@@ -36,14 +37,17 @@
   /** Nautical miles, with a decimal where one mile makes a difference. */
   page.milesText = miles => `${miles < 9.95 ? miles.toFixed(1) : Math.round(miles)} NM`;
 
-  /** A leg with what does not change while the map moves. */
+  /** A leg with what does not change while the map moves. @type {(from: TrackPoint, to: TrackPoint) => Leg} */
   function legOf(from, to) {
     const distance = page.distanceTo(from.position, to.position);
     const text = `${page.courseText(page.courseTo(from.position, to.position))}  ${page.milesText(distance)}`;
     return { from: from.position, to: to.position, distance: distance, text: text, width: widthOf(text, font) };
   }
 
-  /** Discs that cover a box along a direction; what stands on the map is kept apart by them. */
+  /**
+   * The middles of discs that cover a box along a direction: what stands on the map is kept apart by them.
+   * @type {(x: number, y: number, width: number, angle: number) => Spot[]}
+   */
   function discsAlong(x, y, width, angle) {
     const count = Math.max(1, Math.ceil(width / textHeight));
     const discs = [];
@@ -54,6 +58,7 @@
     return discs;
   }
 
+  /** @type {(a: Spot, b: Spot) => boolean} */
   const touch = (a, b) => Math.abs(a.x - b.x) < textHeight && Math.abs(a.y - b.y) < textHeight;
 
   class LegTexts extends google.maps.OverlayView {
@@ -61,14 +66,21 @@
     constructor(colours) {
       super();
       this.colours = colours;
+      /** @type {Leg[]} */
       this.legs = [];
+      /** @type {Array<{position: Place, width: number}>} */
       this.points = [];
+      /** What must be kept free. @type {Spot[]} */
+      this.taken = [];
+      /** @type {?HTMLElement} */
+      this.element = null;
       this.pending = 0;
+      /** The middle of the view that the texts were placed for. @type {?Place} */
       this.laidOut = null;
       google.maps.event.addListener(map, 'idle', () => this.follow());
     }
 
-    /** @param {Array<{position: LatLng, name: string}>} points of the track, each leg from one to the next */
+    /** @param {TrackPoint[]} points of the track, each leg from one to the next */
     setPoints(points) {
       this.points = points.map(point =>
         ({ position: point.position, width: widthOf(point.name, nameFont) }));
@@ -125,6 +137,7 @@
 
     /** What the points of the track and their names, right of them, cover. */
     takenByPoints() {
+      /** @type {Spot[]} */
       const discs = [];
       this.points.forEach(point => {
         const at = this.projection.fromLatLngToDivPixel(point.position);
@@ -134,10 +147,12 @@
       return discs;
     }
 
+    /** @param {number} latitude */
     pixelsPerMile(latitude) {
       return this.projection.getWorldWidth() / milesAround / Math.max(0.02, Math.cos(latitude * radians));
     }
 
+    /** @param {Leg} leg */
     drawLeg(leg) {
       const spots = this.spotsOf(leg);
       const length = spots.length ? spots[0].length : 0;
@@ -147,7 +162,7 @@
       this.element.appendChild(this.picture(place || spots[0], place && leg.text, leg.width));
     }
 
-    /** The spots on a leg that lie in the view, the best first. */
+    /** The spots on a leg that lie in the view, the best first. @type {(leg: Leg) => LegSpot[]} */
     spotsOf(leg) {
       const middle = page.pointAlong(leg.from, leg.to, 0.5);
       const length = leg.distance * this.pixelsPerMile(middle.lat());
@@ -163,7 +178,7 @@
       return this.isInView(spot) ? [spot] : [];
     }
 
-    /** A place on a leg in pixels, the way's direction there, and the leg's length. */
+    /** @type {(leg: Leg, part: number, length: number) => LegSpot} */
     spotAt(leg, part, length) {
       const position = page.pointAlong(leg.from, leg.to, part);
       const at = this.projection.fromLatLngToDivPixel(position);
@@ -180,12 +195,16 @@
       };
     }
 
+    /** @param {LegSpot} spot */
     isInView(spot) {
       const size = this.size();
       return spot.view.x > 0 && spot.view.y > 0 && spot.view.x < size.x && spot.view.y < size.y;
     }
 
-    /** The first spot with room for the text above or below the line; null when there is none. */
+    /**
+     * The first spot with room for the text above or below the line; null when there is none.
+     * @type {(leg: Leg, spots: LegSpot[]) => ?LegSpot}
+     */
     freePlace(leg, spots) {
       for (const spot of spots) {
         const upright = uprightOf(spot.angle);
@@ -202,7 +221,10 @@
       return null;
     }
 
-    /** An element with the arrow of a leg and, where there is one, its text. */
+    /**
+     * An element with the arrow of a leg and, where there is one, its text.
+     * @type {(place: LegSpot, text: ?string, width: number) => HTMLElement}
+     */
     picture(place, text, width) {
       const reach = Math.ceil(text ? Math.hypot(width / 2, textOffset + textHeight) : 10) + 2;
       const ratio = window.devicePixelRatio || 1;
@@ -228,12 +250,13 @@
     }
   }
 
-  /** The direction of a text along a line that a reader need not stand on his head for. */
+  /** The direction of a text along a line that a reader need not stand on his head for. @param {number} angle */
   function uprightOf(angle) {
     const turned = angle > Math.PI / 2 ? angle - Math.PI : angle;
     return turned <= -Math.PI / 2 ? turned + Math.PI : turned;
   }
 
+  /** @type {(context: CanvasRenderingContext2D, angle: number, colours: {text: string, rim: string}) => void} */
   function drawArrow(context, angle, colours) {
     context.save();
     context.rotate(angle);
@@ -249,6 +272,10 @@
     context.restore();
   }
 
+  /**
+   * @type {(context: CanvasRenderingContext2D, angle: number, offset: number, text: string,
+   *     colours: {text: string, rim: string}) => void}
+   */
   function drawText(context, angle, offset, text, colours) {
     context.save();
     context.rotate(angle);

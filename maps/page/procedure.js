@@ -2,8 +2,12 @@
 (function () {
   'use strict';
 
-  /** Dashes and, farther apart, arrows. Their paths point upwards, which is the way of the line. */
+  /**
+   * A dash. The paths of a line's symbols point upwards, which is the way of the line.
+   * @type {(colour: string) => google.maps.Symbol}
+   */
   const dash = colour => ({ path: 'M 0 -5 L 0 5', strokeColor: colour, strokeOpacity: 1, strokeWeight: 2.5 });
+  /** @type {(colour: string) => google.maps.Symbol} */
   const arrow = colour => ({
     path: 'M 0 -7 L 4.5 4 L 0 1.5 L -4.5 4 Z',
     strokeWeight: 0,

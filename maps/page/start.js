@@ -6,10 +6,12 @@
     + 'L -5 14 L -5 12 L -2 9 L -3 3 L -11 5 L -11 2 L -4 -4 Z';
   /** @type {?google.maps.Marker} */
   let marker = null;
+  let drawn = 0;
 
   /** @param {number} heading degrees */
   function iconFor(heading) {
-    return page.symbol(path, '#5b3d00', 1.4, '#f2a900', { rotation: heading });
+    drawn = heading;
+    return page.symbol(path, page.palette.startEdge, 1.4, page.palette.start, { rotation: heading });
   }
 
   /** Puts the marker to a place; there is never more than one. */
@@ -36,6 +38,11 @@
       page.call('doMoveSIT', place.lat(), place.lng());
     });
   };
+
+  page.onPalette(() => {
+    if (marker)
+      marker.setIcon(iconFor(drawn));
+  });
 })();
 
 /**

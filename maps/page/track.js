@@ -3,23 +3,21 @@
   'use strict';
 
   class Track {
-    /**
-     * @param {{colours: Array<string>, lines: Array<Object>, zIndex: number, point: Object, legs: boolean}} style
-     *     colours: the palette's names of the line's colour and of what lies inside its points;
-     *     lines: a function from these two colours to the options of a polyline for each that lies over the one before;
-     *     point: path and weight of the points' symbol; legs: whether the legs have their course and distance
-     */
+    /** @param {TrackStyle} style */
     constructor(style) {
       this.style = style;
+      /** @type {TrackPoint[]} */
       this.points = [];
       this.drawn = 0;
+      /** @type {google.maps.Polyline[]} */
       this.lines = [];
+      /** @type {?google.maps.Data} */
       this.layer = null;
       this.legs = style.legs ? new page.LegTexts(() => ({ text: this.colour, rim: page.palette.labelRim })) : null;
       page.onPalette(palette => this.dress(palette));
     }
 
-    /** Takes the colours of a palette. */
+    /** Takes the colours of a palette. @param {Palette} palette */
     dress(palette) {
       this.colour = palette[this.style.colours[0]];
       this.fill = palette[this.style.colours[1]];
@@ -44,7 +42,10 @@
         this.legs.setPoints([]);
     }
 
-    /** A point without a place is left out; the line goes on to the next. */
+    /**
+     * A point without a place is left out; the line goes on to the next.
+     * @param {Place} position @param {string} name
+     */
     add(position, name) {
       if (page.isPlace(position))
         this.points.push({ position: position, name: String(name) });
@@ -75,6 +76,7 @@
       }, options)));
     }
 
+    /** @type {(feature: google.maps.Data.Feature) => google.maps.Data.StyleOptions} */
     look(feature) {
       return {
         icon: this.point,

@@ -56,11 +56,60 @@ interface MenuEntry {
   run: () => void;
 }
 
+/** How a track is drawn. */
 interface TrackStyle {
-  colour: string;
-  weight: number;
+  /** The palette's colours of the line and its names, and of what lies inside its points. */
+  colours: [Colour, Colour];
   zIndex: number;
-  point: google.maps.Symbol;
+  /** The symbol of its points. */
+  point: { path: string, weight: number };
+  /** Whether course and distance stand beside its legs. */
+  legs?: boolean;
+  /** The lines of the track, each over the one before, from its two colours. */
+  lines: (colour: string, fill: string) => google.maps.PolylineOptions[];
+}
+
+interface TrackPoint {
+  position: Place;
+  name: string;
+}
+
+/** Two points of a track with what is written beside the way between them. */
+interface Leg {
+  from: Place;
+  to: Place;
+  /** NM. */
+  distance: number;
+  text: string;
+  /** Of the text, pixels. */
+  width: number;
+}
+
+/** A place in pixels. */
+interface Spot {
+  x: number;
+  y: number;
+}
+
+/** A place on a leg, in pixels of the map's panes and of the view; angle is the way's direction there, radians. */
+interface LegSpot extends Spot {
+  view: Spot;
+  angle: number;
+  /** Of the leg, pixels. */
+  length: number;
+  /** Of the text from the line, pixels, below it where positive. */
+  offset?: number;
+}
+
+/** A way on the ground, metres. */
+interface Way {
+  east: number;
+  north: number;
+}
+
+interface LegTexts extends google.maps.OverlayView {
+  setPoints(points: TrackPoint[]): void;
+  refresh(): void;
 }
 
 interface Track {
@@ -90,6 +139,8 @@ interface Page {
   distanceTo(from: Place, to: Place): number;
   courseTo(from: Place, to: Place): number;
   midPoint(from: Place, to: Place): Place;
+  pointAlong(from: Place, to: Place, part: number): Place;
+  partAlong(from: Place, to: Place, point: Place): number;
   kilometresOf(miles: number): number;
 
   palette: Palette;
@@ -122,6 +173,9 @@ interface Page {
   closeMenu(): void;
   pointAt(marker: ChartMarker | null): void;
 
+  courseText(degrees: number): string;
+  milesText(miles: number): string;
+  LegTexts: new (colours: () => { text: string, rim: string }) => LegTexts;
   Track: new (style: TrackStyle) => Track;
   route: Track;
   procedure: Track;
@@ -138,6 +192,11 @@ interface Page {
   showAircraft(position: Place, title: string, heading: number): void;
   moveAircraft(position: Place, heading: number): void;
   eraseAircraft(): void;
+
+  continueTrail(position: Place): void;
+  clearTrail(): void;
+  hasTrail(): boolean;
+  trailLengths(): number[];
 }
 
 interface Window {
