@@ -9,8 +9,7 @@
 #include "datadictionary.h"
 #include "mapscript.h"
 #include "positions.h"
-#include "rowsaving.h"
-#include "textfile.h"
+#include "rowdeletion.h"
 #include "updateline.h"
 
 #include <QAbstractButton>
@@ -38,14 +37,13 @@ struct MarkerTitle
 };
 
 using Lookup = bool (SqlMgr::*)(const QString& key, bool exact, QSqlQuery& query);
-using Removal = void (SqlMgr::*)(const QString& key, QSqlQuery& query);
 
 // A table as the map's commands reach it.
 struct EditedTable
 {
     QString connection;
     Lookup find;
-    Removal remove;
+    RowDeletion::Removal remove;
 };
 
 EditedTable navaids(const CNavGlobalVar& settings)
@@ -96,29 +94,10 @@ void runDialog(Dialog& dialog, MainWindow& window)
     dialog.close();
 }
 
-// One deletion, with the words of its boxes.
-struct RowDeletion
+bool rowIsThere(const EditedTable& table, const MarkerTitle& marker)
 {
-    EditedTable table;
-    MarkerTitle marker;
-    QString markerScript;
-    QString updateLine;
-    QString title;
-    QString notFound;
-    QString done;
-    QString exportTitle;
-    QString exported;     ///< %1 the label, %2 the file
-    QString exportFailed; ///< %1 the label; null when nothing is told
-};
-
-bool rowIsThere(const RowDeletion& deletion)
-{
-    QSqlQuery query(QSqlDatabase::database(deletion.table.connection));
-    if (standsOnRow(deletion.table, deletion.marker, query)) {
-        return true;
-    }
-    QMessageBox::information(nullptr, deletion.title, deletion.notFound);
-    return false;
+    QSqlQuery query(QSqlDatabase::database(table.connection));
+    return standsOnRow(table, marker, query);
 }
 
 int askBeforeDeletion(const QString& heading, const QString& question)
@@ -133,32 +112,6 @@ int askBeforeDeletion(const QString& heading, const QString& question)
     box.button(QMessageBox::Save)->setText(MainWindow::tr("Effacer\n& Exporter"));
     box.button(QMessageBox::Cancel)->setText(MainWindow::tr("Annuler"));
     return box.exec();
-}
-
-// The row is gone already, whether its file can be written or not.
-void exportDeletion(const RowDeletion& deletion)
-{
-    const QString fileName = updateFileName(deletion.marker.label);
-    if (writeTextFile(fileName, {deletion.updateLine})) {
-        QMessageBox::information(nullptr, deletion.exportTitle, deletion.exported.arg(deletion.marker.label, fileName));
-    } else if (!deletion.exportFailed.isNull()) {
-        QMessageBox::information(nullptr, deletion.exportTitle, deletion.exportFailed.arg(deletion.marker.label));
-    }
-}
-
-void carryOut(const RowDeletion& deletion, int answer, MainWindow& window)
-{
-    if (answer != QMessageBox::Ok && answer != QMessageBox::Save) {
-        return;
-    }
-    QSqlQuery query(QSqlDatabase::database(deletion.table.connection));
-    (CNavGlobalVar::instance()->sqlMgr->*deletion.table.remove)(deletion.marker.key, query);
-    window.runMapScript(deletion.markerScript);
-    if (answer == QMessageBox::Save) {
-        exportDeletion(deletion);
-    } else {
-        QMessageBox::information(nullptr, deletion.title, deletion.done);
-    }
 }
 
 } // namespace
@@ -198,42 +151,47 @@ int MainWindow::askDeleteData(const QString& boxTitle, const QString& boxMsg)
 
 void MainWindow::sDelNavFromDB(const QString& title)
 {
-    const MarkerTitle marker(title);
-    const RowDeletion deletion{
-        navaids(*settings),
-        marker,
-        mapscript::delNavaid(),
-        composeDeleteLine(QStringLiteral("GEN"), QStringLiteral("NAV"), fieldsNAV[1].code, marker.key),
-        tr("Suppression d'un navaid"),
-        tr("Le point sélectionné n'existe pas dans la base"),
-        tr("Le navaid %1 a été effacé").arg(title),
-        tr("Suppression/export d'un navaid"),
-        tr("Le navaid %1 a été effacé et enregistrer pour export \ndans %2"),
-        tr("Le navaid %1 a été effacé mais l'export à échoué")};
-    if (!title.isEmpty() && rowIsThere(deletion)) {
-        const QString question = tr("Voulez vous effacer définitivement %1 ?").arg(title);
-        carryOut(deletion, askDeleteData(tr("Suppression d'un navaid"), question), *this);
+    if (title.isEmpty()) {
+        return;
     }
+    const EditedTable table = navaids(*settings);
+    const MarkerTitle marker(title);
+    if (!rowIsThere(table, marker)) {
+        QMessageBox::information(nullptr, tr("Suppression d'un navaid"),
+                                 tr("Le point sélectionné n'existe pas dans la base"));
+        return;
+    }
+    const int answer =
+        askDeleteData(tr("Suppression d'un navaid"), tr("Voulez vous effacer définitivement %1 ?").arg(title));
+    carryOut({table.connection, table.remove, marker.key, mapscript::delNavaid(), marker.label,
+              composeDeleteLine(QStringLiteral("GEN"), QStringLiteral("NAV"), fieldsNAV[1].code, marker.key),
+              tr("Suppression d'un navaid"), tr("Le navaid %1 a été effacé").arg(title),
+              tr("Suppression/export d'un navaid"),
+              tr("Le navaid %1 a été effacé et enregistrer pour export \ndans %2"),
+              tr("Le navaid %1 a été effacé mais l'export à échoué")},
+             answer, *this);
 }
 
 // Of the words, the question's heading and the export's title are the navaid's, as this command always had them; it
 // tells nothing when the export fails.
 void MainWindow::sDelWptFromDB(const QString& title)
 {
-    const MarkerTitle marker(title);
-    const RowDeletion deletion{
-        waypoints(*settings),
-        marker,
-        mapscript::delWaypoint(),
-        composeDeleteLine(QStringLiteral("WPT"), QStringLiteral("WPT"), fieldsWPT[2].code, marker.key),
-        tr("Suppression d'un waypoint"),
-        tr("Le waypoint sélectionné n'existe pas dans la base"),
-        tr("Le waypoint %1 a été effacé").arg(title),
-        tr("Suppression/export d'un navaid"),
-        tr("Le waypoint %1 a été effacé et enregistrer pour export \ndans %2"),
-        QString()};
-    if (!title.isEmpty() && rowIsThere(deletion)) {
-        const QString question = tr("Voulez vous effacer définitivement %1 ?").arg(title);
-        carryOut(deletion, askBeforeDeletion(tr("Suppression d'un navaid"), question), *this);
+    if (title.isEmpty()) {
+        return;
     }
+    const EditedTable table = waypoints(*settings);
+    const MarkerTitle marker(title);
+    if (!rowIsThere(table, marker)) {
+        QMessageBox::information(nullptr, tr("Suppression d'un waypoint"),
+                                 tr("Le waypoint sélectionné n'existe pas dans la base"));
+        return;
+    }
+    const int answer =
+        askBeforeDeletion(tr("Suppression d'un navaid"), tr("Voulez vous effacer définitivement %1 ?").arg(title));
+    carryOut({table.connection, table.remove, marker.key, mapscript::delWaypoint(), marker.label,
+              composeDeleteLine(QStringLiteral("WPT"), QStringLiteral("WPT"), fieldsWPT[2].code, marker.key),
+              tr("Suppression d'un waypoint"), tr("Le waypoint %1 a été effacé").arg(title),
+              tr("Suppression/export d'un navaid"),
+              tr("Le waypoint %1 a été effacé et enregistrer pour export \ndans %2"), QString()},
+             answer, *this);
 }

@@ -1,0 +1,39 @@
+#include "rowdeletion.h"
+
+#include "cnavglobalvar.h"
+#include "mainwindow.h"
+#include "rowsaving.h"
+#include "textfile.h"
+
+#include <QMessageBox>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+namespace {
+
+void exportDeletion(const RowDeletion& deletion)
+{
+    const QString fileName = updateFileName(deletion.label);
+    if (writeTextFile(fileName, {deletion.updateLine})) {
+        QMessageBox::information(nullptr, deletion.exportTitle, deletion.exported.arg(deletion.label, fileName));
+    } else if (!deletion.exportFailed.isNull()) {
+        QMessageBox::information(nullptr, deletion.exportTitle, deletion.exportFailed.arg(deletion.label));
+    }
+}
+
+} // namespace
+
+void carryOut(const RowDeletion& deletion, int answer, MainWindow& window)
+{
+    if (answer != QMessageBox::Ok && answer != QMessageBox::Save) {
+        return;
+    }
+    QSqlQuery query(QSqlDatabase::database(deletion.connection));
+    (CNavGlobalVar::instance()->sqlMgr->*deletion.remove)(deletion.key, query);
+    window.runMapScript(deletion.script);
+    if (answer == QMessageBox::Save) {
+        exportDeletion(deletion);
+    } else {
+        QMessageBox::information(nullptr, deletion.title, deletion.done);
+    }
+}
