@@ -1,0 +1,53 @@
+#include "procedurerows.h"
+
+namespace {
+
+int pointType(const CFpLine& line)
+{
+    if (line.usage == QLatin1String("snav")) {
+        return line.navType;
+    }
+    return line.usage == QLatin1String("uswp") ? userPointType : airportPointType;
+}
+
+QString storedArcSeconds(double arcSeconds)
+{
+    return QString::number(arcSeconds, 'f', 3);
+}
+
+// Joined and not filled in one by one: a value may hold what looks like a place to fill.
+QString insertion(const QStringList& values, ProcedureType type)
+{
+    return QStringLiteral("INSERT OR REPLACE INTO SIDSTAR VALUES ('") + values.join(QStringLiteral("','")) +
+           // A STAR's statement never had the semicolon.
+           (type == ProcedureType::Sid ? QStringLiteral("');") : QStringLiteral("')"));
+}
+
+} // namespace
+
+QStringList procedureRow(const CFpLine& line, int number, const StoredProcedure& procedure)
+{
+    const QString numberText = QString::number(number);
+    return {QStringLiteral("0"), // no tile
+            procedure.name + numberText,
+            procedure.airportKey,
+            procedure.name,
+            numberText,
+            QString::number(static_cast<int>(procedure.type)),
+            line.iden,
+            QString::number(pointType(line)),
+            QString::number(line.elev), // and not the altitude flown
+            storedArcSeconds(line.latS),
+            storedArcSeconds(line.lonS)};
+}
+
+QStringList procedureStatements(const QList<CFpLinePtr>& lines, const StoredProcedure& procedure)
+{
+    QStringList statements{QStringLiteral("DELETE FROM SIDSTAR WHERE strm = '%1';").arg(procedure.name)};
+    int number = 0;
+    for (const CFpLinePtr& line : lines) {
+        number += firstProcedureNumber;
+        statements << insertion(procedureRow(*line, number, procedure), procedure.type);
+    }
+    return statements;
+}
