@@ -950,6 +950,122 @@ Assurez vous de l&apos;avoir démarré.</source>
         <translation>Cannot connect to Aeo!Zephan.
 Make sure that you have started it.</translation>
     </message>
+    <message>
+        <source>Voies aériennes</source>
+        <translation>Airways</translation>
+    </message>
+    <message>
+        <source>Le point %1 n&apos;appartient à aucune voie aérienne</source>
+        <translation>The point %1 belongs to no airway</translation>
+    </message>
+    <message>
+        <source>Voie aérienne</source>
+        <translation>Airway</translation>
+    </message>
+    <message>
+        <source>Liste des voies passant par le point %1</source>
+        <translation>List of the airways through the point %1</translation>
+    </message>
+    <message>
+        <source>Création d&apos;un SID</source>
+        <translation>Create a SID</translation>
+    </message>
+    <message>
+        <source>Le nouveau SID doit commencé par un aéroport</source>
+        <translation>The new SID has to begin with an airport</translation>
+    </message>
+    <message>
+        <source>Nouveau SID</source>
+        <translation>New SID</translation>
+    </message>
+    <message>
+        <source>Nom du SID</source>
+        <translation>Name of the SID</translation>
+    </message>
+    <message>
+        <source>Enregistrement SID</source>
+        <translation>Save SID</translation>
+    </message>
+    <message>
+        <source>Le SID %1 a été enregistré</source>
+        <translation>The SID %1 has been saved</translation>
+    </message>
+    <message>
+        <source>Création d&apos;un STAR</source>
+        <translation>Create a STAR</translation>
+    </message>
+    <message>
+        <source>Le nouveau STAR doit finir par un aéroport</source>
+        <translation>The new STAR has to end with an airport</translation>
+    </message>
+    <message>
+        <source>Nouveau STAR</source>
+        <translation>New STAR</translation>
+    </message>
+    <message>
+        <source>Nom du STAR</source>
+        <translation>Name of the STAR</translation>
+    </message>
+    <message>
+        <source>Enregistrement STAR</source>
+        <translation>Save STAR</translation>
+    </message>
+    <message>
+        <source>Le STAR %1 a été enregistré</source>
+        <translation>The STAR %1 has been saved</translation>
+    </message>
+    <message>
+        <source>Effacer un SID/STAR</source>
+        <translation>Delete a SID/STAR</translation>
+    </message>
+    <message>
+        <source>Voulez vous effacer le SID/STAR %1 ?</source>
+        <translation>Do you want to delete the SID/STAR %1?</translation>
+    </message>
+    <message>
+        <source>Effacement STAR</source>
+        <translation>Delete STAR</translation>
+    </message>
+    <message>
+        <source>La STAR %1 a été effacé</source>
+        <translation>The STAR %1 has been deleted</translation>
+    </message>
+    <message>
+        <source>Suppression/export d&apos;un SIDSTAR</source>
+        <translation>Delete/export a SIDSTAR</translation>
+    </message>
+    <message>
+        <source>Le SIDSTAR %1 a été effacé et enregistrer pour export 
+dans %2</source>
+        <translation>The SIDSTAR %1 has been deleted and saved for export 
+in %2</translation>
+    </message>
+    <message>
+        <source>Le SIDSTAR %1 a été effacé mais l&apos;export à échoué</source>
+        <translation>The SIDSTAR %1 has been deleted but the export failed</translation>
+    </message>
+    <message>
+        <source>Effacer les SID/STAR</source>
+        <translation>Delete the SID/STAR</translation>
+    </message>
+    <message>
+        <source>Voulez vous effacer tous les SID/STAR de %1 ?</source>
+        <translation>Do you want to delete all SID/STAR of %1?</translation>
+    </message>
+    <message>
+        <source>Effacement SID/STAR</source>
+        <translation>Delete SID/STAR</translation>
+    </message>
+    <message>
+        <source>Les SID/STAR de %1 ont été effacé</source>
+        <translation>The SID/STAR of %1 have been deleted</translation>
+    </message>
+    <message>
+        <source>Les SIDSTAR de %1 ont été effacé et enregistrer pour export 
+dans %2</source>
+        <translation>The SIDSTAR of %1 have been deleted and saved for export 
+in %2</translation>
+    </message>
 </context>
 <context>
     <name>RowSaving</name>

@@ -67,6 +67,8 @@ public slots:
     // Search.
     void searchInTable(bool exact);
     void sFndCenterAt();
+    // Airways through a waypoint and the navaid (maybe empty) on the same point, by marker titles.
+    void sATS(const QString& wptName, const QString& navName);
     // Plan: points from marker titles or from places in degrees, lines of the grid.
     void sAddAptToFp(const QString& param);
     void sAddNavToFp(const QString& param);
@@ -78,6 +80,9 @@ public slots:
     void sFpLineDel();
     void sFpLineUp();
     void sFpLineDown();
+    // Procedures: stored SID and STAR deleted, one by its item in a tree, or all of an airport by its key.
+    void delSIDSTAR(QTreeWidgetItem* sidstar, bool sid);
+    void delAllSIDSTAR(const QString& aptKey);
     // Navigation data: rows by marker titles, new ones (empty title) at places in degrees.
     void sAddNavToDB(const QString& title, double latD, double lonD);
     void sAddWptToDB(const QString& title, double latD, double lonD);
@@ -110,6 +115,14 @@ private slots:
     void on_btnSaveFlightPlan_clicked();
     void on_btnStartPos_clicked();
     // Procedures.
+    void on_btnCreateSID_clicked();
+    void on_btnCreateSTAR_clicked();
+    void on_btnAddSid_clicked();
+    void on_btnAddStar_clicked();
+    void on_pbDelSID_clicked();
+    void on_pbDelSTAR_clicked();
+    void on_pbDelAllSID_clicked();
+    void on_pbDelAllSTAR_clicked();
     void on_treeWSid_itemClicked(QTreeWidgetItem* item, int column);
     void on_treeWStar_itemClicked(QTreeWidgetItem* item, int column);
     void on_dockWFlightPlan_visibilityChanged(bool visible);
@@ -143,6 +156,13 @@ private:
     void addToPlan(const CFpLinePtr& line);
     void centerOnLine(const CFpLinePtr& line);
     void resetProcedureTitles();
+
+    struct ProcedureKind;
+    static const ProcedureKind sidKind, starKind;
+    void createProcedure(const ProcedureKind& kind);
+    void addProcedureToPlan(const ProcedureKind& kind);
+    QTreeWidgetItem* selectedProcedure(const ProcedureKind& kind) const; ///< null unless one item alone is selected
+
     void showAircraft(const CAircraftData& aircraft);
     void startTrace();
     void stopTrace();

@@ -105,7 +105,7 @@ void TestBridge::slotsAreOpenToThePage()
     QVERIFY(session->load());
     for (const char* name : {"doSomething", "doCenter", "doZoom", "doData", "doViewRwy", "doMoveSIT", "sAddAptToFp",
                              "sAddNavToFp", "sAddWptToFp", "sAddNewWptToFp", "sAddSitToFp", "sAddWptToDB",
-                             "sAddNavToDB", "sDelNavFromDB", "sDelWptFromDB"})
+                             "sAddNavToDB", "sDelNavFromDB", "sDelWptFromDB", "sATS"})
         QVERIFY2(evaluate(QStringLiteral("typeof mainWindow.%1").arg(name)).toString() == "function", name);
 }
 

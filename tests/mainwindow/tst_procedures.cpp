@@ -2,7 +2,7 @@
 #include "boxresponder.h"
 #include "mainwindow.h"
 #include "planwindow.h"
-#include "procedurerows.h"
+#include "storedprocedures.h"
 
 #include <QDockWidget>
 #include <QTreeWidget>
@@ -25,7 +25,7 @@ private slots:
     void initTestCase()
     {
         win.reset(new PlanWindow);
-        rows.reset(new ProcedureRows(win->sandbox));
+        rows.reset(new StoredProcedures(win->sandbox));
     }
     void cleanupTestCase()
     {
@@ -285,18 +285,9 @@ private:
         return tree(treeName)->topLevelItem(0)->child(row);
     }
 
-    /// The tree's procedures with the identities of their points in brackets.
     QString outline(const QString& treeName) const
     {
-        QStringList found;
-        for (int i = 0; i < tree(treeName)->topLevelItemCount(); ++i) {
-            const QTreeWidgetItem* top = tree(treeName)->topLevelItem(i);
-            QStringList points;
-            for (int row = 0; row < top->childCount(); ++row)
-                points << top->child(row)->text(1);
-            found << QString("%1[%2]").arg(top->text(0), points.join(' '));
-        }
-        return found.join(' ');
+        return ::outline(*tree(treeName));
     }
 
     static void bothTrees()
@@ -332,7 +323,7 @@ private:
 
     QScopedPointer<BoxResponder> boxes;
     QScopedPointer<PlanWindow> win;
-    QScopedPointer<ProcedureRows> rows;
+    QScopedPointer<StoredProcedures> rows;
 };
 
 QTEST_MAIN(TestProcedures)

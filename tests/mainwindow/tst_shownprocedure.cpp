@@ -2,7 +2,7 @@
 #include "boxresponder.h"
 #include "mainwindow.h"
 #include "planwindow.h"
-#include "procedurerows.h"
+#include "storedprocedures.h"
 
 #include <QDockWidget>
 #include <QtTest>
@@ -31,7 +31,7 @@ private slots:
     void initTestCase()
     {
         win.reset(new PlanWindow);
-        rows.reset(new ProcedureRows(win->sandbox));
+        rows.reset(new StoredProcedures(win->sandbox));
     }
     void cleanupTestCase()
     {
@@ -200,7 +200,7 @@ private:
 
     QScopedPointer<BoxResponder> boxes;
     QScopedPointer<PlanWindow> win;
-    QScopedPointer<ProcedureRows> rows;
+    QScopedPointer<StoredProcedures> rows;
 };
 
 QTEST_MAIN(TestShownProcedure)

@@ -1,0 +1,394 @@
+// A plan stored as a SID or a STAR through its button: the rows, the boxes, the trees.
+#include "boxresponder.h"
+#include "cflightplan.h"
+#include "mainwindow.h"
+#include "planlines.h"
+#include "planwindow.h"
+#include "storedprocedures.h"
+
+#include <QDockWidget>
+#include <QLineEdit>
+#include <QtTest>
+
+namespace {
+
+/// One of the pair.
+struct Kind
+{
+    const char* button;
+    const char* nameTitle;
+    const char* nameLabel;
+    const char* storedTitle;
+    const char* storedText; ///< %1 the name
+};
+
+const Kind sid{"btnCreateSID", "Nouveau SID", "Nom du SID", "Enregistrement SID", "Le SID %1 a été enregistré"};
+const Kind star{"btnCreateSTAR", "Nouveau STAR", "Nom du STAR", "Enregistrement STAR", "Le STAR %1 a été enregistré"};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Kind)
+
+class TestCreatedProcedures : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        win.reset(new PlanWindow);
+        rows.reset(new StoredProcedures(win->sandbox));
+    }
+    void cleanupTestCase()
+    {
+        win.reset();
+    }
+    void init()
+    {
+        boxes.reset(new BoxResponder);
+        rows->clear();
+        tree("treeWSid")->clear();
+        tree("treeWStar")->clear();
+        for (const char* dock : {"dockWSid", "dockWStar"})
+            win->window->findChild<QDockWidget*>(dock)->setWindowTitle("untouched");
+        win->window->setPlanActions(true);
+        win->clearCalls();
+    }
+    void cleanup()
+    {
+        win->sandbox.sql(dbfile::route, "DROP TRIGGER IF EXISTS locked");
+        if (!win->plan().lines.isEmpty())
+            boxes->expectMessage("Nouveau plan de vol", "Voulez vous effacer le plan de vol en cours ?");
+        win->window->askResetPlan();
+        boxes.reset();
+    }
+
+    void aPlanBecomesASid()
+    {
+        win->add({"LFPO", "PGS-N1", "BAMES-W1"});
+        win->addClicked("WPT", 48.1234567, -1.5);
+        win->plan().lines[0]->altd = 5000; // flown, not stored
+        win->plan().lines[1]->altd = 6000;
+        store(sid, "ABC1");
+        QCOMPARE(rows->stored(), (QStringList{"0;ABC110;FR001;ABC1;10;2;LFPO;0;291;175411;8494",
+                                              "0;ABC120;FR001;ABC1;20;2;PGS;1;300;175800;9000",
+                                              "0;ABC130;FR001;ABC1;30;2;BAMES;4096;0;175320;10800",
+                                              "0;ABC140;FR001;ABC1;40;2;WPT001;4096;0;173244.444;1290600"}));
+    }
+
+    void aPlanBecomesAStar()
+    {
+        win->add({"CGN-N8", "ETAMP-W3", "LFBO"});
+        store(star, "BCD2");
+        // The airport has the highest number, and the procedure is the airport's.
+        QCOMPARE(rows->stored(), (QStringList{"0;BCD210;FR002;BCD2;10;1;CGN;8;552;162900;6300",
+                                              "0;BCD220;FR002;BCD2;20;1;ETAMP;4096;0;172800;7200",
+                                              "0;BCD230;FR002;BCD2;30;1;LFBO;0;499;157086;4924"}));
+    }
+
+    void theWholePlanGoesIn_data()
+    {
+        bothKinds();
+    }
+    void theWholePlanGoesIn()
+    {
+        QFETCH(Kind, kind);
+        win->add({"LFPO", "PGS-N1", "LFXX", "BAMES-W1", "LFBO"});
+        store(kind, "ABC1");
+        QCOMPARE(rows->stored().size(), 5);
+        QCOMPARE(rows->stored().at(2).section(';', 6, 7), QString("LFXX;0"));
+    }
+
+    void theAirportsKeyIsThatOfItsEnd()
+    {
+        win->add({"LFPO", "PGS-N1", "LFBO"});
+        store(sid, "OUT");
+        store(star, "IN");
+        QStringList keys;
+        for (const QString& row : rows->stored())
+            keys << row.section(';', 2, 3);
+        QCOMPARE(keys, (QStringList{"FR001;OUT", "FR001;OUT", "FR001;OUT", "FR002;IN", "FR002;IN", "FR002;IN"}));
+    }
+
+    void anEmptyPlanIsPassedOverInSilence_data()
+    {
+        bothKinds();
+    }
+    void anEmptyPlanIsPassedOverInSilence()
+    {
+        QFETCH(Kind, kind);
+        win->click(kind.button);
+        QVERIFY(boxes->seen().isEmpty());
+        QCOMPARE(win->told(), QString());
+    }
+
+    void aSidWantsTheAirportFirst()
+    {
+        win->add({"PGS-N1", "LFPO"});
+        expectRefusal("Création d'un SID", "Le nouveau SID doit commencé par un aéroport");
+        win->click("btnCreateSID");
+        checkRefusal();
+    }
+
+    void aStarWantsTheAirportLast()
+    {
+        win->add({"LFPO", "BAMES-W1"});
+        expectRefusal("Création d'un STAR", "Le nouveau STAR doit finir par un aéroport");
+        win->click("btnCreateSTAR");
+        checkRefusal();
+    }
+
+    void theNameIsAskedForWithAnEmptyField_data()
+    {
+        bothKinds();
+    }
+    void theNameIsAskedForWithAnEmptyField()
+    {
+        QFETCH(Kind, kind);
+        win->add({"LFPO"});
+        boxes->expectInput(kind.nameTitle, kind.nameLabel, "ABC1");
+        boxes->expectAnyMessage();
+        win->click(kind.button);
+        QCOMPARE(boxes->seen().first().value, QString());
+        QCOMPARE(boxes->seen().first().parentClass, QString("MainWindow"));
+        QCOMPARE(boxes->seen().last().icon, QMessageBox::Information);
+        QCOMPARE(boxes->seen().last().choices.size(), 1);
+    }
+
+    void withoutANameNothingHappens_data()
+    {
+        bothKinds();
+    }
+    void withoutANameNothingHappens()
+    {
+        QFETCH(Kind, kind);
+        win->add({"LFPO"});
+        rows->addProcedure("ABC1", 2, {"BAMES"});
+        boxes->expectInputRejected(kind.nameTitle, kind.nameLabel);
+        win->click(kind.button);
+        boxes->expectDialog("QInputDialog", [](QDialog* dialog) {
+            dialog->findChild<QLineEdit*>()->setText("ABC1");
+            dialog->reject();
+        });
+        win->click(kind.button);
+        boxes->expectInput(kind.nameTitle, kind.nameLabel, "");
+        win->click(kind.button);
+        QVERIFY(boxes->allUsed());
+        QCOMPARE(boxes->seen().size(), 3);
+        QCOMPARE(rows->stored().size(), 1);
+        QCOMPARE(outline(*tree("treeWSid")), QString());
+    }
+
+    void oneAirportGivesOneRow_data()
+    {
+        bothKinds();
+    }
+    void oneAirportGivesOneRow()
+    {
+        QFETCH(Kind, kind);
+        win->add({"LFPO"});
+        store(kind, "SOLO");
+        QCOMPARE(rows->stored().size(), 1);
+        QCOMPARE(rows->stored().first().section(';', 4, 4), QString("10"));
+        QCOMPARE(rows->stored().first().section(';', 7, 7), QString("0"));
+    }
+
+    void theOldProcedureOfThatNameGoesWhoseverItWas_data()
+    {
+        bothKinds();
+    }
+    void theOldProcedureOfThatNameGoesWhoseverItWas()
+    {
+        QFETCH(Kind, kind);
+        rows->add({{"sapt", "FR002"}, {"strm", "X"}, {"sqnm", 10}});
+        rows->add({{"sapt", "FR002"}, {"strm", "X"}, {"sqnm", 20}});
+        rows->add({{"sapt", "FR002"}, {"strm", "Y"}, {"sqnm", 10}});
+        win->add({"LFPO"});
+        store(kind, "X");
+        QCOMPARE(rows->names(), QString("X Y"));
+        QCOMPARE(rows->stored().size(), 2);
+        QVERIFY(rows->stored().last().startsWith("0;X10;FR001;X;10;"));
+    }
+
+    void aShorterProcedureLeavesNothingOfTheLongerOne()
+    {
+        win->add({"LFPO", "PGS-N1", "BAMES-W1"});
+        store(sid, "ABC1");
+        QCOMPARE(rows->stored().size(), 3);
+        win->setCurrent(2);
+        win->window->sFpLineDel();
+        store(sid, "ABC1");
+        QCOMPARE(rows->stored().size(), 2);
+    }
+
+    void aRowWithTheSameKeyIsReplaced()
+    {
+        // The eleventh point of "ABC" has the key of the first point of "ABC1".
+        win->sandbox.addProcedureLeg({{"skey", "ABC110"}, {"sapt", "FR002"}, {"strm", "ABC"}, {"sqnm", 110}});
+        win->add({"LFPO"});
+        store(sid, "ABC1");
+        QCOMPARE(rows->names(), QString("ABC1"));
+    }
+
+    void aNameWithAnApostropheIsNotStoredAndSaidToBe_data()
+    {
+        bothKinds();
+    }
+    void aNameWithAnApostropheIsNotStoredAndSaidToBe()
+    {
+        QFETCH(Kind, kind);
+        rows->addProcedure("ABC1", 2, {"BAMES"});
+        win->add({"LFPO"});
+        store(kind, "L'Est");
+        QCOMPARE(rows->names(), QString("ABC1"));
+        QCOMPARE(boxes->seen().size(), 2);
+    }
+
+    void anApostropheInAPointLosesThisPointOnly()
+    {
+        win->add({"LFPO"});
+        win->addClicked("L'Est", 48, 2);
+        win->add({"BAMES-W1"});
+        store(sid, "ABC1");
+        QCOMPARE(rows->stored().size(), 2);
+        QVERIFY(rows->stored().last().startsWith("0;ABC130;FR001;ABC1;30;2;BAMES;"));
+    }
+
+    void aRefusedRowIsSaidToBeStored_data()
+    {
+        bothKinds();
+    }
+    void aRefusedRowIsSaidToBeStored()
+    {
+        QFETCH(Kind, kind);
+        win->sandbox.sql(dbfile::route,
+                         "CREATE TRIGGER locked BEFORE INSERT ON SIDSTAR BEGIN SELECT RAISE(ABORT, 'locked'); END");
+        win->add({"LFPO"});
+        store(kind, "ABC1");
+        QCOMPARE(rows->stored(), QStringList());
+    }
+
+    void aNameWithAPlaceNumberStaysAsItIs()
+    {
+        win->add({"LFPO"});
+        store(sid, "%2%1");
+        QCOMPARE(rows->names(), QString("%2%1"));
+        QVERIFY(rows->stored().first().startsWith("0;%2%110;"));
+    }
+
+    void aSidFillsTheTreesOfTheFirstLine()
+    {
+        rows->addProcedure("OLD", 1, {"BAMES"});
+        win->add({"LFPO", "PGS-N1", "LFBO"});
+        store(sid, "ABC1");
+        QCOMPARE(outline(*tree("treeWSid")), QString("ABC1[LFPO PGS LFBO]"));
+        QCOMPARE(outline(*tree("treeWStar")), QString("OLD[BAMES]"));
+        QCOMPARE(win->title("dockWSid"), QString("SID : LFPO"));
+        QCOMPARE(win->title("dockWStar"), QString("STAR : LFPO"));
+    }
+
+    void aStarFillsTheTreesOfTheLastLine()
+    {
+        win->add({"LFPO", "PGS-N1", "LFBO"});
+        store(star, "BCD2");
+        QCOMPARE(outline(*tree("treeWSid")), QString());
+        QCOMPARE(outline(*tree("treeWStar")), QString("BCD2[LFPO PGS LFBO]"));
+        QCOMPARE(win->title("dockWSid"), QString("SID : LFBO"));
+        QCOMPARE(win->title("dockWStar"), QString("STAR : LFBO"));
+    }
+
+    void theTreesAreFilledBeforeTheMessage()
+    {
+        win->add({"LFPO"});
+        QString shown;
+        boxes->expectInput("Nouveau SID", "Nom du SID", "ABC1");
+        boxes->expectDialog("QMessageBox", [&](QDialog* dialog) {
+            shown = outline(*tree("treeWSid"));
+            dialog->accept();
+        });
+        win->click("btnCreateSID");
+        QCOMPARE(shown, QString("ABC1[LFPO]"));
+    }
+
+    void aNavaidOfTypeEightShowsItsPicture()
+    {
+        win->add({"LFPO", "CGN-N8", "PGS-N1"});
+        store(sid, "ABC1");
+        const QTreeWidgetItem* top = tree("treeWSid")->topLevelItem(0);
+        QVERIFY(top);
+        QCOMPARE(pictureOf(top->child(1)), QImage(":/icon/images/Img03.bmp").convertToFormat(QImage::Format_RGB32));
+        QCOMPARE(pictureOf(top->child(2)), QImage(":/icon/images/Img05.bmp").convertToFormat(QImage::Format_RGB32));
+    }
+
+    void aLoadedPlanHasForgottenTheTypesOfItsNavaids()
+    {
+        win->sandbox.writeFile("Flightplan/LOADED.FPL", airportAndNavaidText);
+        boxes->expectFiles("Ouvrir un plan de vol existant", {win->sandbox.path("Flightplan/LOADED.FPL")});
+        win->click("btnLoadFlightPlan");
+        QCOMPARE(win->idents(), QString("KSFO OAK"));
+        store(sid, "ABC1");
+        QCOMPARE(rows->stored(), (QStringList{"0;ABC110;US_KSFO;ABC1;10;2;KSFO;0;13;135720.5;-440912.25",
+                                              "0;ABC120;US_KSFO;ABC1;20;2;OAK;0;10;135800;-440000"}));
+    }
+
+    void thePlanAndTheMapStayAsTheyAre()
+    {
+        win->add({"LFPO", "PGS-N1"});
+        win->setCurrent(1, 3);
+        win->clearCalls();
+        store(sid, "ABC1");
+        QCOMPARE(win->idents(), QString("LFPO PGS"));
+        QCOMPARE(win->current(), qMakePair(1, 3));
+        QCOMPARE(win->told(), QString());
+    }
+
+private:
+    QTreeWidget* tree(const char* name) const
+    {
+        return win->window->findChild<QTreeWidget*>(name);
+    }
+
+    static QImage pictureOf(const QTreeWidgetItem* item)
+    {
+        return item->icon(0).pixmap(16, 16).toImage().convertToFormat(QImage::Format_RGB32);
+    }
+
+    static void bothKinds()
+    {
+        QTest::addColumn<Kind>("kind");
+        QTest::newRow("SID") << sid;
+        QTest::newRow("STAR") << star;
+    }
+
+    /// Stores the plan, which works out.
+    void store(const Kind& kind, const QString& name)
+    {
+        boxes->expectInput(kind.nameTitle, kind.nameLabel, name);
+        boxes->expectMessage(kind.storedTitle, QString(kind.storedText).replace("%1", name));
+        win->click(kind.button);
+        QVERIFY(boxes->allUsed());
+    }
+
+    void expectRefusal(const QString& title, const QString& text)
+    {
+        rows->addProcedure("ABC1", 2, {"BAMES"});
+        boxes->expectMessage(title, text);
+    }
+
+    void checkRefusal()
+    {
+        QVERIFY(boxes->allUsed());
+        QCOMPARE(boxes->seen().size(), 1);
+        QCOMPARE(boxes->seen().first().icon, QMessageBox::Warning);
+        QCOMPARE(rows->stored().size(), 1);
+        QCOMPARE(outline(*tree("treeWSid")), QString());
+        QCOMPARE(win->title("dockWSid"), QString("untouched"));
+    }
+
+    QScopedPointer<BoxResponder> boxes;
+    QScopedPointer<PlanWindow> win;
+    QScopedPointer<StoredProcedures> rows;
+};
+
+QTEST_MAIN(TestCreatedProcedures)
+#include "tst_createdprocedures.moc"

@@ -1,0 +1,495 @@
+// Stored procedures copied into the plan: a SID behind the departure, a STAR ahead of the destination.
+#include "boxresponder.h"
+#include "cflightplan.h"
+#include "mainwindow.h"
+#include "planlines.h"
+#include "planwindow.h"
+#include "storedprocedures.h"
+
+#include <QDockWidget>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTableWidget>
+#include <QtTest>
+
+namespace {
+
+/// What the page draws of the plan, from the departure to the destination.
+const char routeLatitudes[] = R"js(
+    (function (path) {
+        var latitudes = [];
+        for (var i = 0; i < path.getLength(); ++i)
+            latitudes.push(path.getAt(i).lat());
+        return latitudes.join(' ');
+    })(page.route.line.getPath()))js";
+
+} // namespace
+
+class TestProceduresInPlan : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        // On another place than LFPO, which is clicked on the map.
+        win.reset(new PlanWindow([](const Sandbox& sandbox) {
+            sandbox.sql(dbfile::gen, "UPDATE APT SET alat = 60000 WHERE ukey = 'XX001'");
+        }));
+        win->window->resize(1280, 960);
+        rows.reset(new StoredProcedures(win->sandbox));
+    }
+    void cleanupTestCase()
+    {
+        win.reset();
+    }
+    void init()
+    {
+        boxes.reset(new BoxResponder);
+        rows->clear();
+        tree("treeWSid")->clear();
+        tree("treeWStar")->clear();
+        bringToFront("dockWDebug");
+        win->clearCalls();
+    }
+    void cleanup()
+    {
+        tree("treeWSid")->setSelectionMode(QAbstractItemView::SingleSelection);
+        tree("treeWStar")->setSelectionMode(QAbstractItemView::SingleSelection);
+        if (!win->plan().lines.isEmpty())
+            boxes->expectMessage("Nouveau plan de vol", "Voulez vous effacer le plan de vol en cours ?");
+        win->window->askResetPlan();
+        boxes.reset();
+    }
+
+    void aPlanComesTogetherWithSidAndStar();
+
+    void aSidLandsBehindTheCurrentLine()
+    {
+        prepare("treeWSid", 2, {"ONE", "TWO"});
+        win->setCurrent(0);
+        win->click("btnAddSid");
+        QCOMPARE(win->idents(), QString("LFPO ONE TWO LFBO"));
+    }
+
+    void aStarLandsAheadOfTheCurrentLine()
+    {
+        prepare("treeWStar", 1, {"ONE", "TWO"});
+        win->setCurrent(1);
+        win->click("btnAddStar");
+        QCOMPARE(win->idents(), QString("LFPO ONE TWO LFBO"));
+    }
+
+    void anAirportOfTheProcedureIsSkipped_data()
+    {
+        bothKinds();
+    }
+    void anAirportOfTheProcedureIsSkipped()
+    {
+        QFETCH(QString, treeName);
+        QFETCH(QString, button);
+        QFETCH(int, type);
+        rows->add({{"strm", "A1"}, {"sqnm", 10}, {"styp", type}, {"swid", "LFPO"}, {"swpt", 0}});
+        rows->add({{"strm", "A1"}, {"sqnm", 20}, {"styp", type}, {"swid", "ONE"}, {"swpt", 8}});
+        rows->add({{"strm", "A1"}, {"sqnm", 30}, {"styp", type}, {"swid", "UNTYPED"}, {"swpt", QVariant()}});
+        rows->add({{"strm", "A1"}, {"sqnm", 40}, {"styp", type}, {"swid", "TWO"}, {"swpt", 4096}});
+        rows->add({{"strm", "A1"}, {"sqnm", 50}, {"styp", type}, {"swid", "LFBO"}, {"swpt", 0}});
+        win->add({"KSFO"});
+        fillAndSelect(treeName);
+        win->click(button);
+        QCOMPARE(win->idents(), QString(type == 2 ? "KSFO ONE TWO" : "ONE TWO KSFO"));
+    }
+
+    void aProcedureOfItsAirportAloneAddsNothing_data()
+    {
+        bothKinds();
+    }
+    void aProcedureOfItsAirportAloneAddsNothing()
+    {
+        QFETCH(QString, treeName);
+        QFETCH(QString, button);
+        QFETCH(int, type);
+        win->add({"LFPO"});
+        const QString word = type == 2 ? "SID" : "STAR";
+        boxes->expectInput("Nouveau " + word, "Nom du " + word, "SOLO");
+        boxes->expectMessage("Enregistrement " + word, "Le " + word + " SOLO a été enregistré");
+        win->click("btnCreate" + word);
+        tree(treeName)->setCurrentItem(tree(treeName)->topLevelItem(0));
+        win->clearCalls();
+        win->click(button);
+        QCOMPARE(win->idents(), QString("LFPO"));
+        QCOMPARE(win->probe->calls("addPointToFp").size(), 1);
+    }
+
+    void theLinesAreOrdinaryWaypoints_data()
+    {
+        bothKinds();
+    }
+    void theLinesAreOrdinaryWaypoints()
+    {
+        QFETCH(QString, treeName);
+        QFETCH(QString, button);
+        QFETCH(int, type);
+        rows->add({{"strm", "A1"},
+                   {"sqnm", 10},
+                   {"styp", type},
+                   {"swid", "CGN"},
+                   {"swpt", 8},
+                   {"salt", 900},
+                   {"slat", 162900.5},
+                   {"slon", -6300.25}});
+        win->add({"LFPO"});
+        fillAndSelect(treeName);
+        win->click(button);
+        const CFpLine& line = *win->plan().lines.at(type == 2 ? 1 : 0);
+        QCOMPARE(line.fpType, QString("wayp"));
+        QCOMPARE(line.usage, QString("uswp"));
+        QCOMPARE(line.name, QString("CGN"));
+        QCOMPARE(line.iden, QString("CGN"));
+        QCOMPARE(line.dbKey, QString("NONE"));
+        QCOMPARE(line.speed, 120);
+        QCOMPARE(line.altd, 0);
+        QCOMPARE(line.elev, 0);
+        QCOMPARE(line.navType, 0);
+        QCOMPARE(line.latS, 162900.5);
+        QCOMPARE(line.lonS, -6300.25);
+        // The file has the usage word for the type word as well.
+        QVERIFY(win->plan().textLines.join("").contains("\tuswp\n\t<bgno>"));
+        QVERIFY(win->plan().textLines.join("").contains("\t\tNONE\n\t\t<user> ---------- Waypoint usage --------\n"
+                                                        "\t\tuswp\n"));
+    }
+
+    void thePageIsToldToClearAndToDraw_data()
+    {
+        bothKinds();
+    }
+    void thePageIsToldToClearAndToDraw()
+    {
+        QFETCH(QString, treeName);
+        QFETCH(QString, button);
+        QFETCH(int, type);
+        prepare(treeName, type, {"ONE"});
+        win->setCurrent(type == 2 ? 0 : 1);
+        bringToFront("dockWFlightPlan");
+        win->clearCalls();
+        win->click(button);
+        QCOMPARE(win->told(), QString("clearSS() clearFP() addPointToFp(LatLng(48.72528,2.35944),\"PARIS ORLY\") "
+                                      "addPointToFp(LatLng(48.7,3),\"ONE\") "
+                                      "addPointToFp(LatLng(43.635,1.36778),\"TOULOUSE BLAGNAC\") pushFP()"));
+    }
+
+    void thePlanComesToTheFrontAndItsLastRowIsCurrent_data()
+    {
+        bothKinds();
+    }
+    void thePlanComesToTheFrontAndItsLastRowIsCurrent()
+    {
+        QFETCH(QString, treeName);
+        QFETCH(QString, button);
+        QFETCH(int, type);
+        prepare(treeName, type, {"ONE", "TWO"});
+        win->setCurrent(0);
+        bringToFront(type == 2 ? "dockWSid" : "dockWStar");
+        QVERIFY(!win->isInFront("dockWFlightPlan"));
+        win->click(button);
+        QVERIFY(win->isInFront("dockWFlightPlan"));
+        QCOMPARE(win->current(), qMakePair(3, 1));
+        QCOMPARE(win->grid()->rowCount(), 4);
+    }
+
+    void aSelectedPointAddsNothingButClearsAndRedraws_data()
+    {
+        bothKinds();
+    }
+    void aSelectedPointAddsNothingButClearsAndRedraws()
+    {
+        QFETCH(QString, treeName);
+        QFETCH(QString, button);
+        QFETCH(int, type);
+        prepare(treeName, type, {"ONE", "TWO"});
+        win->setCurrent(0);
+        bringToFront("dockWFlightPlan");
+        tree(treeName)->setCurrentItem(tree(treeName)->topLevelItem(0)->child(1));
+        win->clearCalls();
+        win->click(button);
+        QCOMPARE(win->told(), QString("clearSS() clearFP() addPointToFp(LatLng(48.72528,2.35944),\"PARIS ORLY\") "
+                                      "addPointToFp(LatLng(43.635,1.36778),\"TOULOUSE BLAGNAC\") pushFP()"));
+        QCOMPARE(win->idents(), QString("LFPO LFBO"));
+        QCOMPARE(win->current(), qMakePair(1, 1));
+    }
+
+    void unlessOneItemIsSelectedNothingHappens_data()
+    {
+        bothKinds();
+    }
+    void unlessOneItemIsSelectedNothingHappens()
+    {
+        QFETCH(QString, treeName);
+        QFETCH(QString, button);
+        QFETCH(int, type);
+        prepare(treeName, type, {"ONE"});
+        rows->addProcedure("B1", type, {"TWO"});
+        fillAndSelect(treeName);
+        win->setCurrent(0);
+        tree(treeName)->clearSelection();
+        QVERIFY(tree(treeName)->currentItem()); // current, and not selected
+        win->clearCalls();
+        win->click(button);
+        tree(treeName)->setSelectionMode(QAbstractItemView::MultiSelection);
+        tree(treeName)->selectAll();
+        QVERIFY(tree(treeName)->selectedItems().size() > 1);
+        win->click(button);
+        QCOMPARE(win->told(), QString());
+        QCOMPARE(win->idents(), QString("LFPO LFBO"));
+        QVERIFY(!win->isInFront("dockWFlightPlan"));
+    }
+
+    void eachButtonLooksAtItsOwnTree()
+    {
+        prepare("treeWSid", 2, {"ONE"});
+        win->clearCalls();
+        win->click("btnAddStar");
+        QCOMPARE(win->told(), QString());
+        QCOMPARE(win->idents(), QString("LFPO LFBO"));
+    }
+
+    void aStarWithoutACurrentRowPutsItsFirstPointLast()
+    {
+        prepare("treeWStar", 1, {"ONE", "TWO", "THREE"});
+        win->setCurrent(-1, -1);
+        QCOMPARE(win->current(), qMakePair(-1, -1));
+        win->click("btnAddStar");
+        QCOMPARE(win->idents(), QString("TWO THREE ONE LFPO LFBO"));
+    }
+
+    void aSidWithoutACurrentRowLandsAtTheHead()
+    {
+        prepare("treeWSid", 2, {"ONE", "TWO", "THREE"});
+        win->setCurrent(-1, -1);
+        win->click("btnAddSid");
+        QCOMPARE(win->idents(), QString("ONE TWO THREE LFPO LFBO"));
+    }
+
+    void anEmptiedPlanTakesTheProcedureToo_data()
+    {
+        bothKinds();
+    }
+    void anEmptiedPlanTakesTheProcedureToo()
+    {
+        QFETCH(QString, treeName);
+        QFETCH(QString, button);
+        QFETCH(int, type);
+        prepare(treeName, type, {"ONE", "TWO"});
+        boxes->expectMessage("Nouveau plan de vol", "Voulez vous effacer le plan de vol en cours ?");
+        win->click("btnNewFlightPlan");
+        QCOMPARE(outline(*tree(treeName)), QString("A1[ONE TWO]"));
+        win->click(button);
+        QCOMPARE(win->idents(), QString(type == 2 ? "ONE TWO" : "TWO ONE"));
+        QCOMPARE(win->grid()->rowCount(), 2);
+    }
+
+    void anEmptiedPlanStaysEmptyWithoutAPoint_data()
+    {
+        bothKinds();
+    }
+    void anEmptiedPlanStaysEmptyWithoutAPoint()
+    {
+        QFETCH(QString, treeName);
+        QFETCH(QString, button);
+        QFETCH(int, type);
+        prepare(treeName, type, {"ONE", "TWO"});
+        boxes->expectMessage("Nouveau plan de vol", "Voulez vous effacer le plan de vol en cours ?");
+        win->click("btnNewFlightPlan");
+        tree(treeName)->setCurrentItem(tree(treeName)->topLevelItem(0)->child(0));
+        win->clearCalls();
+        win->click(button);
+        QCOMPARE(win->idents(), QString());
+        QCOMPARE(win->grid()->rowCount(), 0);
+        QCOMPARE(win->probe->calls("clearFP").size(), 1);
+        QCOMPARE(win->probe->calls("addPointToFp"), QStringList());
+    }
+
+    void aProcedureThatIsGoneAddsNothing()
+    {
+        prepare("treeWSid", 2, {"ONE"});
+        rows->clear();
+        win->click("btnAddSid");
+        QCOMPARE(win->idents(), QString("LFPO LFBO"));
+    }
+
+    void navaidsOfALoadedPlanAreSkippedAsIfTheyWereAirports()
+    {
+        win->sandbox.writeFile("Flightplan/LOADED.FPL", airportAndNavaidText);
+        boxes->expectFiles("Ouvrir un plan de vol existant", {win->sandbox.path("Flightplan/LOADED.FPL")});
+        win->click("btnLoadFlightPlan");
+        win->addClicked("WPT", 37, -122);
+        boxes->expectInput("Nouveau SID", "Nom du SID", "OUT");
+        boxes->expectMessage("Enregistrement SID", "Le SID OUT a été enregistré");
+        win->click("btnCreateSID");
+        QVERIFY(outline(*tree("treeWSid")).startsWith("OUT[KSFO OAK WPT"));
+        boxes->expectMessage("Nouveau plan de vol", "Voulez vous effacer le plan de vol en cours ?");
+        win->click("btnNewFlightPlan");
+        win->add({"KSFO"});
+        tree("treeWSid")->setCurrentItem(tree("treeWSid")->topLevelItem(0));
+        win->click("btnAddSid");
+        QCOMPARE(win->plan().lines.size(), 2);
+        QVERIFY(win->plan().lines.last()->iden.startsWith("WPT"));
+    }
+
+private:
+    QTreeWidget* tree(const QString& name) const
+    {
+        return win->window->findChild<QTreeWidget*>(name);
+    }
+
+    static void bothKinds()
+    {
+        QTest::addColumn<QString>("treeName");
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<int>("type");
+        QTest::newRow("SID") << "treeWSid"
+                             << "btnAddSid" << 2;
+        QTest::newRow("STAR") << "treeWStar"
+                              << "btnAddStar" << 1;
+    }
+
+    /// The airports LFPO and LFBO in the plan, and A1 of the points selected in the tree.
+    void prepare(const QString& treeName, int type, const QStringList& points)
+    {
+        rows->addProcedure("A1", type, points);
+        win->add({"LFPO", "LFBO"});
+        fillAndSelect(treeName);
+        bringToFront("dockWDebug");
+        win->clearCalls();
+    }
+
+    void fillAndSelect(const QString& treeName)
+    {
+        tree("treeWSid")->clear();
+        tree("treeWStar")->clear();
+        win->window->fillSidStarTrees("FR001");
+        tree(treeName)->setCurrentItem(tree(treeName)->topLevelItem(0));
+        QCOMPARE(tree(treeName)->selectedItems().size(), 1);
+    }
+
+    void bringToFront(const QString& dock) const
+    {
+        win->window->findChild<QDockWidget*>(dock)->raise();
+        QCoreApplication::processEvents();
+    }
+
+    void openTab(const QString& title) const;
+    void clickRow(int row) const;
+    void clickProcedure(const QString& treeName, const QString& procedure) const;
+    void press(const QString& button) const;
+    void addFromMap(double latitude, double longitude) const;
+
+    QScopedPointer<BoxResponder> boxes;
+    QScopedPointer<PlanWindow> win;
+    QScopedPointer<StoredProcedures> rows;
+};
+
+void TestProceduresInPlan::openTab(const QString& title) const
+{
+    for (QTabBar* bar : win->window->findChildren<QTabBar*>()) {
+        for (int tab = 0; tab < bar->count(); ++tab) {
+            if (bar->tabText(tab) == title) {
+                QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(tab).center());
+                QCoreApplication::processEvents();
+                return;
+            }
+        }
+    }
+    QFAIL(qPrintable("no tab " + title));
+}
+
+void TestProceduresInPlan::clickRow(int row) const
+{
+    QTableWidget* grid = win->grid();
+    const QPoint place = grid->visualItemRect(grid->item(row, 1)).center();
+    QVERIFY(grid->viewport()->rect().contains(place));
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+}
+
+void TestProceduresInPlan::clickProcedure(const QString& treeName, const QString& procedure) const
+{
+    const QList<QTreeWidgetItem*> found = tree(treeName)->findItems(procedure, Qt::MatchExactly);
+    QCOMPARE(found.size(), 1);
+    const QPoint place = tree(treeName)->visualItemRect(found.first()).center();
+    QVERIFY(tree(treeName)->viewport()->rect().contains(place));
+    QVERIFY(tree(treeName)->isVisible());
+    QTest::mouseClick(tree(treeName)->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+}
+
+void TestProceduresInPlan::press(const QString& button) const
+{
+    auto* found = win->window->findChild<QPushButton*>(button);
+    QVERIFY(found && found->isVisible() && found->isEnabled());
+    QTest::mouseClick(found, Qt::LeftButton);
+}
+
+void TestProceduresInPlan::addFromMap(double latitude, double longitude) const
+{
+    win->probe->contextMenu(win->probe->pointOf(latitude, longitude));
+    QVERIFY(win->probe->chooseEntry("Ajouter au plan de vol"));
+}
+
+/// The whole job with the mouse: two airports from the map, then the departure's SID and the destination's STAR.
+void TestProceduresInPlan::aPlanComesTogetherWithSidAndStar()
+{
+    rows->add({{"strm", "OUT"}, {"sqnm", 10}, {"styp", 2}, {"swid", "LFPO"}, {"swpt", 0}});
+    rows->add(
+        {{"strm", "OUT"}, {"sqnm", 20}, {"styp", 2}, {"swid", "PGS"}, {"swpt", 1}, {"slat", 172800}, {"slon", 0}});
+    rows->add({{"strm", "OUT"}, {"sqnm", 30}, {"styp", 2}, {"swid", "TWO"}, {"swpt", 4096}, {"slat", 169200}});
+    rows->addProcedure("OTHER", 2, {"THREE"});
+    for (const Row& row : {Row{{"sqnm", 10}, {"swid", "FOUR"}, {"swpt", 8}, {"slat", 162000}},
+                           Row{{"sqnm", 20}, {"swid", "FIVE"}, {"swpt", 17}, {"slat", 158400}},
+                           Row{{"sqnm", 30}, {"swid", "LFBO"}, {"swpt", 0}}}) {
+        Row whole = row;
+        whole.insert("sapt", "FR002");
+        whole.insert("strm", "IN");
+        whole.insert("styp", 1);
+        rows->add(whole);
+    }
+
+    win->probe->evaluate("map.setCenter(new google.maps.LatLng(46.5, 2));map.setZoom(6)");
+    addFromMap(48.72528, 2.35944);
+    addFromMap(43.635, 1.36778);
+    QCOMPARE(win->idents(), QString("LFPO LFBO"));
+
+    clickRow(0);
+    QCOMPARE(outline(*tree("treeWSid")), QString("OUT[LFPO PGS TWO] OTHER[THREE]"));
+    QCOMPARE(outline(*tree("treeWStar")), QString());
+    openTab("SID : LFPO");
+    win->clearCalls();
+
+    clickProcedure("treeWSid", "OUT");
+    QCOMPARE(win->told(), QString("clearSS() addPointToSS(LatLng(48.7,3),\"LFPO\") addPointToSS(LatLng(48,0),\"PGS\") "
+                                  "addPointToSS(LatLng(47,3),\"TWO\")"));
+    QCOMPARE(win->probe->evaluate("page.procedure.line.getPath().getLength()").toInt(), 3);
+    QCOMPARE(win->idents(), QString("LFPO LFBO"));
+    QCOMPARE(win->current().first, 0);
+
+    press("btnAddSid");
+    QCOMPARE(win->idents(), QString("LFPO PGS TWO LFBO"));
+    QCOMPARE(win->current(), qMakePair(3, 1));
+    QVERIFY(win->isInFront("dockWFlightPlan"));
+    QCOMPARE(win->probe->evaluate("page.procedure.line.getPath().getLength()").toInt(), 0);
+    QCOMPARE(win->probe->evaluate("page.route.line.getPath().getLength()").toInt(), 4);
+
+    clickRow(3);
+    QCOMPARE(outline(*tree("treeWSid")), QString());
+    QCOMPARE(outline(*tree("treeWStar")), QString("IN[FOUR FIVE LFBO]"));
+    openTab("STAR : LFBO");
+    clickProcedure("treeWStar", "IN");
+    QCOMPARE(win->probe->evaluate("page.procedure.line.getPath().getLength()").toInt(), 3);
+    press("btnAddStar");
+    QCOMPARE(win->idents(), QString("LFPO PGS TWO FOUR FIVE LFBO"));
+    QCOMPARE(win->current(), qMakePair(5, 1));
+    QVERIFY(win->isInFront("dockWFlightPlan"));
+    QCOMPARE(win->probe->evaluate("page.procedure.line.getPath().getLength()").toInt(), 0);
+    QCOMPARE(win->probe->evaluate(routeLatitudes).toString(), QString("48.72528 48 47 45 44 43.635"));
+}
+
+QTEST_MAIN(TestProceduresInPlan)
+#include "tst_proceduresinplan.moc"
