@@ -13,9 +13,9 @@ const { clipRing, clipSegment } = require('../engine/clip.js');
 
 /** From which zoom a scale is drawn, and its cells' width and height in degrees. */
 const levels = [
-  { scale: '110m', fromZoom: 0, cell: 90 },
-  { scale: '50m', fromZoom: 4, cell: 15 },
-  { scale: '10m', fromZoom: 6.5, cell: 5 },
+  { scale: '110m', fromZoom: 0, cell: 45 },
+  { scale: '50m', fromZoom: 4, cell: 7.5 },
+  { scale: '10m', fromZoom: 6.5, cell: 2.5 },
 ];
 
 /** How far land reaches into the next cell, degrees: two fills that only touch would show a seam. */
@@ -117,7 +117,7 @@ class Cells {
   at(column, row) {
     const index = row * this.columns + column;
     if (!this.byIndex.has(index))
-      this.byIndex.set(index, { column: column, row: row, land: [], borders: [] });
+      this.byIndex.set(index, { column: column, row: row, land: [], lakes: [], borders: [] });
     return this.byIndex.get(index);
   }
 

@@ -21,6 +21,29 @@
    * @property {number} firstWorld @property {number} lastWorld the copies of the world in the canvas, 0 the first
    */
 
+  /** @param {{left, top, width, height, zoom}} area @return {Frame} */
+  engine.frameOf = function (context, area) {
+    const scale = engine.tileSize * Math.pow(2, area.zoom);
+    return Object.assign({
+      context: context,
+      scale: scale,
+      firstWorld: Math.floor(area.left / scale),
+      lastWorld: Math.floor((area.left + area.width) / scale),
+    }, area);
+  };
+
+  /** A drawing that fails is told on the console; it stops neither the others nor the move of the view. */
+  engine.paintSafely = function (painter, frame) {
+    frame.context.save();
+    try {
+      painter.paint(frame);
+    } catch (error) {
+      console.error(`${error} ${error.stack}`);
+    } finally {
+      frame.context.restore();
+    }
+  };
+
   engine.ChartCanvas = L.Layer.extend({
     /**
      * @param {string} pane the Leaflet pane
@@ -87,19 +110,7 @@
       };
       this.place();
       const frame = this.frame();
-      this.painters.forEach(painter => this.paintOne(painter, frame));
-    },
-
-    /** A drawing that fails is told on the console; it stops neither the others nor the move of the view. */
-    paintOne: function (painter, frame) {
-      frame.context.save();
-      try {
-        painter.paint(frame);
-      } catch (error) {
-        console.error(`${error} ${error.stack}`);
-      } finally {
-        frame.context.restore();
-      }
+      this.painters.forEach(painter => engine.paintSafely(painter, frame));
     },
 
     /**
@@ -108,14 +119,13 @@
      */
     paintMore: function (paint) {
       if (!this.pending)
-        this.paintOne({ paint: paint }, this.frame(true));
+        engine.paintSafely({ paint: paint }, this.frame(true));
     },
 
     /** @param {boolean} keep whether the picture stays */
     frame: function (keep) {
       const area = this.area;
       const ratio = window.devicePixelRatio || 1;
-      const scale = engine.tileSize * Math.pow(2, area.zoom);
       const width = Math.round(area.width * ratio);
       const height = Math.round(area.height * ratio);
       if (this.canvas.width !== width || this.canvas.height !== height) {
@@ -128,12 +138,7 @@
       context.setTransform(ratio, 0, 0, ratio, 0, 0);
       if (!keep)
         context.clearRect(0, 0, area.width, area.height);
-      return Object.assign({
-        context: context,
-        scale: scale,
-        firstWorld: Math.floor(area.left / scale),
-        lastWorld: Math.floor((area.left + area.width) / scale),
-      }, area);
+      return engine.frameOf(context, area);
     },
   });
 })();

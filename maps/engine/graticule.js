@@ -1,26 +1,60 @@
-/** Meridians and parallels at a round step that suits the zoom, with their degrees where they cross. */
+/** Meridians and parallels at a round step that suits the zoom, with their degrees and minutes on the view's edges. */
 (function () {
   'use strict';
   const engine = window.mapEngine;
 
   /** Steps in degrees; the finest that leaves at least `leastPixels` between two meridians is drawn. */
-  const steps = [1 / 60, 1 / 12, 1 / 6, 0.5, 1, 2, 5, 10, 30];
+  const steps = [1 / 60, 1 / 30, 1 / 12, 1 / 6, 0.5, 1, 2, 5, 10, 30];
   const leastPixels = 110;
-  /** The ink is that of the names on the water: how strongly lines and letters are drawn with it. */
-  const strength = { lines: 0.32, text: 0.95 };
+  /** The ink is that of the names on the water; lines are drawn with so much of it. */
+  const lineStrength = 0.32;
+
+  /** CSS pixels: the strips that the labels stand in, and what they leave free for the map's controls. */
+  const strip = { height: 16, width: 64 };
+  const corners = { right: 60, top: 20, bottom: 60 };
 
   function stepFor(scale) {
     return steps.find(step => step / 360 * scale >= leastPixels) || steps[steps.length - 1];
   }
 
-  /** Degrees, and minutes where there are any: 2°E, 48°30'N. */
-  function label(degrees, positive, negative) {
+  /** Degrees, and minutes where the step has any: 2°E, 48°30'N. */
+  function label(degrees, positive, negative, withMinutes) {
     const minutes = Math.round(Math.abs(degrees) * 60);
-    const side = minutes === 0 ? '' : degrees > 0 ? positive : negative;
+    const side = minutes % 10800 === 0 ? '' : degrees > 0 ? positive : negative;
     const rest = minutes % 60;
-    return `${Math.floor(minutes / 60)}°${rest ? `${rest < 10 ? '0' : ''}${rest}'` : ''}${side}`;
+    return `${Math.floor(minutes / 60)}°${withMinutes ? `${rest < 10 ? '0' : ''}${rest}'` : ''}${side}`;
   }
 
+  /** Lines of one pixel are sharp on half pixels; counted from the world's edge, so that neighbouring canvases agree. */
+  function half(unit, scale, origin) {
+    return Math.floor(unit * scale) + 0.5 - Math.round(origin);
+  }
+
+  /** @return {Array<{at: number, text: string}>} pixels from the area's left edge */
+  function meridians(area, scale) {
+    const step = stepFor(scale);
+    const lines = [];
+    const last = Math.floor(engine.longitudeOf((area.left + area.width) / scale) / step);
+    for (let i = Math.ceil(engine.longitudeOf(area.left / scale) / step); i <= last; ++i) {
+      const turned = i * step - 360 * Math.round(i * step / 360);
+      lines.push({ at: half(engine.unitX(i * step), scale, area.left), text: label(turned, 'E', 'W', step < 1) });
+    }
+    return lines;
+  }
+
+  /** @return {Array<{at: number, text: string}>} pixels from the area's upper edge */
+  function parallels(area, scale) {
+    const step = stepFor(scale);
+    const limit = Math.floor(85 / step);
+    const first = Math.ceil(engine.latitudeOf((area.top + area.height) / scale) / step);
+    const last = Math.min(limit, Math.floor(engine.latitudeOf(area.top / scale) / step));
+    const lines = [];
+    for (let i = Math.max(-limit, first); i <= last; ++i)
+      lines.push({ at: half(engine.unitY(i * step), scale, area.top), text: label(i * step, 'N', 'S', step < 1) });
+    return lines;
+  }
+
+  /** The lines, as a painter of the base map. */
   class Graticule {
     constructor() {
       this.colours = engine.baseColours();
@@ -29,69 +63,93 @@
     paint(frame) {
       if (!this.colours.seaText)
         return;
-      const step = stepFor(frame.scale);
       const context = frame.context;
-      context.strokeStyle = context.fillStyle = this.colours.seaText;
-      context.globalAlpha = strength.lines;
+      context.strokeStyle = this.colours.seaText;
+      context.globalAlpha = lineStrength;
       context.lineWidth = 1;
-      context.font = '10px sans-serif';
-      const meridians = this.meridians(frame, step);
-      const parallels = this.parallels(frame, step);
       context.beginPath();
-      meridians.forEach(line => {
-        context.moveTo(line.at, 0);
-        context.lineTo(line.at, frame.height);
+      // A line on the very edge of a canvas belongs to it or to its neighbour, and the halves of it to both.
+      const area = Object.assign({}, frame, { left: frame.left - 1, width: frame.width + 2, top: frame.top - 1,
+        height: frame.height + 2 });
+      meridians(area, frame.scale).forEach(line => {
+        context.moveTo(line.at - 1, 0);
+        context.lineTo(line.at - 1, frame.height);
       });
-      parallels.forEach(line => {
-        context.moveTo(0, line.at);
-        context.lineTo(frame.width, line.at);
+      parallels(area, frame.scale).forEach(line => {
+        context.moveTo(0, line.at - 1);
+        context.lineTo(frame.width, line.at - 1);
       });
       context.stroke();
-      context.globalAlpha = strength.text;
-      this.write(frame, meridians, parallels);
-    }
-
-    meridians(frame, step) {
-      const first = Math.ceil(engine.longitudeOf(frame.left / frame.scale) / step);
-      const last = Math.floor(engine.longitudeOf((frame.left + frame.width) / frame.scale) / step);
-      const lines = [];
-      for (let i = first; i <= last; ++i) {
-        const degrees = i * step;
-        const turned = degrees - 360 * Math.round(degrees / 360);
-        const at = half(engine.unitX(degrees) * frame.scale - frame.left);
-        lines.push({ at: at, text: label(turned, 'E', 'W'), number: i });
-      }
-      return lines;
-    }
-
-    parallels(frame, step) {
-      const limit = Math.floor(85 / step);
-      const first = Math.max(-limit, Math.ceil(engine.latitudeOf((frame.top + frame.height) / frame.scale) / step));
-      const last = Math.min(limit, Math.floor(engine.latitudeOf(frame.top / frame.scale) / step));
-      const lines = [];
-      for (let i = first; i <= last; ++i) {
-        const at = half(engine.unitY(i * step) * frame.scale - frame.top);
-        lines.push({ at: at, text: label(i * step, 'N', 'S'), number: i });
-      }
-      return lines;
-    }
-
-    /** On every second line, so that some stand in the view wherever the canvas lies. */
-    write(frame, meridians, parallels) {
-      const context = frame.context;
-      meridians.forEach(meridian => parallels.forEach(parallel => {
-        if (parallel.number % 2 === 0 && meridian.number % 2 !== 0)
-          context.fillText(meridian.text, meridian.at + 3, parallel.at - 3);
-        if (parallel.number % 2 !== 0 && meridian.number % 2 === 0)
-          context.fillText(parallel.text, meridian.at + 3, parallel.at - 3);
-      }));
     }
   }
 
-  /** Lines of one pixel are sharp on half pixels. */
-  function half(value) {
-    return Math.floor(value) + 0.5;
-  }
+  /** The labels: longitudes along the upper edge of the view, latitudes along the left one. They do not move with it. */
+  engine.GraticuleLabels = L.Layer.extend({
+    initialize: function () {
+      this.colours = engine.baseColours();
+    },
+
+    onAdd: function (leaflet) {
+      this.leaflet = leaflet;
+      this.top = L.DomUtil.create('canvas', 'graticule-labels', leaflet.getContainer());
+      this.side = L.DomUtil.create('canvas', 'graticule-labels', leaflet.getContainer());
+      this.write();
+    },
+
+    onRemove: function () {
+      this.top.remove();
+      this.side.remove();
+    },
+
+    getEvents: function () {
+      return { move: this.write, resize: this.write };
+    },
+
+    write: function () {
+      const corner = this.leaflet.containerPointToLayerPoint([0, 0]).add(this.leaflet.getPixelOrigin());
+      const size = this.leaflet.getSize();
+      const scale = engine.tileSize * Math.pow(2, this.leaflet.getZoom());
+      const area = { left: corner.x, top: corner.y, width: size.x, height: size.y };
+      const along = this.context(this.top, size.x, strip.height, 'center');
+      meridians(area, scale).filter(line => line.at > strip.width / 2 && line.at < size.x - corners.right)
+        .forEach(line => this.text(along, line.text, line.at, strip.height / 2 + 1));
+      const beside = this.context(this.side, strip.width, size.y, 'left');
+      parallels(area, scale).filter(line => line.at > corners.top && line.at < size.y - corners.bottom)
+        .forEach(line => this.text(beside, line.text, 4, line.at));
+    },
+
+    context: function (canvas, width, height, align) {
+      const ratio = window.devicePixelRatio || 1;
+      if (canvas.width !== Math.round(width * ratio) || canvas.height !== Math.round(height * ratio)) {
+        canvas.width = Math.round(width * ratio);
+        canvas.height = Math.round(height * ratio);
+        canvas.style.width = `${width}px`;
+        canvas.style.height = `${height}px`;
+      }
+      const context = canvas.getContext('2d');
+      context.setTransform(ratio, 0, 0, ratio, 0, 0);
+      context.clearRect(0, 0, width, height);
+      context.font = '10px "DejaVu Sans", "Segoe UI", sans-serif';
+      context.textAlign = align;
+      context.textBaseline = 'middle';
+      context.lineJoin = 'round';
+      context.lineWidth = 3;
+      return context;
+    },
+
+    text: function (context, text, x, y) {
+      if (!this.colours.seaText)
+        return;
+      if (this.colours.placeRim) {
+        context.globalAlpha = 0.75;
+        context.strokeStyle = this.colours.placeRim;
+        context.strokeText(text, x, y);
+        context.globalAlpha = 1;
+      }
+      context.fillStyle = this.colours.seaText;
+      context.fillText(text, x, y);
+    },
+  });
 
   engine.Graticule = Graticule;
 })();

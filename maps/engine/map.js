@@ -40,11 +40,14 @@
       this.exactCentre = centre;
       this.leaflet = L.map(element, leafletOptions);
       this.leaflet.setView([centre.lat(), centre.lng()], wanted.zoom || 0);
-      this.outlines = new engine.Outlines(window.worldOutlines);
-      this.graticule = new engine.Graticule();
-      this.base = new engine.ChartCanvas('tilePane', [this.outlines, this.graticule]);
+      const basePainters = [new engine.Outlines(window.worldOutlines), new engine.Graticule(),
+        new engine.Names(window.worldNames)];
+      this.labels = new engine.GraticuleLabels();
+      this.coloured = basePainters.concat(this.labels);
+      this.base = new engine.BaseTiles('tilePane', basePainters);
       this.chart = new engine.ChartCanvas('overlayPane', [new engine.Stack([this.lines, this.points])]);
       this.base.addTo(this.leaflet);
+      this.labels.addTo(this.leaflet);
       this.chart.addTo(this.leaflet);
       this.controls = engine.controlsOf(this.leaflet);
       this.addControls(wanted);
@@ -147,10 +150,13 @@
 
     /** A dark map has dark boxes: the sheet knows the class. */
     setColours(colours) {
-      this.outlines.colours = this.graticule.colours = colours;
+      this.coloured.forEach(part => {
+        part.colours = colours;
+      });
       this.element.style.backgroundColor = colours.sea;
       this.element.classList.toggle('dark-map', !!colours.land && engine.isDark(colours.land));
       this.base.invalidate();
+      this.labels.write();
     }
 
     getDiv() {

@@ -222,9 +222,9 @@ void TestPageBase::landAndSeaAreWhereTheyAre()
         double latitude, longitude;
         QColor colour;
     };
-    // Away from meridians, parallels and their labels at all these zooms.
-    const Place places[] = {{46.73, 2.27, land},    {45.53, -4.77, sea},    {28.37, 3.27, land},
-                            {-23.43, 132.87, land}, {42.03, 50.83, sea},    {-76.77, 22.87, land},
+    // Away from meridians, parallels and names at all these zooms.
+    const Place places[] = {{46.73, 2.27, land},    {45.53, -4.77, sea},    {24.37, 1.27, land},
+                            {-26.43, 126.87, land}, {40.13, 51.23, sea},    {-76.77, 22.87, land},
                             {66.13, 101.77, land},  {-40.33, -131.23, sea}, {67.13, -178.23, land},
                             {65.87, 177.77, land},  {-51.63, 33.37, sea},   {72.83, -38.77, land}};
     window->run(QString("map.setZoom(%1)").arg(zoom));

@@ -1,0 +1,181 @@
+/**
+ * The names of the base map: countries, seas, cities. Which of them have room is found once for a zoom and the whole
+ * world, so that a name stays where it is however the map is moved.
+ */
+(function () {
+  'use strict';
+  const engine = window.mapEngine;
+  const family = '"DejaVu Sans", "Segoe UI", sans-serif';
+
+  /** Between two names, pixels. */
+  const gap = 4;
+  const rim = 2.5;
+
+  /** Letters of each kind; countries are spaced capitals. The colours are parts of the base colours. */
+  const kinds = {
+    country: { font: '10px', space: 2.5, capitals: true, colour: 'countryText', rim: 'placeRim' },
+    sea: { font: 'italic 11px', space: 0.6, colour: 'seaText', rim: 'seaRim' },
+    city: { space: 0, colour: 'placeText', rim: 'placeRim' },
+  };
+  /** Pixels of a city's letters and the radius of its dot, by rank. */
+  const cities = [null, [12, 2.2], [11, 2], [10.5, 1.8], [10, 1.6], [10, 1.5]];
+
+  const measure = document.createElement('canvas').getContext('2d');
+
+  /** Boxes of pixels that no other may touch, found by squares of a hundred pixels. */
+  class Room {
+    constructor() {
+      this.squares = new Map();
+    }
+
+    each(box, use) {
+      for (let row = Math.floor(box.top / 100); row <= Math.floor(box.bottom / 100); ++row)
+        for (let column = Math.floor(box.left / 100); column <= Math.floor(box.right / 100); ++column)
+          use(`${column} ${row}`);
+    }
+
+    isFree(box) {
+      let free = true;
+      this.each(box, key => (this.squares.get(key) || []).forEach(other => {
+        if (other.left < box.right && other.right > box.left && other.top < box.bottom && other.bottom > box.top)
+          free = false;
+      }));
+      return free;
+    }
+
+    take(box) {
+      this.each(box, key => {
+        if (!this.squares.has(key))
+          this.squares.set(key, []);
+        this.squares.get(key).push(box);
+      });
+    }
+  }
+
+  class Name {
+    /** @param {Array} row kind, first and last zoom, latitude, longitude, English name, French name, rank */
+    constructor(row, french) {
+      const kind = kinds[row[0]];
+      this.kind = kind;
+      this.from = row[1];
+      this.to = row[2];
+      this.x = engine.unitX(row[4]);
+      this.y = engine.unitY(row[3]);
+      this.text = french ? row[6] : row[5];
+      this.dot = 0;
+      this.font = kind.font;
+      if (row[7]) {
+        this.font = `${cities[row[7]][0]}px`;
+        this.dot = cities[row[7]][1];
+      }
+      if (kind.capitals)
+        this.text = this.text.toUpperCase();
+      this.width = 0;
+    }
+
+    /** The pixels where the letters begin, of which the first choice comes first, and the box of the whole. */
+    places(scale) {
+      if (!this.width) {
+        measure.font = `${this.font} ${family}`;
+        this.width = measure.measureText(this.text).width + this.kind.space * (this.text.length - 1);
+      }
+      const x = Math.round(this.x * scale);
+      const y = Math.round(this.y * scale);
+      if (!this.dot)
+        return [this.placeAt(x, y, Math.round(x - this.width / 2))];
+      const away = this.dot + 4;
+      return [this.placeAt(x, y, x + away), this.placeAt(x, y, x - away - this.width)];
+    }
+
+    placeAt(x, y, letters) {
+      return {
+        name: this,
+        x: x,
+        y: y,
+        letters: letters,
+        left: Math.min(letters, x - this.dot) - gap,
+        right: Math.max(letters + this.width, x + this.dot) + gap,
+        top: y - 7 - gap / 2,
+        bottom: y + 7 + gap / 2,
+      };
+    }
+  }
+
+  class Names {
+    /** @param {?Array} data rows as Name takes them, those that come first have the room first */
+    constructor(data) {
+      const french = document.documentElement.lang === 'fr';
+      this.all = (data || []).map(row => new Name(row, french));
+      this.colours = engine.baseColours();
+      this.zoom = NaN;
+      this.placed = [];
+    }
+
+    placesAt(zoom, scale) {
+      if (zoom === this.zoom)
+        return this.placed;
+      const room = new Room();
+      this.zoom = zoom;
+      this.placed = [];
+      this.all.filter(name => zoom >= name.from && zoom < name.to).forEach(name => {
+        const place = name.places(scale).find(candidate => room.isFree(candidate));
+        if (place) {
+          room.take(place);
+          this.placed.push(place);
+        }
+      });
+      return this.placed;
+    }
+
+    paint(frame) {
+      const context = frame.context;
+      context.textBaseline = 'middle';
+      context.lineJoin = 'round';
+      const all = this.placesAt(frame.zoom, frame.scale);
+      for (let world = frame.firstWorld - 1; world <= frame.lastWorld + 1; ++world) {
+        const left = frame.left - world * frame.scale;
+        all.forEach(place => {
+          if (place.right > left && place.left < left + frame.width && place.bottom > frame.top
+            && place.top < frame.top + frame.height && this.colours[place.name.kind.colour])
+            this.write(context, place, left, frame.top);
+        });
+      }
+    }
+
+    write(context, place, left, top) {
+      const name = place.name;
+      const y = place.y - top;
+      context.fillStyle = this.colours[name.kind.colour];
+      if (name.dot) {
+        context.beginPath();
+        context.arc(place.x - left, y, name.dot, 0, 2 * Math.PI);
+        context.fill();
+      }
+      context.font = `${name.font} ${family}`;
+      if (this.colours[name.kind.rim]) {
+        context.globalAlpha = 0.8;
+        context.strokeStyle = this.colours[name.kind.rim];
+        context.lineWidth = rim;
+        this.letters(name, place.letters - left, (text, x) => context.strokeText(text, x, y));
+        context.globalAlpha = 1;
+      }
+      this.letters(name, place.letters - left, (text, x) => context.fillText(text, x, y));
+    }
+
+    /** A canvas knows no space between letters: spaced names are written one by one. */
+    letters(name, x, write) {
+      if (!name.kind.space) {
+        write(name.text, x);
+        return;
+      }
+      let at = x;
+      measure.font = `${name.font} ${family}`;
+      Array.from(name.text).forEach(letter => {
+        write(letter, at);
+        at += measure.measureText(letter).width + name.kind.space;
+      });
+    }
+  }
+
+  engine.Names = Names;
+})();
