@@ -56,6 +56,13 @@ const QVector<Tour::Step>& Tour::steps()
         {"waypoint-menu", &Tour::openWaypointMenu},
         {"waypoint-deleted", &Tour::deleteWaypoint},
         {"update-imported", &Tour::importUpdate},
+        {"departure-planned", &Tour::planDeparture},
+        {"sid-stored", &Tour::storeSid},
+        {"sid-shown", &Tour::showSid},
+        {"sid-added", &Tour::addSid},
+        {"star-shown", &Tour::showStar},
+        {"star-added", &Tour::addStar},
+        {"airways", &Tour::listAirways},
     };
     return all;
 }

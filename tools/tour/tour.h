@@ -17,9 +17,16 @@ struct Place
     double longitude;
 };
 
-/// The program's main job as a pilot does it, from the start to a plan that is saved and loaded again, and then a
-/// waypoint that is made, deleted and exported: real events on the real window, and a picture after each step. It flies
-/// from Paris Orly to Toulouse Blagnac on the demonstration simulator's data.
+/// What is typed for a point in the search, and the key of the row that is meant.
+struct FoundPoint
+{
+    const char* ident;
+    const char* key;
+};
+
+/// The program's main job as a pilot does it, from the start to a plan that is saved and loaded again, then a waypoint
+/// that is made, deleted and exported, then a plan with a SID and a STAR: real events on the real window, and a picture
+/// after each step. It flies from Paris Orly to Toulouse Blagnac on the demonstration simulator's data.
 class Tour
 {
 public:
@@ -71,6 +78,14 @@ private:
     void deleteWaypoint();
     void importUpdate();
 
+    void planDeparture();
+    void storeSid();
+    void showSid();
+    void addSid();
+    void showStar();
+    void addStar();
+    void listAirways();
+
     /// Fills the open dialog of the new waypoint, and ends it by its OK.
     void fillWaypoint(QDialog* dialog);
     /// Fills the position dialog that the waypoint's opened, and accepts it.
@@ -97,6 +112,11 @@ private:
     /// Answers the next file dialog by a file's name; its picture is taken with the name in it.
     void expectFile(const QString& name, const char* pictureName);
     void clickButton(const QString& name);
+    /// Begins a new plan of these points.
+    void planOf(const QList<FoundPoint>& points);
+    void openDock(const QString& name);
+    void clickRow(int row);
+    void clickProcedure(const QString& tree, const QString& name);
     QTableWidget* grid() const;
 
     WindowSession session;
