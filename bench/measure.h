@@ -5,6 +5,9 @@
 #include <functional>
 #include <vector>
 
+/// From here on times are those of the processor on this program, not the clock's: for a machine with other work.
+void measureProcessorTime();
+
 /// Milliseconds that one call takes.
 double elapsedMs(const std::function<void()>& work);
 
