@@ -258,7 +258,12 @@ int main(int argc, char* argv[])
         bench.follow(following);
         bench.measure(100, 100, "100 ms, " + map);
     }
+    // Some minutes, and the same on every simulator.
+    const bool memory = application.arguments().contains("--memory");
     for (const bool following : {false, true}) {
+        if (!memory) {
+            break;
+        }
         bench.follow(following);
         bench.measureMemory(following ? "map following" : "map still");
     }

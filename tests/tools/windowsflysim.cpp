@@ -1,0 +1,143 @@
+// flysim on Windows: a program without Qt that starts the flysim.exe beside it and reads the block that it publishes
+// in. Prints each check; its exit code tells whether all passed.
+#include "aeozephannavrecord.h"
+#include "sharedblock.h"
+
+#include <cmath>
+#include <cstdio>
+#include <string>
+
+#include <windows.h>
+
+namespace {
+
+constexpr DWORD patience = 60000; // milliseconds
+constexpr DWORD step = 10;        // milliseconds
+constexpr double unseen = 1e9;    // no heading
+
+int failures = 0;
+
+void check(bool passed, const char* what)
+{
+    std::printf("%s: %s\n", passed ? "pass" : "FAIL", what);
+    std::fflush(stdout);
+    failures += passed ? 0 : 1;
+}
+
+std::wstring besideThis(const wchar_t* file)
+{
+    wchar_t program[MAX_PATH] = {};
+    GetModuleFileNameW(nullptr, program, MAX_PATH);
+    const std::wstring path(program);
+    return path.substr(0, path.find_last_of(L"\\/") + 1) + file;
+}
+
+/// flysim with these arguments, in a group of its own, so that its keys can be pressed alone.
+HANDLE startFlySim(const std::wstring& arguments, DWORD& group)
+{
+    std::wstring command = L"\"" + besideThis(L"flysim.exe") + L"\" " + arguments;
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process = {};
+    CreateProcessW(nullptr, &command[0], nullptr, nullptr, FALSE, CREATE_NEW_PROCESS_GROUP, nullptr, nullptr, &startup,
+                   &process);
+    if (process.hThread != nullptr) {
+        CloseHandle(process.hThread);
+    }
+    group = process.dwProcessId;
+    return process.hProcess;
+}
+
+/// The exit code; a number of no process of ours when it does not end by itself.
+DWORD ended(HANDLE process)
+{
+    DWORD exitCode = 99;
+    if (WaitForSingleObject(process, patience) == WAIT_OBJECT_0) {
+        GetExitCodeProcess(process, &exitCode);
+    } else {
+        TerminateProcess(process, exitCode);
+    }
+    CloseHandle(process);
+    return exitCode;
+}
+
+bool isNear(double value, double wanted)
+{
+    return std::abs(value - wanted) < 0.001;
+}
+
+bool comesTo(const volatile double& field, double wanted)
+{
+    for (DWORD waited = 0; waited < patience; waited += step) {
+        if (isNear(field, wanted)) {
+            return true;
+        }
+        Sleep(step);
+    }
+    return false;
+}
+
+void aPositionIsPublished(volatile AeoZephanNavRecord& record)
+{
+    record.heading = unseen;
+    DWORD group = 0;
+    const HANDLE flysim = startFlySim(L"--start 48.7295,2.359 --heading 62 --speed 0", group);
+    check(comesTo(record.heading, 62.0), "the heading is published");
+    check(isNear(record.latS, 175426.2) && isNear(record.lonS, 8492.4), "and the position");
+    if (GenerateConsoleCtrlEvent(CTRL_BREAK_EVENT, group) != 0) {
+        check(ended(flysim) == 0, "the keys end it cleanly");
+    } else {
+        std::printf("skip: no console to press keys in, error %lu\n", GetLastError());
+        TerminateProcess(flysim, 0);
+        ended(flysim);
+    }
+    check(isNear(record.latS, 175426.2), "the last position stays");
+}
+
+void aPlanIsFlown(volatile AeoZephanNavRecord& record)
+{
+    const std::wstring path = besideThis(L"windowsflysim.FPL");
+    FILE* file = _wfopen(path.c_str(), L"wb");
+    check(file != nullptr, "a plan is written");
+    if (file == nullptr) {
+        return;
+    }
+    std::fputs("<wpnt> -\r\nuswp\r\n<llps> -\r\n3600.000,7200.000,0\r\n"
+               "<wpnt> -\r\nuswp\r\n<llps> -\r\n7200.000,7200.000,0\r\n",
+               file);
+    std::fclose(file);
+    record.heading = unseen;
+    DWORD group = 0;
+    const HANDLE flysim = startFlySim(L"--speed 10000 --factor 100 --plan \"" + path + L"\"", group);
+    check(comesTo(record.latS, 7200.0), "the plan is flown to its last point");
+    check(isNear(record.lonS, 7200.0) && isNear(record.heading, 0.0), "on its course");
+    TerminateProcess(flysim, 0);
+    ended(flysim);
+    check(isNear(record.latS, 7200.0), "a killed one leaves the block readable");
+    DeleteFileW(path.c_str());
+}
+
+void complaintsHaveTheirExitCodes()
+{
+    DWORD group = 0;
+    check(ended(startFlySim(L"--nonsense", group)) == 2, "an unknown option is a wrong command line");
+    check(ended(startFlySim(L"--plan no-such.FPL", group)) == 1, "a missing plan is nothing to fly");
+    check(ended(startFlySim(L"--help", group)) == 0, "the help is told");
+}
+
+} // namespace
+
+int main()
+{
+    // A console of its own, whose keys can be pressed.
+    FreeConsole();
+    AllocConsole();
+    SharedBlock block;
+    check(block.attach() && block.map() != nullptr, "the block is there");
+    auto& record = *static_cast<volatile AeoZephanNavRecord*>(block.map());
+    aPositionIsPublished(record);
+    aPlanIsFlown(record);
+    complaintsHaveTheirExitCodes();
+    std::printf("%d failures\n", failures);
+    return failures == 0 ? 0 : 1;
+}
