@@ -34,6 +34,7 @@ clang-format|clang-format
 clang-tidy|run-clang-tidy
 shellcheck|shellcheck
 sqlite3|sqlite3
+chromium|chromium
 g++-mingw-w64-x86-64-posix|x86_64-w64-mingw32-g++-posix
 wine|wine
 '
