@@ -4,6 +4,7 @@
 #include "mainwindow.h"
 
 #include <QApplication>
+#include <QProcess>
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QToolBar>
@@ -23,6 +24,8 @@ const Place balan{46.51611, 1.03333};
 } // namespace
 
 Tour::Tour(const QString& pictures) : album(pictures) {}
+
+Tour::~Tour() = default;
 
 const QVector<Tour::Step>& Tour::steps()
 {
@@ -50,6 +53,9 @@ const QVector<Tour::Step>& Tour::steps()
         {"start-set", &Tour::setStart},
         {"new-plan", &Tour::startNew},
         {"plan-loaded", &Tour::load},
+        {"trace", &Tour::traceFlight},
+        {"trace-followed", &Tour::followFlight},
+        {"trace-ended", &Tour::endTrace},
         {"empty-map-menu", &Tour::openEmptyMapMenu},
         {"waypoint-made", &Tour::makeWaypoint},
         {"waypoint-pop-up", &Tour::openNewPopup},

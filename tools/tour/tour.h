@@ -8,7 +8,10 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
 class QDialog;
+class QProcess;
 class QTableWidget;
 
 struct Place
@@ -24,13 +27,14 @@ struct FoundPoint
     const char* key;
 };
 
-/// The program's main job as a pilot does it, from the start to a plan that is saved and loaded again, then a waypoint
-/// that is made, deleted and exported, then a plan with a SID and a STAR: real events on the real window, and a picture
-/// after each step. It flies from Paris Orly to Toulouse Blagnac on the demonstration simulator's data.
+/// The program's main job as a pilot does it, from the start to a plan that is saved, loaded again and flown, then a
+/// waypoint that is made, deleted and exported, then a plan with a SID and a STAR: real events on the real window, and
+/// a picture after each step. It flies from Paris Orly to Toulouse Blagnac on the demonstration simulator's data.
 class Tour
 {
 public:
     explicit Tour(const QString& pictures);
+    ~Tour();
 
     /// Takes the steps in their order, up to the first that does not go as it should; that one is told on the standard
     /// error. True when all of them did.
@@ -71,6 +75,10 @@ private:
     void startNew();
     void load();
 
+    void traceFlight();
+    void followFlight();
+    void endTrace();
+
     void openEmptyMapMenu();
     void makeWaypoint();
     void openNewPopup();
@@ -86,6 +94,8 @@ private:
     void addStar();
     void listAirways();
 
+    /// Starts the simulator's stand-in on the saved plan, and returns once it publishes.
+    void startFlight();
     /// Fills the open dialog of the new waypoint, and ends it by its OK.
     void fillWaypoint(QDialog* dialog);
     /// Fills the position dialog that the waypoint's opened, and accepts it.
@@ -123,4 +133,5 @@ private:
     BoxResponder boxes;
     Album album;
     QString failure;
+    std::unique_ptr<QProcess> simulator; ///< while the plan is flown; killed when the tour ends before the flight
 };
