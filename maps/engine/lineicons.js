@@ -50,7 +50,7 @@
     const repeat = pixelsOf(sequence.repeat, length);
     line.geometry.runs.forEach(run => {
       const before = run.start * frame.scale;
-      emitRun(frame, run, line.geometry.geodesic, 0, (x1, y1, x2, y2, behind) => {
+      emitRun(frame, run, line.geometry.geodesic, (x1, y1, x2, y2, behind) => {
         const piece = Math.hypot(x2 - x1, y2 - y1);
         const start = before + behind;
         const angle = Math.atan2(y2 - y1, x2 - x1);

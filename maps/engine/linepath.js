@@ -82,6 +82,13 @@
       this.bottom = Math.max(this.bottom, y);
     }
 
+    /** The box around the points from one on. */
+    boxFrom(first) {
+      const xs = this.xs.slice(first);
+      const ys = this.ys.slice(first);
+      return { left: Math.min(...xs), right: Math.max(...xs), top: Math.min(...ys), bottom: Math.max(...ys) };
+    }
+
     isFull() {
       return this.xs.length === runPoints || this.right - this.left > 1;
     }
@@ -104,13 +111,18 @@
       this.longitude = NaN;
     }
 
-    /** Takes the positions that have come since the last call. What stands costs nothing again. */
+    /**
+     * Takes the positions that have come since the last call. What stands costs nothing again.
+     * @return {boolean} whether there were any
+     */
     extend(positions) {
+      const hasMore = this.taken < positions.length;
       for (; this.taken < positions.length; ++this.taken) {
         const position = positions[this.taken];
         if (engine.isFinitePosition(position))
           this.lineTo(position.lat(), position.lng());
       }
+      return hasMore;
     }
 
     lineTo(latitude, longitude) {

@@ -63,16 +63,21 @@
     paintLine(frame, line) {
       line.geometry.extend(line.positions());
       engine.fillArea(frame, line);
-      this.stroke(frame, line, 0, 0);
+      this.stroke(frame, line);
       engine.paintIcons(frame, line, emitRun);
       this.note(line);
     }
 
-    /** Paints what lines have gained since they were painted, over what stands there. Their icons are left out. */
+    /** Paints anew where lines have grown since they were painted. */
     paintGrowth(frame) {
       this.lines.forEach(line => {
-        line.geometry.extend(line.positions());
-        this.stroke(frame, line, line.paintedRun || 0, line.paintedPoint || 0);
+        if (!line.geometry.extend(line.positions()))
+          return;
+        line.geometry.runs.slice(line.paintedRun).forEach((run, i) => {
+          const box = run.boxFrom(i === 0 ? line.paintedPoint : 0);
+          for (let world = frame.firstWorld - 1; world <= frame.lastWorld; ++world)
+            this.paintBox(frame, box, world, line.strokeWeight);
+        });
         this.note(line);
       });
     }
@@ -84,7 +89,28 @@
       line.paintedPoint = runs.length ? runs[runs.length - 1].xs.length - 1 : 0;
     }
 
-    stroke(frame, line, firstRun, firstPoint) {
+    /** Paints all lines anew within a box of unit coordinates and what the width of a line needs around it. */
+    paintBox(frame, box, world, weight) {
+      const spare = weight / 2 + 2;
+      const left = Math.max(0, Math.floor((box.left + world) * frame.scale - frame.left - spare));
+      const top = Math.max(0, Math.floor(box.top * frame.scale - frame.top - spare));
+      const width = Math.min(frame.width, Math.ceil((box.right + world) * frame.scale - frame.left + spare)) - left;
+      const height = Math.min(frame.height, Math.ceil(box.bottom * frame.scale - frame.top + spare)) - top;
+      if (!(width > 0 && height > 0))
+        return;
+      const context = frame.context;
+      context.save();
+      context.translate(left, top);
+      context.beginPath();
+      context.rect(0, 0, width, height);
+      context.clip();
+      context.clearRect(0, 0, width, height);
+      this.paint(Object.assign({}, frame,
+        { left: frame.left + left, top: frame.top + top, width: width, height: height }));
+      context.restore();
+    }
+
+    stroke(frame, line) {
       const context = frame.context;
       if (line.strokeOpacity <= 0 || line.strokeWeight <= 0)
         return;
@@ -92,18 +118,16 @@
       context.strokeStyle = line.strokeColor;
       context.lineWidth = line.strokeWeight;
       context.lineJoin = context.lineCap = 'round';
-      const runs = line.geometry.runs;
-      for (let i = firstRun; i < runs.length; ++i)
-        this.strokeRun(frame, runs[i], line.geometry.geodesic, i === firstRun ? firstPoint : 0);
+      line.geometry.runs.forEach(run => this.strokeRun(frame, run, line.geometry.geodesic));
       context.globalAlpha = 1;
     }
 
-    strokeRun(frame, run, geodesic, first) {
+    strokeRun(frame, run, geodesic) {
       const context = frame.context;
       let endX = NaN;
       let endY = NaN;
       let any = false;
-      emitRun(frame, run, geodesic, first, (x1, y1, x2, y2) => {
+      emitRun(frame, run, geodesic, (x1, y1, x2, y2) => {
         if (!any)
           context.beginPath();
         any = true;
@@ -120,18 +144,17 @@
 
   /**
    * Tells the pieces of a run that lie in the frame, in every copy of the world that it shows.
-   * @param {number} first the point to begin with
    * @param {function(number, number, number, number, number)} emit x and y of both ends in pixels, cut to the frame, and
-   *     how many pixels the first end lies behind the run's point `first`, counted along the line
+   *     how many pixels the first end lies behind the run's beginning, counted along the line
    */
-  function emitRun(frame, run, geodesic, first, emit) {
+  function emitRun(frame, run, geodesic, emit) {
     const margin = edge + (geodesic ? run.bend * frame.scale : 0);
     if (run.bottom * frame.scale < frame.top - margin || run.top * frame.scale > frame.top + frame.height + margin)
       return;
     const firstWorld = Math.ceil((frame.left - margin) / frame.scale - run.right);
     const lastWorld = Math.floor((frame.left + frame.width + margin) / frame.scale - run.left);
     for (let world = firstWorld; world <= lastWorld; ++world)
-      emitWorld(frame, run, frame.left - world * frame.scale, geodesic, first, emit);
+      emitWorld(frame, run, frame.left - world * frame.scale, geodesic, emit);
   }
 
   function isInside(frame, run, left) {
@@ -190,14 +213,14 @@
     return to;
   }
 
-  function emitWorld(frame, run, left, geodesic, first, emit) {
+  function emitWorld(frame, run, left, geodesic, emit) {
     const scale = frame.scale;
     const bends = geodesic && run.bend * scale > leastBend;
     const put = isInside(frame, run, left) && !bends ? emit : clipped(frame, emit);
     let along = 0;
-    let x1 = run.xs[first] * scale - left;
-    let y1 = run.ys[first] * scale - frame.top;
-    for (let from = first; from < run.xs.length - 1;) {
+    let x1 = run.xs[0] * scale - left;
+    let y1 = run.ys[0] * scale - frame.top;
+    for (let from = 0; from < run.xs.length - 1;) {
       const to = bends ? from + 1 : endOfPiece(run, from, scale);
       const x2 = run.xs[to] * scale - left;
       const y2 = run.ys[to] * scale - frame.top;

@@ -2,17 +2,20 @@
 (function () {
   'use strict';
 
-  /** @type {Record<string, string>} */
-  const colours = { L: '#6d8c3c', H: '#3c6d8c', B: '#7a5c99' };
+  /** @type {Record<string, Colour>} */
+  const colours = { L: 'airwayLow', H: 'airwayHigh', B: 'airwayBoth' };
   /** @type {Array<{level: string, line: google.maps.Polyline}>} */
   const routes = [];
   /** @type {Record<string, boolean>} */
   const shown = {};
 
+  /** @param {string} level */
+  const colourOf = level => page.palette[colours[level] || 'airwayOther'];
+
   /** Opens a new route; what `page.addToAirway` brings next belongs to it. */
   page.openAirway = function (level) {
     const line = new google.maps.Polyline({
-      strokeColor: colours[level] || '#666666',
+      strokeColor: colourOf(level),
       strokeWeight: 2,
       strokeOpacity: 1,
       geodesic: true,
@@ -33,6 +36,8 @@
     shown[level] = on;
     routes.filter(route => route.level === level).forEach(route => route.line.setMap(on ? map : null));
   };
+
+  page.onPalette(() => routes.forEach(route => route.line.setOptions({ strokeColor: colourOf(route.level) })));
 })();
 
 /** A new route of a level, told as one character. @param {string} level */

@@ -2,36 +2,79 @@
 (function () {
   'use strict';
 
-  /** @type {google.maps.Polyline[]} */
-  let lines = [];
+  const radians = Math.PI / 180;
+  const metresPerDegree = 60 * 1852;
 
-  /** @type {(path: Place[], colour: string, weight: number, zIndex: number) => void} */
-  function draw(path, colour, weight, zIndex) {
-    lines.push(new google.maps.Polyline({
-      path: path,
-      strokeColor: colour,
-      strokeWeight: weight,
-      strokeOpacity: 1,
-      clickable: false,
-      zIndex: zIndex,
-      map: map,
-    }));
+  /** Metres: the program tells no width; this one is common at large airports. */
+  const halfWidth = 22.5;
+
+  /** Metres: the threshold's stripes from the runway's end, from its middle, and half their width. */
+  const stripes = { from: 8, to: 38, sides: [-15.5, -9.5, -4, 4, 9.5, 15.5], half: 1.6 };
+
+  /** What is drawn, each with what gives it its colours. @type {Array<{shape: Shape, look: (palette: Palette) => Object}>} */
+  let drawn = [];
+
+  /** @type {(shape: Shape, look: (palette: Palette) => Object) => void} */
+  function draw(shape, look) {
+    shape.setOptions(look(page.palette));
+    shape.setMap(map);
+    drawn.push({ shape: shape, look: look });
   }
 
-  /** A dark runway with a light centre line, wide enough to be found from afar. */
+  /**
+   * Tells places near a runway's end by metres along it and to the right of it.
+   * @type {(from: Place, to: Place) => RunwayFrame}
+   */
+  function frameOf(from, to) {
+    const course = page.courseTo(from, to) * radians;
+    const shrink = Math.max(0.01, Math.cos(from.lat() * radians));
+    return (along, right) => new google.maps.LatLng(
+      from.lat() + (along * Math.cos(course) - right * Math.sin(course)) / metresPerDegree,
+      from.lng() + (along * Math.sin(course) + right * Math.cos(course)) / metresPerDegree / shrink);
+  }
+
+  /** @type {(corners: Place[]) => google.maps.Polygon} */
+  const area = corners => new google.maps.Polygon({ paths: corners, strokeWeight: 0, fillOpacity: 1, clickable: false });
+
+  /** @param {RunwayFrame} frame */
+  function drawThreshold(frame) {
+    stripes.sides.forEach(side => {
+      const left = side - stripes.half;
+      const right = side + stripes.half;
+      const { from, to } = stripes;
+      draw(area([frame(from, left), frame(to, left), frame(to, right), frame(from, right)]),
+        palette => ({ fillColor: palette.runwayCentre, zIndex: 51 }));
+    });
+  }
+
+  /** To scale, with thresholds and a broken centre line; its edge makes a line of it that is seen from afar. */
   page.drawRunway = function (highEnd, lowEnd) {
     if (!page.isPlace(highEnd) || !page.isPlace(lowEnd))
       return;
-    draw([highEnd, lowEnd], '#39424a', 7, 50);
-    draw([highEnd, lowEnd], '#ffffff', 1, 51);
+    const ends = [frameOf(highEnd, lowEnd), frameOf(lowEnd, highEnd)];
+    const corners = [].concat(...ends.map(frame => [frame(0, halfWidth), frame(0, -halfWidth)]));
+    draw(area(corners), palette =>
+      ({ fillColor: palette.runway, strokeColor: palette.runway, strokeWeight: 4.5, zIndex: 50 }));
+    draw(new google.maps.Polyline({ path: [highEnd, lowEnd], strokeOpacity: 0, clickable: false }), palette =>
+      ({ icons: centreLine(palette.runwayCentre), zIndex: 51 }));
+    ends.forEach(drawThreshold);
   };
+
+  /** @type {(colour: string) => google.maps.IconSequence[]} */
+  const centreLine = colour => [{
+    icon: { path: 'M 0 -4 L 0 4', strokeColor: colour, strokeOpacity: 1, strokeWeight: 1.4 },
+    offset: '12px',
+    repeat: '18px',
+  }];
 
   page.clearRunways = function () {
-    lines.forEach(line => line.setMap(null));
-    lines = [];
+    drawn.forEach(item => item.shape.setMap(null));
+    drawn = [];
   };
 
-  page.hasRunways = () => lines.length > 0;
+  page.hasRunways = () => drawn.length > 0;
+
+  page.onPalette(palette => drawn.forEach(item => item.shape.setOptions(item.look(palette))));
 })();
 
 /** Removes the runways shown. */

@@ -101,6 +101,12 @@ interface LegSpot extends Spot {
   offset?: number;
 }
 
+/** What a runway is drawn with. */
+type Shape = google.maps.Polyline | google.maps.Polygon;
+
+/** A place on a runway by metres from its end and to the right of its middle. */
+type RunwayFrame = (along: number, right: number) => Place;
+
 /** A way on the ground, metres. */
 interface Way {
   east: number;

@@ -1,0 +1,256 @@
+// Course, distance and arrow on the legs of the plan's route.
+#include "pagewindow.h"
+
+#include <QtTest>
+
+class TestPageLegs : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        window.reset(new PageWindow(nullptr));
+        QVERIFY(window->load());
+        window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(8)");
+    }
+
+    void eachLegTellsCourseAndDistance_data();
+    void eachLegTellsCourseAndDistance();
+    void aShortLegHasAnArrowAlone();
+    void aVeryShortLegHasNothing();
+    void twoPointsAtOnePlaceAreNoLeg();
+    void theTextsComeAndGoWithTheZoom();
+    void theTextsGoWithTheRoute();
+    void aProcedureHasNoTexts();
+    void aTextStandsUprightAboveItsLeg_data();
+    void aTextStandsUprightAboveItsLeg();
+    void thereAndBackHaveATextEach();
+    void manyLegsAtOnePlaceHaveNoHeapOfTexts();
+    void aLegFarBeyondTheViewKeepsItsTextInIt();
+    void theTextFollowsTheViewAlongItsLeg();
+    void theTextOfALegOverTheDateLineStandsOnIt();
+    void theTextsTakeTheColoursOfTheNight();
+
+private:
+    QScopedPointer<PageWindow> window;
+
+    void draw(const QList<QPointF>& points);
+    QStringList texts();
+    int arrows()
+    {
+        return window->run("document.querySelectorAll('.leg-arrow').length").toInt();
+    }
+    /// How many pixels of a colour lie in a box of the view.
+    int pixels(const QRect& area, const QColor& colour);
+};
+
+namespace {
+
+const char routeColour[] = "#c2185b";
+const char nightColour[] = "#e8639d";
+
+} // namespace
+
+/// Draws a plan over points of latitude and longitude in degrees.
+void TestPageLegs::draw(const QList<QPointF>& points)
+{
+    QStringList script{"clearFP()"};
+    for (const QPointF& point : points)
+        script << QString("addPointToFp(new google.maps.LatLng(%1,%2),\"\")")
+                      .arg(point.x(), 3, 'f', 5)
+                      .arg(point.y(), 3, 'f', 5);
+    window->run((script << "pushFP();").join(';'));
+    window->settle();
+}
+
+QStringList TestPageLegs::texts()
+{
+    return window->run("Array.from(document.querySelectorAll('.leg-text')).map(e => e.getAttribute('data-text'))")
+        .toStringList();
+}
+
+int TestPageLegs::pixels(const QRect& area, const QColor& colour)
+{
+    window->settle();
+    const QImage image = window->view->grab().toImage();
+    int count = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            count += image.pixelColor(x, y) == colour ? 1 : 0;
+    return count;
+}
+
+void TestPageLegs::eachLegTellsCourseAndDistance_data()
+{
+    QTest::addColumn<QPointF>("from");
+    QTest::addColumn<QPointF>("to");
+    QTest::addColumn<double>("zoom");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("north-east") << QPointF(46, 2) << QPointF(47, 3) << 8.0 << "034°  73 NM";
+    QTest::newRow("north is 360") << QPointF(46, 2.5) << QPointF(47, 2.5) << 8.0 << "360°  60 NM";
+    QTest::newRow("south") << QPointF(47, 2.5) << QPointF(46, 2.5) << 8.0 << "180°  60 NM";
+    QTest::newRow("a little west of north") << QPointF(46, 2.5) << QPointF(47, 2.4999) << 8.0 << "360°  60 NM";
+    QTest::newRow("under ten miles") << QPointF(46.45, 2.5) << QPointF(46.55, 2.5) << 11.0 << "360°  6.0 NM";
+    QTest::newRow("nearly ten miles") << QPointF(46.42, 2.5) << QPointF(46.586, 2.5) << 11.0 << "360°  10 NM";
+}
+
+void TestPageLegs::eachLegTellsCourseAndDistance()
+{
+    QFETCH(QPointF, from);
+    QFETCH(QPointF, to);
+    QFETCH(double, zoom);
+    QFETCH(QString, text);
+    window->run(QString("map.setZoom(%1)").arg(zoom));
+    draw({from, to});
+    QCOMPARE(texts(), QStringList{text});
+}
+
+void TestPageLegs::aShortLegHasAnArrowAlone()
+{
+    // About 55 pixels at this zoom; the text is longer.
+    draw({{46.5, 2.3}, {46.5, 2.6}});
+    QCOMPARE(texts(), QStringList());
+    QCOMPARE(arrows(), 1);
+}
+
+void TestPageLegs::aVeryShortLegHasNothing()
+{
+    draw({{46.5, 2.5}, {46.5, 2.6}});
+    QCOMPARE(texts(), QStringList());
+    QCOMPARE(arrows(), 0);
+}
+
+void TestPageLegs::twoPointsAtOnePlaceAreNoLeg()
+{
+    draw({{46.2, 2.5}, {46.2, 2.5}, {47.2, 2.5}});
+    QCOMPARE(texts(), QStringList{"360°  60 NM"});
+    draw({{46.2, 2.5}, {46.2, 2.5}});
+    QCOMPARE(texts(), QStringList());
+    draw({{46.2, 2.5}});
+    QCOMPARE(texts(), QStringList());
+    QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageLegs::theTextsComeAndGoWithTheZoom()
+{
+    draw({{46, 2}, {47, 3}});
+    QCOMPARE(texts(), QStringList{"034°  73 NM"});
+    window->run("map.setZoom(5)");
+    window->settle();
+    QCOMPARE(texts(), QStringList());
+    window->run("map.setZoom(8)");
+    window->settle();
+    QCOMPARE(texts(), QStringList{"034°  73 NM"});
+}
+
+void TestPageLegs::theTextsGoWithTheRoute()
+{
+    draw({{46, 2}, {47, 3}});
+    QCOMPARE(texts().size(), 1);
+    window->run("clearFP()");
+    window->settle();
+    QCOMPARE(texts(), QStringList());
+    QCOMPARE(arrows(), 0);
+    draw({{47, 2.5}, {46, 2.5}});
+    QCOMPARE(texts(), QStringList{"180°  60 NM"});
+}
+
+void TestPageLegs::aProcedureHasNoTexts()
+{
+    window->run("addPointToSS(new google.maps.LatLng(46.00000, 2.00000),\"A\");"
+                "addPointToSS(new google.maps.LatLng(47.00000, 3.00000),\"B\")");
+    window->settle();
+    QCOMPARE(texts(), QStringList());
+}
+
+void TestPageLegs::aTextStandsUprightAboveItsLeg_data()
+{
+    QTest::addColumn<double>("from");
+    QTest::addColumn<double>("to");
+
+    QTest::newRow("to the east") << 1.9 << 3.1;
+    QTest::newRow("to the west") << 3.1 << 1.9;
+}
+
+void TestPageLegs::aTextStandsUprightAboveItsLeg()
+{
+    QFETCH(double, from);
+    QFETCH(double, to);
+    draw({{46.5, from}, {46.5, to}});
+    QCOMPARE(texts().size(), 1);
+    // The line runs through the middle of the view. A text that stands on its head would be below it.
+    QVERIFY(pixels(QRect(360, 280, 80, 12), QColor(routeColour)) > 10);
+    QCOMPARE(pixels(QRect(360, 308, 80, 12), QColor(routeColour)), 0);
+}
+
+void TestPageLegs::thereAndBackHaveATextEach()
+{
+    draw({{46.5, 1.5}, {46.5, 3.5}, {46.5, 1.5}});
+    QCOMPARE(texts(), (QStringList{"089°  83 NM", "271°  83 NM"}));
+}
+
+void TestPageLegs::manyLegsAtOnePlaceHaveNoHeapOfTexts()
+{
+    QList<QPointF> points;
+    for (int i = 0; i < 200; ++i)
+        points << QPointF(46.5, i % 2 ? 3.5 : 1.5);
+    draw(points);
+    // At most above and below the line, at each of a few places on it.
+    QVERIFY(texts().size() >= 2);
+    QVERIFY2(texts().size() <= 10, qPrintable(QString::number(texts().size())));
+}
+
+void TestPageLegs::aLegFarBeyondTheViewKeepsItsTextInIt()
+{
+    // Paris to New York; the view shows the beginning alone.
+    draw({{46.5, 2.6}, {40.6, -73.8}});
+    QCOMPARE(texts().size(), 1);
+    QVERIFY(texts().first().endsWith("NM"));
+    const QVariantList box = window
+                                 ->run("var box = document.querySelector('.leg-text').getBoundingClientRect();"
+                                       "[box.left + box.width / 2, box.top + box.height / 2]")
+                                 .toList();
+    QVERIFY(QRect(0, 0, 800, 600).contains(box.value(0).toInt(), box.value(1).toInt()));
+}
+
+void TestPageLegs::theTextFollowsTheViewAlongItsLeg()
+{
+    draw({{46.5, -20}, {46.5, 25}});
+    for (double longitude : {-5.0, 2.5, 10.0}) {
+        window->run(QString("map.setCenter(new google.maps.LatLng(48.50000, %1))").arg(longitude, 3, 'f', 5));
+        window->settle();
+        QCOMPARE(texts(), QStringList{"073°  1833 NM"});
+        const double x = window
+                             ->run("var box = document.querySelector('.leg-text').getBoundingClientRect();"
+                                   "box.left + box.width / 2")
+                             .toDouble();
+        QVERIFY2(x > 0 && x < 800, qPrintable(QString::number(x)));
+    }
+}
+
+void TestPageLegs::theTextOfALegOverTheDateLineStandsOnIt()
+{
+    window->run("map.setZoom(5);map.setCenter(new google.maps.LatLng(0.00000,179.00000));");
+    draw({{0, 175}, {0, -175}});
+    QCOMPARE(texts(), QStringList{"090°  600 NM"});
+    // The middle of the leg is a degree east of the view's middle, 23 pixels.
+    QVERIFY(pixels(QRect(390, 280, 66, 12), QColor(routeColour)) > 10);
+    window->run("map.setCenter(new google.maps.LatLng(0.00000,-179.00000));");
+    window->settle();
+    QCOMPARE(texts(), QStringList{"090°  600 NM"});
+    QVERIFY(pixels(QRect(344, 280, 66, 12), QColor(routeColour)) > 10);
+}
+
+void TestPageLegs::theTextsTakeTheColoursOfTheNight()
+{
+    draw({{46.5, 1.9}, {46.5, 3.1}});
+    window->run("page.setPalette('night')");
+    QVERIFY(pixels(QRect(360, 280, 80, 12), QColor(nightColour)) > 10);
+    QVERIFY(pixels(QRect(300, 295, 200, 10), QColor(nightColour)) > 100);
+    QCOMPARE(pixels(QRect(0, 0, 800, 600), QColor(routeColour)), 0);
+}
+
+QTEST_MAIN(TestPageLegs)
+#include "tst_pagelegs.moc"
