@@ -25,6 +25,8 @@
       this.tiles = new Map();
       this.unused = [];
       this.zoom = NaN;
+      this.leaflet = null;
+      this.pending = 0;
     },
 
     onAdd: function (leaflet) {
@@ -38,6 +40,7 @@
       this.pending = 0;
       this.drop(() => true);
       this.box.remove();
+      this.leaflet = null;
     },
 
     getEvents: function () {
@@ -53,7 +56,7 @@
     },
 
     later: function () {
-      if (!this.pending)
+      if (!this.pending && this.leaflet)
         this.pending = window.requestAnimationFrame(() => this.update());
     },
 

@@ -29,6 +29,8 @@ function loadMapEngine() {
     'maps/engine/hitgrid.js',
     'maps/engine/stack.js',
     'maps/engine/scalebar.js',
+    'maps/engine/imagemaptype.js',
+    'maps/engine/basemap.js',
     'maps/engine/controls.js',
     'maps/engine/map.js',
     'maps/engine/pointer.js',

@@ -40,14 +40,9 @@
       this.exactCentre = centre;
       this.leaflet = L.map(element, leafletOptions);
       this.leaflet.setView([centre.lat(), centre.lng()], wanted.zoom || 0);
-      const basePainters = [new engine.Outlines(window.worldOutlines), new engine.Graticule(),
-        new engine.Names(window.worldNames)];
-      this.labels = new engine.GraticuleLabels();
-      this.coloured = basePainters.concat(this.labels);
-      this.base = new engine.BaseTiles('tilePane', basePainters);
+      this.overlayMapTypes = new maps.MVCArray();
+      this.base = new engine.BaseMap(this.leaflet, this.overlayMapTypes);
       this.chart = new engine.ChartCanvas('overlayPane', [new engine.Stack([this.lines, this.points])]);
-      this.base.addTo(this.leaflet);
-      this.labels.addTo(this.leaflet);
       this.chart.addTo(this.leaflet);
       this.controls = engine.controlsOf(this.leaflet);
       this.addControls(wanted);
@@ -150,13 +145,9 @@
 
     /** A dark map has dark boxes: the sheet knows the class. */
     setColours(colours) {
-      this.coloured.forEach(part => {
-        part.colours = colours;
-      });
+      this.base.setColours(colours);
       this.element.style.backgroundColor = colours.sea;
       this.element.classList.toggle('dark-map', !!colours.land && engine.isDark(colours.land));
-      this.base.invalidate();
-      this.labels.write();
     }
 
     getDiv() {

@@ -10,6 +10,12 @@ var mapService = {
   key: '',
   /** Seconds after which the service is given up. */
   wait: 4,
+  /** Where the pictures of a raster map come from, with {z}, {x} and {y} for zoom, column and row; empty: none is shown. */
+  tileAddress: '',
+  /** What the maker of the raster map wants to be named, as text; always shown with the map. */
+  tileAttribution: '',
+  /** The last zoom that the raster map has; beyond it the pictures are enlarged. */
+  tileLastZoom: 18,
   /** Runs while the service is awaited. */
   timer: 0,
 };

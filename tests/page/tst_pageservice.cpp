@@ -1,10 +1,10 @@
 // An outside map service: taken when it answers, given up when it does not, and the feed is lost in no case.
+#include "pagecopy.h"
 #include "pagewindow.h"
 
 #include <QSignalSpy>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
@@ -49,13 +49,13 @@ QByteArray answerOf(const QByteArray& script, const QByteArray& status = "200 OK
 const char serviceScript[] = R"js(
 window.google = { maps: (function () {
   class Base { constructor(o) { Object.assign(this, o); } setMap(m) { this.map = m; } getMap() { return this.map; }
-    addListener() {} setStyle() {} add(o) { (this.all = this.all || []).push(o); return o; } setPath(p) { this.path = p; }
+    addListener() {} setOptions() {} setStyle() {} add(o) { (this.all = this.all || []).push(o); return o; } setPath(p) { this.path = p; }
     setContent() {} setPosition() {} open() {} close() {} }
   class LatLng { constructor(a, b) { this.a = a; this.b = b; } lat() { return this.a; } lng() { return this.b; } }
   class Map { constructor(e, o) { this.c = o.center; this.z = o.zoom; this.controls = [[]]; } setOptions() {} addListener() {}
     getCenter() { return this.c; } setCenter(c) { this.c = c; } getZoom() { return this.z; } setZoom(z) { this.z = z; } }
   return { fromService: true, Map: Map, LatLng: LatLng, Data: Base, Marker: Base, Polyline: Base, InfoWindow: Base,
-    ControlPosition: { TOP_RIGHT: 0 },
+    OverlayView: Base, ControlPosition: { TOP_RIGHT: 0 },
     event: { addListener: function () {} } };
 })() };
 )js";
@@ -75,25 +75,15 @@ private slots:
     void aServiceThatIsSilentIsGivenUpAfterTheWait();
 
 private:
-    QTemporaryDir folder;
+    PageCopy pages;
     QScopedPointer<ProgramSide> program;
     QScopedPointer<PageWindow> window;
 
-    /// The shipped page beside a service file with these settings.
+    /// The shipped page with these settings.
     QUrl pageWith(const QString& address, const QString& key, double wait)
     {
-        const QString from = QCoreApplication::applicationDirPath();
-        QProcess::execute("cp", {"-r", from + "/maps", from + "/gm_trajector_fr.html", folder.path()});
-        QFile file(folder.filePath("maps/page/service.js"));
-        if (!file.open(QIODevice::ReadWrite))
-            return {};
-        QString text = QString::fromUtf8(file.readAll());
-        text.replace("address: ''", "address: '" + address + "'");
-        text.replace("key: ''", "key: '" + key + "'");
-        text.replace("wait: 4", QString("wait: %1").arg(wait));
-        file.resize(0);
-        file.write(text.toUtf8());
-        return QUrl::fromLocalFile(folder.filePath("gm_trajector_fr.html"));
+        return pages.with(
+            {{"address", "'" + address + "'"}, {"key", "'" + key + "'"}, {"wait", QString::number(wait)}});
     }
     void openWindow()
     {
@@ -124,7 +114,7 @@ void TestPageService::aServiceThatAnswersIsTaken()
     QCOMPARE(service.asked, QStringList{"/map.js"});
     QCOMPARE(window->run("listVOR.length").toInt(), 1);
     QCOMPARE(window->run("map.getZoom()").toInt(), 6);
-    QCOMPARE(window->page->messages, QStringList());
+    QCOMPARE(window->page->messages.join(' '), QString());
 }
 
 void TestPageService::theKeyIsSentAndEscaped()

@@ -1,0 +1,247 @@
+// The base map in its parts: names, degrees on the edges, squares that fit, the world's ends.
+#include "pagewindow.h"
+
+#include <QtTest>
+
+namespace {
+
+const QColor land("#f6f3ea");
+const QColor sea("#d3e4ee");
+const QColor coast("#7f9cab");
+const QColor placeText("#6f675a");
+
+} // namespace
+
+class TestPageBaseMap : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        open();
+    }
+
+    void citiesAreNamedByZoom();
+    void namesDoNotOverlap();
+    void namesComeInThePagesLanguage();
+    void aNameStaysWhileTheMapMoves();
+    void aNameRunsOverTheDateLine();
+    void everyCityIsAtItsPlace_data();
+    void everyCityIsAtItsPlace();
+    void theDegreesStandOnTheEdges_data();
+    void theDegreesStandOnTheEdges();
+    void neighbouringSquaresFit();
+    void aPanBringsNoGap();
+    void theMapGoesOnOverTheDateLine();
+    void southOfTheLimitLiesAntarctica();
+    void northOfTheLimitLiesTheSea();
+    void theScaleFollowsTheLatitude();
+
+private:
+    QScopedPointer<ProgramSide> program;
+    QScopedPointer<PageWindow> window;
+
+    void open(const QString& page = "gm_trajector_fr.html")
+    {
+        window.reset();
+        program.reset(new FullProgramSide);
+        window.reset(new PageWindow(program.data()));
+        QVERIFY(window->load(page));
+    }
+    void look(double latitude, double longitude, double zoom)
+    {
+        window->run(QString("map.setCenter(new google.maps.LatLng(%1,%2));map.setZoom(%3)")
+                        .arg(latitude, 3, 'f', 5)
+                        .arg(longitude, 3, 'f', 5)
+                        .arg(zoom));
+    }
+    /// The texts that the map writes with the next painting, edges and names alike.
+    QStringList written(const QString& during)
+    {
+        window->run("var texts = [];"
+                    "if (!window.plainFillText) window.plainFillText = CanvasRenderingContext2D.prototype.fillText;"
+                    "CanvasRenderingContext2D.prototype.fillText = function (text) {"
+                    "  texts.push(text); plainFillText.apply(this, arguments); };");
+        window->run(during);
+        window->settle();
+        QStringList texts = window->run("texts").toStringList();
+        texts.removeDuplicates();
+        return texts;
+    }
+};
+
+void TestPageBaseMap::citiesAreNamedByZoom()
+{
+    QVERIFY(!written("map.setCenter(new google.maps.LatLng(46.8, 2.4));map.setZoom(3)").contains("Paris"));
+    QStringList texts = written("map.setZoom(5)");
+    QVERIFY(texts.contains("Paris") && texts.contains("Lyon"));
+    QVERIFY(!texts.contains("Bourges"));
+    texts = written("map.setZoom(7)");
+    QVERIFY(texts.contains("Bourges"));
+    QVERIFY(!texts.contains("Vichy"));
+    QVERIFY(written("map.setZoom(8)").contains("Vichy"));
+}
+
+void TestPageBaseMap::namesDoNotOverlap()
+{
+    for (double zoom : {3.0, 4.5, 6.0, 8.0}) {
+        look(46.8, 2.4, zoom);
+        const QString overlaps = "var all = map.base.names.placed, found = [];"
+                                 "all.forEach((a, i) => all.slice(i + 1).forEach(b => {"
+                                 "  if (a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom)"
+                                 "    found.push(a.name.text + ' ' + b.name.text); }));";
+        QCOMPARE(window->run(overlaps + "found").toStringList(), QStringList());
+        QVERIFY(window->run("map.base.names.placed.length").toInt() > 20);
+    }
+}
+
+void TestPageBaseMap::namesComeInThePagesLanguage()
+{
+    const QString there = "map.setCenter(new google.maps.LatLng(51.5, -0.1));map.setZoom(6.5)";
+    QStringList texts = written(there);
+    QVERIFY(texts.contains("Londres"));
+    QVERIFY(!texts.contains("London"));
+    open("gm_trajector_en.html");
+    texts = written(there);
+    QVERIFY(texts.contains("London"));
+    QVERIFY(!texts.contains("Londres"));
+}
+
+void TestPageBaseMap::aNameStaysWhileTheMapMoves()
+{
+    look(46.8, 2.4, 6);
+    const QString where = "map.base.names.placed.map(p => [p.name.text, p.letters, p.y].join()).join('|')";
+    const QString before = window->run(where).toString();
+    window->mouse->drag({400, 300}, {313, 251});
+    QCOMPARE(window->run(where).toString(), before);
+    look(-20, 130, 6);
+    look(46.8, 2.4, 6);
+    QCOMPARE(window->run(where).toString(), before);
+}
+
+void TestPageBaseMap::aNameRunsOverTheDateLine()
+{
+    // The Bering Sea's name stands on both sides of 180 degrees, and is whole from either.
+    for (double centre : {180.0, -180.0}) {
+        look(58, centre, 5);
+        QVERIFY(window->pixelsAround(58, centre - 1, 10, sea) < 21 * 21 - 40);
+        QVERIFY(window->pixelsAround(58, centre + 1, 10, sea) < 21 * 21 - 40);
+    }
+}
+
+void TestPageBaseMap::everyCityIsAtItsPlace_data()
+{
+    QTest::addColumn<double>("latitude");
+    QTest::addColumn<double>("longitude");
+    QTest::newRow("Paris") << 48.86 << 2.35;
+    QTest::newRow("Genève") << 46.20 << 6.15;
+    QTest::newRow("Suva") << -18.14 << 178.44;
+    QTest::newRow("Ushuaia") << -54.80 << -68.30;
+    QTest::newRow("Nukuʻalofa") << -21.14 << -175.20;
+}
+
+void TestPageBaseMap::everyCityIsAtItsPlace()
+{
+    QFETCH(double, latitude);
+    QFETCH(double, longitude);
+    look(latitude, longitude, 8);
+    QVERIFY(window->pixelsAround(latitude, longitude, 2, placeText) >= 4);
+}
+
+void TestPageBaseMap::theDegreesStandOnTheEdges_data()
+{
+    QTest::addColumn<double>("latitude");
+    QTest::addColumn<double>("longitude");
+    QTest::addColumn<double>("zoom");
+    QTest::addColumn<QStringList>("labels");
+    QTest::newRow("far") << 46.5 << 2.5 << 5.0 << QStringList{"5°W", "0°", "5°E", "45°N", "50°N"};
+    QTest::newRow("half degrees") << -33.8 << 151.2 << 8.5
+                                  << QStringList{"150°30'E", "151°00'E", "151°30'E", "34°00'S", "33°30'S"};
+    QTest::newRow("minutes") << 46.21 << 6.15 << 11.0 << QStringList{"6°05'E", "6°10'E", "46°15'N", "46°10'N"};
+    QTest::newRow("over 180 degrees") << 0.0 << 180.0 << 5.0
+                                      << QStringList{"175°E", "180°", "175°W", "5°N", "0°", "5°S"};
+}
+
+void TestPageBaseMap::theDegreesStandOnTheEdges()
+{
+    QFETCH(double, latitude);
+    QFETCH(double, longitude);
+    QFETCH(double, zoom);
+    QFETCH(QStringList, labels);
+    const QStringList texts = written(
+        QString("map.setZoom(%3);map.setCenter(new google.maps.LatLng(%1,%2))").arg(latitude).arg(longitude).arg(zoom));
+    for (const QString& label : qAsConst(labels))
+        QVERIFY2(texts.contains(label), qPrintable(label + " is not in " + texts.join(' ')));
+}
+
+void TestPageBaseMap::neighbouringSquaresFit()
+{
+    // Inside Australia, away from names: land and thin lines of the graticule, nothing else.
+    look(-28, 127, 7);
+    const int wide = 100;
+    const int all = (2 * wide + 1) * (2 * wide + 1);
+    const int plain = window->pixelsAround(-28, 127, wide, land);
+    QVERIFY2(plain > all - 6 * (2 * wide + 1), qPrintable(QString::number(all - plain)));
+}
+
+void TestPageBaseMap::aPanBringsNoGap()
+{
+    look(-28, 127, 7);
+    for (int i = 0; i < 6; ++i) {
+        window->mouse->drag({700, 300}, {60, 300});
+        // The view's own colour behind the squares is the sea's, which is nowhere here.
+        const QVariantList centre = window->run("[map.getCenter().lat(), map.getCenter().lng()]").toList();
+        if (i < 2)
+            QCOMPARE(window->pixelsAround(centre[0].toDouble(), centre[1].toDouble(), 60, sea), 0);
+        QCOMPARE(window
+                     ->run("Array.from(map.base.world.tiles.values()).filter(t => !t.painted &&"
+                           " t.canvas.getBoundingClientRect().left > -256 &&"
+                           " t.canvas.getBoundingClientRect().left < innerWidth &&"
+                           " t.canvas.getBoundingClientRect().top > -256 &&"
+                           " t.canvas.getBoundingClientRect().top < innerHeight).length")
+                     .toInt(),
+                 0);
+    }
+}
+
+void TestPageBaseMap::theMapGoesOnOverTheDateLine()
+{
+    for (double zoom : {3.0, 5.0, 7.0}) {
+        // Chukotka on both sides of 180 degrees, from either side.
+        for (double centre : {179.5, -179.5}) {
+            look(66.9, centre, zoom);
+            const double meridian = centre > 0 ? 180 : -180;
+            QCOMPARE(window->colourAt(67.13, meridian + 1.77), land);
+            QCOMPARE(window->colourAt(67.13, meridian - 1.23), land);
+        }
+    }
+}
+
+void TestPageBaseMap::southOfTheLimitLiesAntarctica()
+{
+    look(-85, 40.3, 3);
+    QCOMPARE(window->pixelsAround(-84.9, 40.3, 6, coast), 0);
+    window->settle();
+    QCOMPARE(window->view->grab().toImage().pixelColor(402, 500), land);
+}
+
+void TestPageBaseMap::northOfTheLimitLiesTheSea()
+{
+    look(85, 40.3, 3);
+    window->settle();
+    QCOMPARE(window->view->grab().toImage().pixelColor(402, 100), sea);
+}
+
+void TestPageBaseMap::theScaleFollowsTheLatitude()
+{
+    const QString lengths =
+        "Array.from(document.querySelectorAll('.scale-bar-line')).map(e => e.textContent).join(' ')";
+    look(0, 0, 8);
+    QCOMPARE(window->run(lengths).toString(), "20 NM 50 km");
+    look(75, 0, 8);
+    QCOMPARE(window->run(lengths).toString(), "10 NM 10 km");
+}
+
+QTEST_MAIN(TestPageBaseMap)
+#include "tst_pagebasemap.moc"
