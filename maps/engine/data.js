@@ -6,13 +6,14 @@
 
   const noSymbol = { path: 'M 0 0', strokeWeight: 0 };
 
-  /** A point with its properties. Those of a layer that is shown also carry where and how they are drawn. */
+  /** A point with its properties. Those of a layer also carry where and how they are drawn. */
   class Feature {
     /** @param {{geometry: LatLng, properties: Object}} options */
     constructor(options) {
       this.geometry = options.geometry;
       this.properties = options.properties || {};
       this.layer = null;
+      this.dressing = 0;
     }
 
     getProperty(name) {
@@ -29,7 +30,10 @@
     constructor(options) {
       super();
       this.features = new Set();
+      this.grid = new engine.HitGrid();
+      this.overrides = new Map();
       this.style = {};
+      this.dressing = 1;
       this.map = null;
       this.setMap(options && options.map);
     }
@@ -42,8 +46,9 @@
       feature.layer = this;
       feature.x = engine.unitX(feature.geometry.lng());
       feature.y = engine.unitY(feature.geometry.lat());
-      this.dress(feature);
+      feature.dressing = 0;
       this.features.add(feature);
+      this.grid.add(feature);
       this.changed();
       return feature;
     }
@@ -51,6 +56,8 @@
     remove(feature) {
       if (!this.features.delete(feature))
         return;
+      this.grid.remove(feature);
+      this.overrides.delete(feature);
       feature.layer = null;
       this.changed();
     }
@@ -63,16 +70,42 @@
       this.features.forEach(feature => callback(feature));
     }
 
-    /** @param {Object|function(Feature): Object} style options with icon (a Symbol), label, zIndex and clickable */
+    /**
+     * @param {Object|function(Feature): Object} style options with icon (a Symbol), label, zIndex, clickable, visible; a
+     *     function is asked for a point when that comes into view
+     */
     setStyle(style) {
       this.style = style || {};
-      this.features.forEach(feature => this.dress(feature));
+      ++this.dressing;
       this.changed();
     }
 
+    /** Options of one point over those of the layer. */
+    overrideStyle(feature, style) {
+      this.overrides.set(feature, Object.assign({}, this.overrides.get(feature), style));
+      feature.dressing = 0;
+      this.changed();
+    }
+
+    /** Takes the options of one point back; without one those of all points. */
+    revertStyle(feature) {
+      if (feature) {
+        this.overrides.delete(feature);
+        feature.dressing = 0;
+      } else {
+        this.overrides.clear();
+        ++this.dressing;
+      }
+      this.changed();
+    }
+
+    /** Brings `look` and `sprite` of a point up to the layer's style. */
     dress(feature) {
-      feature.look = typeof this.style === 'function' ? this.style(feature) : this.style;
+      const look = typeof this.style === 'function' ? this.style(feature) : this.style;
+      const override = this.overrides.get(feature);
+      feature.look = override ? Object.assign({}, look, override) : look;
       feature.sprite = engine.spriteOf(feature.look.icon || noSymbol);
+      feature.dressing = this.dressing;
     }
 
     getMap() {

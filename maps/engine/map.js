@@ -148,6 +148,8 @@
       this.base.setColours(colours);
       this.element.style.backgroundColor = colours.sea;
       this.element.classList.toggle('dark-map', !!colours.land && engine.isDark(colours.land));
+      this.points.setRim(colours.placeRim || colours.land || '#ffffff');
+      this.chart.invalidate();
     }
 
     getDiv() {

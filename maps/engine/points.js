@@ -1,4 +1,7 @@
-/** The points of all data layers of a map: paints each as a copy of its symbol's sprite, and finds them by place. */
+/**
+ * The points of all data layers of a map: paints each as a copy of its symbol's sprite with its label where there is
+ * room for it, and finds them by place.
+ */
 (function () {
   'use strict';
   const engine = window.mapEngine;
@@ -6,10 +9,16 @@
   /** A point answers the mouse this many pixels around its middle. */
   const touchPixels = 10;
 
+  /** Points so many pixels beside the canvas count too: their labels and symbols reach into it. */
+  const margin = 160;
+
   class Points {
     constructor() {
       this.layers = new Set();
-      this.forget();
+      this.declutter = new engine.Declutter();
+      this.version = 0;
+      this.levels = new Map();
+      this.rim = 'rgba(255, 255, 255, 0.85)';
     }
 
     show(layer) {
@@ -22,94 +31,105 @@
       this.forget();
     }
 
-    /** A layer has changed: the order of drawing and the grid are made anew when they are asked for. */
+    /** A layer has changed. */
     forget() {
-      this.ordered = null;
-      this.grid = null;
+      ++this.version;
     }
 
-    /** The points by their zIndex; within one they stand as they were added. @return {Map<number, Array>} */
-    byHeight() {
-      if (this.ordered)
-        return this.ordered;
-      const found = new Map();
-      this.layers.forEach(layer => layer.features.forEach(feature => {
-        const height = feature.look.zIndex || 0;
-        const level = found.get(height);
-        if (level)
-          level.push(feature);
-        else
-          found.set(height, [feature]);
-      }));
-      this.ordered = found;
-      return found;
+    /** @param {string} colour what stands around letters */
+    setRim(colour) {
+      this.rim = colour;
     }
 
-    /** @return {number[]} the zIndex values that occur */
-    heights() {
-      return Array.from(this.byHeight().keys());
-    }
-
-    /** The points that answer the mouse, in the order of drawing. */
-    touchable() {
-      const levels = this.heights().sort((a, b) => a - b).map(height => this.byHeight().get(height));
-      const all = [].concat.apply([], levels).filter(feature => feature.look.clickable !== false);
-      all.forEach((feature, order) => {
-        feature.order = order;
+    /** Finds out what the frame shows: for each zIndex the points and their pixels. Comes before all painting. */
+    begin(frame) {
+      const ratio = window.devicePixelRatio || 1;
+      this.levels = new Map();
+      this.layers.forEach(layer => {
+        for (let world = frame.firstWorld; world <= frame.lastWorld; ++world)
+          this.gather(frame, layer, frame.left - world * frame.scale, ratio);
       });
-      return all;
     }
 
-    /** @return the point nearest to a place in unit coordinates, or null when none is near enough to be meant */
-    nearest(x, y, scale) {
-      if (!this.grid)
-        this.grid = new engine.HitGrid(this.touchable());
-      return this.grid.nearest(x, y, touchPixels / scale);
+    gather(frame, layer, left, ratio) {
+      const scale = frame.scale;
+      const top = frame.top;
+      const right = frame.width + margin;
+      const bottom = frame.height + margin;
+      const visit = points => {
+        for (let i = 0; i < points.length; ++i) {
+          const point = points[i];
+          const x = Math.round(point.x * scale - left);
+          const y = Math.round(point.y * scale - top);
+          if (x < -margin || y < -margin || x > right || y > bottom)
+            continue;
+          if (point.dressing !== layer.dressing || point.sprite.ratio !== ratio)
+            layer.dress(point);
+          if (point.look.visible !== false)
+            this.put(point, x, y);
+        }
+      };
+      layer.grid.visitBox((left - margin) / scale, (top - margin) / scale, (left + right) / scale, (top + bottom) / scale,
+        visit);
+    }
+
+    put(point, x, y) {
+      const height = point.look.zIndex || 0;
+      let level = this.levels.get(height);
+      if (!level) {
+        level = { height: height, points: [], xs: [], ys: [] };
+        this.levels.set(height, level);
+      }
+      level.points.push(point);
+      level.xs.push(x);
+      level.ys.push(y);
+    }
+
+    /** @return {number[]} the zIndex values that occur in the frame */
+    heights() {
+      return Array.from(this.levels.keys());
     }
 
     /** @param {number} height the zIndex of the points to paint */
     paintHeight(frame, height) {
-      const points = this.byHeight().get(height) || [];
-      const labels = [];
-      for (let world = frame.firstWorld; world <= frame.lastWorld; ++world)
-        this.paintWorld(frame, points, frame.left - world * frame.scale, labels);
-      this.write(frame, labels);
-    }
-
-    paintWorld(frame, points, left, labels) {
+      const level = this.levels.get(height);
+      if (!level)
+        return;
       const context = frame.context;
-      const scale = frame.scale;
-      const top = frame.top;
-      for (let i = 0; i < points.length; ++i) {
-        const point = points[i];
-        const x = point.x * scale - left;
-        const y = point.y * scale - top;
-        const sprite = point.sprite;
+      for (let i = 0; i < level.points.length; ++i) {
+        const sprite = level.points[i].sprite;
         const middle = sprite.middle;
-        if (x < -middle || y < -middle || x > frame.width + middle || y > frame.height + middle)
-          continue;
-        const pixelX = Math.round(x) - middle;
-        const pixelY = Math.round(y) - middle;
-        context.drawImage(sprite.canvas, pixelX, pixelY, sprite.size, sprite.size);
-        if (point.look.label)
-          labels.push({ x: pixelX + sprite.size, y: pixelY + middle, label: point.look.label });
+        const x = level.xs[i];
+        const y = level.ys[i];
+        if (x > -middle && y > -middle && x < frame.width + middle && y < frame.height + middle)
+          context.drawImage(sprite.canvas, x - middle, y - middle, sprite.size, sprite.size);
       }
     }
 
-    /** Labels stand right of their symbols, with a light rim against whatever lies below. */
-    write(frame, labels) {
-      const context = frame.context;
-      context.textBaseline = 'middle';
-      context.lineJoin = 'round';
-      context.lineWidth = 3;
-      context.strokeStyle = 'rgba(255, 255, 255, 0.85)';
-      labels.forEach(item => {
-        context.font = `${item.label.fontWeight || 'normal'} ${item.label.fontSize || '11px'} sans-serif`;
-        context.strokeText(item.label.text, item.x, item.y);
-        context.fillStyle = item.label.color || '#000';
-        context.fillText(item.label.text, item.x, item.y);
+    /** Labels stand over everything. Comes after all painting. */
+    end(frame) {
+      const levels = Array.from(this.levels.values()).sort((a, b) => a.height - b.height);
+      engine.writeLabels(frame.context, this.declutter.place(frame, levels, margin, this.version), this.rim);
+      this.levels = new Map();
+    }
+
+    /**
+     * @return the point nearest to a place in unit coordinates, or null when none is near enough to be meant; of several
+     *     at the same place the one drawn last
+     */
+    nearest(x, y, scale) {
+      const best = { point: null, square: Infinity };
+      this.layers.forEach(layer => {
+        const found = layer.grid.nearest(x, y, touchPixels / scale, point => {
+          if (point.dressing !== layer.dressing)
+            layer.dress(point);
+          return point.look.visible !== false && point.look.clickable !== false;
+        });
+        if (found.point && (found.square < best.square
+          || (found.square === best.square && !(found.point.look.zIndex < best.point.look.zIndex))))
+          Object.assign(best, found);
       });
-      context.textBaseline = 'alphabetic';
+      return best.point;
     }
   }
 

@@ -33,8 +33,9 @@
   /**
    * Draws a symbol on a canvas.
    * @param {?HTMLCanvasElement} used a canvas whose picture may go; without it a new one is made
-   * @return {{canvas: HTMLCanvasElement, size: number, middle: number}} size in CSS pixels; the symbol's origin lies
-   *     `middle` pixels from the left and the upper edge
+   * @return {{canvas: HTMLCanvasElement, size: number, middle: number, radius: number, ratio: number}} size in CSS
+   *     pixels; the symbol's origin lies `middle` pixels from the left and the upper edge, the symbol reaches `radius`
+   *     pixels around it
    */
   function drawSymbol(symbol, used) {
     const scale = symbol.scale || 1;
@@ -61,15 +62,15 @@
       context.lineJoin = 'round';
       context.stroke(shape.path);
     }
-    return { canvas: canvas, size: 2 * middle, middle: middle };
+    return { canvas: canvas, size: 2 * middle, middle: middle, radius: radius, ratio: ratio };
   }
 
   engine.drawSymbol = drawSymbol;
 
-  /** The picture of a symbol that is used again and again; one drawing for each symbol object. */
+  /** The picture of a symbol that is used again and again; one drawing for each symbol object and screen. */
   engine.spriteOf = symbol => {
     let sprite = cache.get(symbol);
-    if (!sprite) {
+    if (!sprite || sprite.ratio !== (window.devicePixelRatio || 1)) {
       sprite = drawSymbol(symbol);
       cache.set(symbol, sprite);
     }

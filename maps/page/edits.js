@@ -43,12 +43,14 @@ var theLast = null;
     if (former && layerOf(marker).list === listVOR && former.symbol.indexOf('ndb') !== 0)
       marker.symbol = former.symbol;
     layerOf(marker).manager().addMarker(marker);
+    page.matchPlan();
   };
 
   page.removeLast = function () {
     if (theLast)
       removeMarker(theLast);
     theLast = null;
+    page.matchPlan();
   };
 })();
 

@@ -1,81 +1,116 @@
 /** The seven marker layers: each manager shows and hides the markers of a list. */
 
-/** @type {?MarkerManager} */
 var ArptMgr = null;
-/** @type {?MarkerManager} */
 var VORMgr = null;
-/** @type {?MarkerManager} */
 var NDBRteMgr = null;
-/** @type {?MarkerManager} */
 var NDBTermMgr = null;
-/** @type {?MarkerManager} */
 var WPTRteMgr = null;
-/** @type {?MarkerManager} */
 var WPTTermMgr = null;
-/** @type {?MarkerManager} */
 var WPTVfrMgr = null;
 
 (function () {
   'use strict';
 
-  /** All managers made so far, for what concerns every layer. @type {MarkerManager[]} */
+  /** All managers made so far, for what concerns every layer. */
   const managers = [];
 
+  /** How all markers look at the map's zoom. */
+  let looks = null;
+  /** The marker that the user has clicked: it is drawn in full. */
+  let chosen = null;
+  const chosenHeight = 58;
+
+  const counts = {
+    airport: () => listApt.length,
+    vor: () => listVOR.length,
+    ndb: () => listNDBRte.length + listNDBTerm.length,
+    waypoint: () => listWptRte.length + listWptTerm.length + listWptVfr.length,
+  };
+
+  /** How many markers share the room with those of a symbol. */
+  const countOf = symbol => (counts[/^(ndb|waypoint)/.test(symbol) ? RegExp.$1 : symbol] || counts.vor)();
+
+  const hidden = { visible: false };
+
+  function styleOf(marker) {
+    // A point of the plan shows whatever its layer does.
+    if (page.isPlanned(marker))
+      return hidden;
+    if (marker === chosen)
+      return page.fullLook(marker, map.getZoom(), { colour: page.symbolColour(marker.symbol), zIndex: chosenHeight });
+    return looks.of(marker);
+  }
+
+  /** Shows and hides the markers of one list. */
   class LayerManager {
     constructor() {
-      this.size = page.symbolSize(map.getZoom());
+      page.fitLooks();
       this.clearMarkers();
     }
 
-    /** Shows the markers of a list, each once however often this is asked. @param {ChartMarker[]} list */
+    /** Shows the markers of a list, each once however often this is asked. */
     addMarkers(list) {
       if (Array.isArray(list))
-        list.forEach(marker => this.addMarker(marker));
+        list.forEach(marker => this.show(marker));
       this.layer.setMap(map);
+      page.fitLooks();
+      page.fitRoses();
     }
 
-    /** @param {ChartMarker} marker */
     addMarker(marker) {
+      this.addMarkers([marker]);
+    }
+
+    show(marker) {
       if (!this.shown.has(marker))
         this.shown.set(marker, this.layer.add({ geometry: marker.position, properties: { marker: marker } }));
-      if (!this.layer.getMap())
-        this.layer.setMap(map);
     }
 
-    /** @param {ChartMarker} marker */
     removeMarker(marker) {
       const feature = this.shown.get(marker);
       if (!feature)
         return;
       this.layer.remove(feature);
       this.shown.delete(marker);
+      page.fitRoses();
     }
 
     /** Hides all markers of the layer. */
     clearMarkers() {
       if (this.layer)
         this.layer.setMap(null);
-      /** @type {Map<ChartMarker, google.maps.Data.Feature>} */
       this.shown = new Map();
       this.layer = new google.maps.Data();
       this.dress();
       page.listenToLayer(this.layer);
+      this.layer.addListener('click', event => page.choose(event.feature.getProperty('marker')));
+      page.fitRoses();
     }
 
     dress() {
-      const size = this.size;
-      this.layer.setStyle(feature => page.symbolLook(feature.getProperty('marker').symbol, size));
-    }
-
-    /** Takes the symbols' size that suits a zoom. @param {number} zoom */
-    fit(zoom) {
-      const size = page.symbolSize(zoom);
-      if (size === this.size)
-        return;
-      this.size = size;
-      this.dress();
+      this.layer.setStyle(feature => styleOf(feature.getProperty('marker')));
     }
   }
+
+  /** Draws all layers anew where looks have changed for another reason than zoom, number or palette. */
+  page.dressLayers = () => managers.forEach(manager => manager.dress());
+
+  /** Takes the looks that suit zoom, palette and the number of markers. */
+  page.fitLooks = function () {
+    const next = page.looksAt(map.getZoom(), countOf);
+    if (looks && next.key === looks.key)
+      return;
+    looks = next;
+    page.dressLayers();
+  };
+
+  /** Draws a marker in full as the one that the user has clicked; null for none. */
+  page.choose = function (marker) {
+    if (marker === chosen)
+      return;
+    chosen = marker;
+    page.dressLayers();
+  };
 
   /** A fresh manager in place of an old one, which would otherwise leave its markers on the map. */
   page.newManager = function (old) {
@@ -88,7 +123,9 @@ var WPTVfrMgr = null;
     return manager;
   };
 
-  google.maps.event.addListener(map, 'zoom_changed', () => managers.forEach(manager => manager.fit(map.getZoom())));
+  page.onPalette(page.fitLooks);
+  google.maps.event.addListener(map, 'zoom_changed', page.fitLooks);
+  google.maps.event.addListener(map, 'click', () => page.choose(null));
 
   /** Each list with the one who shows it; the manager is made when it is needed before the feed has made it. */
   page.layers = [
@@ -106,6 +143,7 @@ var WPTVfrMgr = null;
 function pushAPT() {
   ArptMgr = page.newManager(ArptMgr);
   ArptMgr.addMarkers(listApt);
+  page.matchPlan();
 }
 
 /** Ends the navaid feed; the program says next which layers are to be seen. */
@@ -113,6 +151,8 @@ function addNavMgr() {
   VORMgr = page.newManager(VORMgr);
   NDBRteMgr = page.newManager(NDBRteMgr);
   NDBTermMgr = page.newManager(NDBTermMgr);
+  page.joinBeacons();
+  page.matchPlan();
 }
 
 /** Ends the waypoint feed; the program says next which layers are to be seen. */
@@ -120,4 +160,5 @@ function addWptMgr() {
   WPTRteMgr = page.newManager(WPTRteMgr);
   WPTTermMgr = page.newManager(WPTTermMgr);
   WPTVfrMgr = page.newManager(WPTVfrMgr);
+  page.matchPlan();
 }

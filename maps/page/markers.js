@@ -96,6 +96,21 @@ var listWptVfr = [];
     ? page.collect(listNDBTerm, page.families.navaid, 'ndbTerminal', position, title, html)
     : page.collect(listNDBRte, page.families.navaid, 'ndbRoute', position, title, html));
 
+  /** A DME of an NDB stands at most so many degrees beside it. */
+  const besideBeacon = 0.01;
+
+  /** Navaids come one a row, and no row tells an NDB with a DME: it is a DME beside an NDB of its identifier. */
+  page.joinBeacons = function () {
+    const isBeside = (a, b) => page.identOf(a) === page.identOf(b)
+      && Math.abs(a.position.lat() - b.position.lat()) < besideBeacon
+      && Math.abs(a.position.lng() - b.position.lng()) < besideBeacon;
+    const beacons = listNDBRte.concat(listNDBTerm);
+    listVOR.filter(marker => marker.symbol === 'dme').forEach(dme => {
+      if (beacons.some(beacon => isBeside(dme, beacon)))
+        dme.symbol = 'ndbDme';
+    });
+  };
+
   page.collectWaypoint = function (position, title, use, html) {
     const list = use === usage.terminal ? listWptTerm : use === usage.vfr ? listWptVfr : listWptRte;
     return page.collect(list, page.families.waypoint, waypointSymbols[use] || 'waypointRoute', position, title, html);

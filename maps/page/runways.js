@@ -84,5 +84,6 @@ function clearRunway() {
 
 /** One runway from its high end to its low end. @type {(highEnd: Place, lowEnd: Place) => void} */
 function drawRwy(highEnd, lowEnd) {
+  page.noteRunway(highEnd, lowEnd);
   page.drawRunway(highEnd, lowEnd);
 }

@@ -1,0 +1,107 @@
+/**
+ * Compass roses around VORs, from near: true north, for the program tells no magnetic variation. Where two would overlap
+ * one is drawn.
+ */
+(function () {
+  'use strict';
+  const { circle, polygon, lines, rounded } = page.shapes;
+
+  /** The rose's radius in pixels, and from which zoom on. */
+  const fromZoom = 8.7;
+  const radius = 50;
+  /** Below all symbols. */
+  const height = 4;
+  const withRose = ['vor', 'vorDme', 'vortac'];
+
+  /** Digits in strokes, on a field of 2 by 4. */
+  const digits = {
+    0: [[0, 0], [2, 0], [2, 4], [0, 4], [0, 0]],
+    1: [[0.3, 0.9], [1.2, 0], [1.2, 4]],
+    2: [[0, 0.6], [0.5, 0], [1.6, 0], [2, 0.7], [2, 1.4], [0, 4], [2, 4]],
+    3: [[0, 0], [2, 0], [0.9, 1.7], [1.6, 1.9], [2, 2.6], [1.8, 3.6], [1, 4], [0, 3.6]],
+    4: [[1.5, 4], [1.5, 0], [0, 2.8], [2.1, 2.8]],
+    5: [[1.9, 0], [0.2, 0], [0.1, 1.8], [1.2, 1.6], [2, 2.3], [1.9, 3.4], [1.2, 4], [0, 3.7]],
+    6: [[1.8, 0], [0.6, 1], [0, 2.6], [0.4, 3.8], [1.4, 4], [2, 3.2], [1.8, 2.3], [0.9, 2], [0.1, 2.6]],
+    7: [[0, 0], [2, 0], [0.8, 4]],
+    8: [[1, 1.8], [0.2, 1.2], [0.3, 0.2], [1, 0], [1.7, 0.2], [1.8, 1.2], [1, 1.8], [0, 2.7], [0.2, 3.7], [1, 4],
+      [1.8, 3.7], [2, 2.7], [1, 1.8]],
+    9: [[0.2, 4], [1.4, 3], [2, 1.4], [1.6, 0.2], [0.6, 0], [0, 0.8], [0.2, 1.7], [1.1, 2], [1.9, 1.4]],
+  };
+  const digitSize = 1.55;
+  const digitStep = 3.1;
+
+  /** A point of the rose: so far from the middle and so far beside the direction. */
+  function at(direction, distance, aside) {
+    const angle = direction * Math.PI / 180;
+    return [
+      rounded(distance * Math.sin(angle) + aside * Math.cos(angle)),
+      rounded(-distance * Math.cos(angle) + aside * Math.sin(angle)),
+    ];
+  }
+
+  const tick = (direction, from, to) => lines([].concat(at(direction, from, 0), at(direction, to, 0)));
+
+  /** A number whose feet point to the middle. */
+  function number(direction, text) {
+    const width = ((text.length - 1) * digitStep + 2) * digitSize;
+    return Array.from(text).map((digit, i) => {
+      const corners = digits[digit].map(([x, y]) =>
+        at(direction, radius - 10 - y * digitSize, (i * digitStep + x) * digitSize - width / 2));
+      return `M ${corners.map(corner => corner.join(' ')).join(' L ')}`;
+    }).join(' ');
+  }
+
+  /** A tick each 10 degrees, a longer one with its number of tens each 30, an arrow at north. */
+  function rosePath() {
+    const parts = [circle(0, 0, radius), polygon(at(0, radius + 7, 0), at(0, radius, 3), at(0, radius, -3))];
+    for (let direction = 0; direction < 360; direction += 10) {
+      const long = direction % 30 === 0;
+      parts.push(tick(direction, radius - (long ? 7 : 4), radius));
+      if (long)
+        parts.push(number(direction, String(direction / 10)));
+    }
+    return parts.join(' ');
+  }
+
+  const path = rosePath();
+  const layer = new google.maps.Data();
+
+  page.onPalette(palette => layer.setStyle({
+    icon: page.symbol(path, palette.navaid, 0.9, palette.navaid, { fillOpacity: 0, strokeOpacity: 0.6 }),
+    zIndex: height,
+    clickable: false,
+  }));
+
+  /** The markers of which no two roses overlap at a zoom; the first of the list come first. */
+  function apart(markers, zoom) {
+    const pixelsPerDegree = 256 * Math.pow(2, zoom) / 360;
+    const least = 2 * radius + 8;
+    const kept = [];
+    const isFree = place => kept.every(other => {
+      const north = (place.lat() - other.lat()) / Math.cos(place.lat() * Math.PI / 180);
+      return Math.hypot(north, place.lng() - other.lng()) * pixelsPerDegree >= least;
+    });
+    markers.forEach(marker => {
+      if (isFree(marker.position))
+        kept.push(marker.position);
+    });
+    return kept;
+  }
+
+  let drawn = '';
+
+  /** Draws the roses of the VORs that are shown; without a change of zoom or markers nothing happens. */
+  page.fitRoses = function () {
+    const zoom = map.getZoom();
+    const shown = zoom >= fromZoom && VORMgr ? VORMgr.markers().filter(marker => withRose.indexOf(marker.symbol) >= 0) : [];
+    const key = shown.length ? `${zoom} ${shown.map(marker => marker.title).join()}` : '';
+    if (key === drawn)
+      return;
+    drawn = key;
+    layer.forEach(feature => layer.remove(feature));
+    apart(shown, zoom).forEach(position => layer.add({ geometry: position }));
+    layer.setMap(shown.length ? map : null);
+  };
+
+  google.maps.event.addListener(map, 'zoom_changed', page.fitRoses);
+})();

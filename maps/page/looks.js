@@ -1,0 +1,124 @@
+/**
+ * How a marker looks at a zoom. From afar a symbol is a dot, then it leaves: points of procedures first, then those en
+ * route, then beacons, the airports last. A layer of thousands behaves as if it were seen from farther away.
+ */
+(function () {
+  'use strict';
+
+  /**
+   * From which zoom on a symbol is a dot, drawn in full, has its identifier beside it, and its name too. So many markers
+   * of the kind leave the map as open as it should be; four times as many want a zoom more.
+   */
+  const navaid = { dot: 3.5, symbol: 5, ident: 6.6, name: 10, many: 250 };
+  const stages = {
+    airport: { dot: 3, symbol: 5.8, ident: 7, name: 10, many: 250 },
+    vor: navaid,
+    vorDme: navaid,
+    vortac: navaid,
+    tacan: navaid,
+    dme: { dot: 5, symbol: 7, ident: 8, name: 10, many: 250 },
+    ndbDme: { dot: 5, symbol: 7, ident: 20, name: 20, many: 250 },
+    ndbRoute: { dot: 5, symbol: 6.8, ident: 7.8, name: 10, many: 250 },
+    ndbTerminal: { dot: 6, symbol: 7.6, ident: 8.6, name: 10.5, many: 250 },
+    waypointRoute: { dot: 6, symbol: 7, ident: 8, name: 12, many: 700 },
+    waypointRnav: { dot: 6.3, symbol: 7.5, ident: 8.6, name: 12, many: 700 },
+    waypointVfr: { dot: 7, symbol: 8, ident: 9.2, name: 11, many: 700 },
+    waypointTerminal: { dot: 7, symbol: 8, ident: 9.2, name: 12, many: 700 },
+  };
+
+  /** However many there are, the farthest that a layer is pushed away, in zooms. */
+  const farthest = 2.8;
+
+  /** The sizes of symbols and letters by zoom. */
+  const sizes = [
+    { from: 11, scale: 1.15, letters: 12 },
+    { from: 9, scale: 1, letters: 11 },
+    { from: 8, scale: 0.9, letters: 11 },
+    { from: 7, scale: 0.76, letters: 10 },
+    { from: 6, scale: 0.62, letters: 10 },
+    { from: 0, scale: 0.5, letters: 10 },
+  ];
+  const letterFamily = '"Liberation Sans", Arial, Helvetica, sans-serif';
+  /** Labels are bold from this zIndex on. */
+  const boldFrom = 28;
+  /** From this zoom on a chosen marker tells its name too. */
+  const fullNameFrom = 9;
+
+  /** @return {number} by how many zooms markers look farther away for being so many */
+  const crowding = (stage, count) => Math.max(0, Math.min(farthest, Math.log2(count / stage.many) / 2));
+
+  /**
+   * The look of a kind at a zoom.
+   * @param {number} count how many markers there are of its family
+   * @return {{scale: number, letters: number, text: string}} scale 0 for a dot, below 0 for nothing; text: 'ident',
+   *     'name' or empty
+   */
+  function lookAt(name, zoom, count) {
+    const stage = stages[name];
+    const seen = zoom - crowding(stage, count);
+    const size = sizes.find(each => seen >= each.from) || sizes[sizes.length - 1];
+    return {
+      scale: seen >= stage.symbol ? size.scale : seen >= stage.dot ? 0 : -1,
+      letters: size.letters,
+      text: seen >= stage.name ? 'name' : seen >= stage.ident ? 'ident' : '',
+    };
+  }
+
+  /** The label of a marker; `more` holds what differs from other labels. */
+  page.labelOf = (text, colour, letters, more) => Object.assign(
+    { text: text, color: colour, fontSize: `${letters}px`, fontWeight: 'normal', fontFamily: letterFamily }, more);
+
+  const hidden = { visible: false };
+
+  /** What all markers of one kind and zoom have in common. */
+  class Look {
+    constructor(name, at) {
+      this.at = at;
+      this.colour = page.symbolColour(name);
+      this.height = page.symbolHeight(name);
+      this.weight = this.height >= boldFrom ? 'bold' : 'normal';
+    }
+
+    /** @return {google.maps.Data.StyleOptions} */
+    of(marker) {
+      if (this.at.scale < 0)
+        return hidden;
+      const style = { icon: page.symbolOf(marker, this.at.scale), zIndex: this.height };
+      if (this.at.text) {
+        const text = this.at.text === 'name' ? page.longText(marker) : page.identOf(marker);
+        style.label = page.labelOf(text, this.colour, this.at.letters, { fontWeight: this.weight });
+      }
+      return style;
+    }
+  }
+
+  /**
+   * The looks of all kinds at a zoom.
+   * @param {function(string): number} countOf how many markers there are of the family of a kind
+   * @return {{key: string, of: function(ChartMarker): Object}} key: the same as long as everything looks the same
+   */
+  page.looksAt = function (zoom, countOf) {
+    const looks = {};
+    const keys = [];
+    Object.keys(stages).forEach(name => {
+      const at = lookAt(name, zoom, countOf(name));
+      looks[name] = new Look(name, at);
+      keys.push(at.scale, at.letters, at.text);
+    });
+    return { key: `${page.palette.name} ${keys.join(' ')}`, of: marker => looks[marker.symbol].of(marker) };
+  };
+
+  /**
+   * The look of a marker that the user has chosen or put into the plan: drawn in full at every zoom, with a label.
+   * @param {{colour: string, zIndex: number}} more the label's colour and what lies over what
+   */
+  page.fullLook = function (marker, zoom, more) {
+    const size = sizes.find(each => zoom >= each.from && each.scale >= 0.9) || sizes.find(each => each.scale === 0.9);
+    const text = zoom >= fullNameFrom ? page.longText(marker) : page.identOf(marker);
+    return {
+      icon: page.symbolOf(marker, size.scale),
+      zIndex: more.zIndex,
+      label: page.labelOf(text, more.colour, size.letters + 1, { fontWeight: 'bold' }),
+    };
+  };
+})();

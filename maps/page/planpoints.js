@@ -1,0 +1,101 @@
+/**
+ * The points of the plan, each with the symbol of what stands there: they show at every zoom, also when their layer does
+ * not. The program tells a name and a place for each; the marker at that place is found here.
+ */
+(function () {
+  'use strict';
+
+  /** Above everything but what moves. */
+  const height = 62;
+  /** Places are told with five decimals. */
+  const decimals = 1e5;
+  /** A point where no marker is known, such as one that the user has made. */
+  const unknown = { path: 'M 0 -5.6 L 5.2 3.6 L -5.2 3.6 Z', weight: 1.6 };
+
+  const layer = new google.maps.Data();
+  page.listenToLayer(layer);
+  layer.addListener('click', event => page.choose(event.feature.getProperty('marker')));
+
+  let points = [];
+  let planned = new Set();
+
+  const keyOf = position =>
+    Math.round(position.lat() * decimals) * 1e8 + Math.round(position.lng() * decimals);
+
+  /** The markers at the places of the points, by place. */
+  function markersByPlace() {
+    const found = new Map(points.map(point => [keyOf(point.position), []]));
+    page.layers.forEach(each => each.list.forEach(marker => {
+      const there = found.get(keyOf(marker.position));
+      if (there)
+        there.push(marker);
+    }));
+    return found;
+  }
+
+  /** Of several markers at one place that of the point's name, else the one that charts draw above the others. */
+  function markerFor(point, candidates) {
+    const named = candidates.filter(marker =>
+      page.nameOf(marker) === point.name || page.identOf(marker) === point.name);
+    return (named.length ? named : candidates)
+      .reduce((best, marker) =>
+        (best && page.symbolHeight(best.symbol) >= page.symbolHeight(marker.symbol) ? best : marker), null);
+  }
+
+  function plainLook(name) {
+    const colours = page.palette;
+    return {
+      icon: page.symbol(unknown.path, colours.route, unknown.weight, colours.routeFill),
+      zIndex: height,
+      clickable: false,
+      label: page.labelOf(name, colours.route, 12, { fontWeight: 'bold' }),
+    };
+  }
+
+  function lookOf(feature) {
+    const marker = feature.getProperty('marker');
+    return marker
+      ? page.fullLook(marker, map.getZoom(), { colour: page.palette.route, zIndex: height })
+      : plainLook(feature.getProperty('name'));
+  }
+
+  const dress = () => layer.setStyle(lookOf);
+
+  /** @return {boolean} whether a marker is drawn as a point of the plan */
+  page.isPlanned = marker => planned.has(marker);
+
+  /** Finds the points' markers again, after markers have come or gone. */
+  page.matchPlan = function () {
+    if (!points.length && !planned.size)
+      return;
+    const found = markersByPlace();
+    const drawn = new Set();
+    planned = new Set();
+    layer.forEach(feature => layer.remove(feature));
+    points.forEach(point => {
+      const marker = markerFor(point, found.get(keyOf(point.position)));
+      const same = marker || `${keyOf(point.position)} ${point.name}`;
+      if (drawn.has(same))
+        return;
+      drawn.add(same);
+      if (marker)
+        planned.add(marker);
+      layer.add({ geometry: point.position, properties: { marker: marker, name: point.name } });
+    });
+    dress();
+    layer.setMap(points.length ? map : null);
+    page.dressLayers();
+  };
+
+  /**
+   * The points of the plan as it is drawn.
+   * @param {Array<{position: google.maps.LatLng, name: string}>} next empty: there is no plan on the map
+   */
+  page.setPlanPoints = function (next) {
+    points = next.filter(point => page.isPlace(point.position));
+    page.matchPlan();
+  };
+
+  page.onPalette(dress);
+  google.maps.event.addListener(map, 'zoom_changed', dress);
+})();
