@@ -93,6 +93,7 @@
      */
     place(frame, levels, margin, version) {
       const sameView = frame.zoom === this.zoom;
+      this.isSame = sameView && version === this.version;
       this.room = new Room(frame.left - margin, frame.top - margin, frame.width + 2 * margin, frame.height + 2 * margin);
       this.frame = frame;
       this.before = sameView ? this.kept : new Map();
@@ -101,7 +102,7 @@
       levels.forEach(each => this.putSymbols(each));
       const order = levels.slice().reverse();
       // The same points as in the last picture: what stands there stays, whatever new ones come in from the side.
-      if (sameView && version === this.version)
+      if (this.isSame)
         order.forEach(each => this.placeLevel(each, true));
       order.forEach(each => {
         this.placeLevel(each, true);
@@ -140,7 +141,8 @@
     /** Rather beside all symbols than on one of less height; on one of less height rather than nowhere. */
     placePoint(point, x, y, height, side) {
       const text = engine.labelText(point.look.label);
-      if (side >= 0 && this.trySide(point, x, y, text, side, height))
+      if (side >= 0 && (this.trySide(point, x, y, text, side, 1)
+        || (this.isSame && this.trySide(point, x, y, text, side, height))))
         return;
       for (let i = 0; i < sides.length; ++i) {
         if (this.trySide(point, x, y, text, i, 1))

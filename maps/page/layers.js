@@ -1,11 +1,18 @@
 /** The seven marker layers: each manager shows and hides the markers of a list. */
 
+/** @type {?MarkerManager} */
 var ArptMgr = null;
+/** @type {?MarkerManager} */
 var VORMgr = null;
+/** @type {?MarkerManager} */
 var NDBRteMgr = null;
+/** @type {?MarkerManager} */
 var NDBTermMgr = null;
+/** @type {?MarkerManager} */
 var WPTRteMgr = null;
+/** @type {?MarkerManager} */
 var WPTTermMgr = null;
+/** @type {?MarkerManager} */
 var WPTVfrMgr = null;
 
 (function () {
@@ -85,6 +92,11 @@ var WPTVfrMgr = null;
       page.listenToLayer(this.layer);
       this.layer.addListener('click', event => page.choose(event.feature.getProperty('marker')));
       page.fitRoses();
+    }
+
+    /** @return {ChartMarker[]} those that are shown */
+    markers() {
+      return Array.from(this.shown.keys());
     }
 
     dress() {

@@ -1,29 +1,30 @@
 /**
- * How a marker looks at a zoom. From afar a symbol is a dot, then it leaves: points of procedures first, then those en
+ * How a marker looks at a zoom. From afar a symbol becomes a small sign, then a dot, then it leaves: points of procedures first, then those en
  * route, then beacons, the airports last. A layer of thousands behaves as if it were seen from farther away.
  */
 (function () {
   'use strict';
 
   /**
-   * From which zoom on a symbol is a dot, drawn in full, has its identifier beside it, and its name too. So many markers
-   * of the kind leave the map as open as it should be; four times as many want a zoom more.
+   * From which zoom on a symbol is a dot, a small sign, drawn in full, has its identifier beside it, and its name too. So
+   * many markers of the kind leave the map as open as it should be; four times as many want a zoom more.
+   * @type {Record<string, Stage>}
    */
-  const navaid = { dot: 3.5, symbol: 5, ident: 6.6, name: 10, many: 250 };
+  const navaid = { dot: 3.5, sign: 4.6, symbol: 6.6, ident: 5.8, name: 10, many: 250 };
   const stages = {
-    airport: { dot: 3, symbol: 5.8, ident: 7, name: 10, many: 250 },
+    airport: { dot: 3, sign: 5, symbol: 6.8, ident: 6.8, name: 10, many: 250 },
     vor: navaid,
     vorDme: navaid,
     vortac: navaid,
     tacan: navaid,
-    dme: { dot: 5, symbol: 7, ident: 8, name: 10, many: 250 },
-    ndbDme: { dot: 5, symbol: 7, ident: 20, name: 20, many: 250 },
-    ndbRoute: { dot: 5, symbol: 6.8, ident: 7.8, name: 10, many: 250 },
-    ndbTerminal: { dot: 6, symbol: 7.6, ident: 8.6, name: 10.5, many: 250 },
-    waypointRoute: { dot: 6, symbol: 7, ident: 8, name: 12, many: 700 },
-    waypointRnav: { dot: 6.3, symbol: 7.5, ident: 8.6, name: 12, many: 700 },
-    waypointVfr: { dot: 7, symbol: 8, ident: 9.2, name: 11, many: 700 },
-    waypointTerminal: { dot: 7, symbol: 8, ident: 9.2, name: 12, many: 700 },
+    dme: { dot: 5, sign: 7, symbol: 7, ident: 8, name: 10, many: 250 },
+    dmeNdb: { dot: 20, sign: 7, symbol: 7, ident: 20, name: 20, many: 250 },
+    ndbRoute: { dot: 5, sign: 6.8, symbol: 6.8, ident: 7.5, name: 10, many: 250 },
+    ndbTerminal: { dot: 6, sign: 7.6, symbol: 7.6, ident: 8.6, name: 10.5, many: 250 },
+    waypointRoute: { dot: 6, sign: 7, symbol: 7, ident: 7.8, name: 12, many: 700 },
+    waypointRnav: { dot: 6.3, sign: 7.5, symbol: 7.5, ident: 8.6, name: 12, many: 700 },
+    waypointVfr: { dot: 7, sign: 8, symbol: 8, ident: 9.2, name: 11, many: 700 },
+    waypointTerminal: { dot: 7, sign: 8, symbol: 8, ident: 9.2, name: 12, many: 700 },
   };
 
   /** However many there are, the farthest that a layer is pushed away, in zooms. */
@@ -35,8 +36,7 @@
     { from: 9, scale: 1, letters: 11 },
     { from: 8, scale: 0.9, letters: 11 },
     { from: 7, scale: 0.76, letters: 10 },
-    { from: 6, scale: 0.62, letters: 10 },
-    { from: 0, scale: 0.5, letters: 10 },
+    { from: 0, scale: 0.62, letters: 9 },
   ];
   const letterFamily = '"Liberation Sans", Arial, Helvetica, sans-serif';
   /** Labels are bold from this zIndex on. */
@@ -47,21 +47,22 @@
   /** @return {number} by how many zooms markers look farther away for being so many */
   const crowding = (stage, count) => Math.max(0, Math.min(farthest, Math.log2(count / stage.many) / 2));
 
+  /** How a symbol is drawn: 'none', 'dot', 'sign' or 'symbol'. */
+  const formAt = (stage, seen) => ['symbol', 'sign', 'dot'].find(form => seen >= stage[form]) || 'none';
+
   /**
    * The look of a kind at a zoom.
    * @param {number} count how many markers there are of its family
-   * @return {{scale: number, letters: number, text: string}} scale 0 for a dot, below 0 for nothing; text: 'ident',
-   *     'name' or empty
+   * @return {{form: string, scale: number, letters: number, text: string}} text: 'ident', 'name' or empty
    */
   function lookAt(name, zoom, count) {
     const stage = stages[name];
-    const seen = zoom - crowding(stage, count);
-    const size = sizes.find(each => seen >= each.from) || sizes[sizes.length - 1];
-    return {
-      scale: seen >= stage.symbol ? size.scale : seen >= stage.dot ? 0 : -1,
-      letters: size.letters,
-      text: seen >= stage.name ? 'name' : seen >= stage.ident ? 'ident' : '',
-    };
+    const away = crowding(stage, count);
+    const form = formAt(stage, zoom - away);
+    const text = ['name', 'ident'].find(each => zoom - away >= stage[each]) || '';
+    // The sizes suit the whole chart rather than one kind.
+    const size = sizes.find(each => zoom - away / 2 >= each.from) || sizes[sizes.length - 1];
+    return { form: form, scale: size.scale, letters: size.letters, text: form === 'dot' ? '' : text };
   }
 
   /** The label of a marker; `more` holds what differs from other labels. */
@@ -81,9 +82,9 @@
 
     /** @return {google.maps.Data.StyleOptions} */
     of(marker) {
-      if (this.at.scale < 0)
+      if (this.at.form === 'none')
         return hidden;
-      const style = { icon: page.symbolOf(marker, this.at.scale), zIndex: this.height };
+      const style = { icon: page.symbolOf(marker, this.at.form, this.at.scale), zIndex: this.height };
       if (this.at.text) {
         const text = this.at.text === 'name' ? page.longText(marker) : page.identOf(marker);
         style.label = page.labelOf(text, this.colour, this.at.letters, { fontWeight: this.weight });
@@ -103,7 +104,7 @@
     Object.keys(stages).forEach(name => {
       const at = lookAt(name, zoom, countOf(name));
       looks[name] = new Look(name, at);
-      keys.push(at.scale, at.letters, at.text);
+      keys.push(at.form, at.scale, at.letters, at.text);
     });
     return { key: `${page.palette.name} ${keys.join(' ')}`, of: marker => looks[marker.symbol].of(marker) };
   };
@@ -116,7 +117,7 @@
     const size = sizes.find(each => zoom >= each.from && each.scale >= 0.9) || sizes.find(each => each.scale === 0.9);
     const text = zoom >= fullNameFrom ? page.longText(marker) : page.identOf(marker);
     return {
-      icon: page.symbolOf(marker, size.scale),
+      icon: page.symbolOf(marker, 'symbol', size.scale),
       zIndex: more.zIndex,
       label: page.labelOf(text, more.colour, size.letters + 1, { fontWeight: 'bold' }),
     };

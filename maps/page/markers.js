@@ -107,7 +107,7 @@ var listWptVfr = [];
     const beacons = listNDBRte.concat(listNDBTerm);
     listVOR.filter(marker => marker.symbol === 'dme').forEach(dme => {
       if (beacons.some(beacon => isBeside(dme, beacon)))
-        dme.symbol = 'ndbDme';
+        dme.symbol = 'dmeNdb';
     });
   };
 

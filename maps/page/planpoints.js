@@ -12,10 +12,7 @@
   /** A point where no marker is known, such as one that the user has made. */
   const unknown = { path: 'M 0 -5.6 L 5.2 3.6 L -5.2 3.6 Z', weight: 1.6 };
 
-  const layer = new google.maps.Data();
-  page.listenToLayer(layer);
-  layer.addListener('click', event => page.choose(event.feature.getProperty('marker')));
-
+  let layer = null;
   let points = [];
   let planned = new Set();
 
@@ -59,7 +56,18 @@
       : plainLook(feature.getProperty('name'));
   }
 
-  const dress = () => layer.setStyle(lookOf);
+  function newLayer() {
+    const made = new google.maps.Data();
+    made.setStyle(lookOf);
+    page.listenToLayer(made);
+    made.addListener('click', event => page.choose(event.feature.getProperty('marker')));
+    return made;
+  }
+
+  function dress() {
+    if (layer)
+      layer.setStyle(lookOf);
+  }
 
   /** @return {boolean} whether a marker is drawn as a point of the plan */
   page.isPlanned = marker => planned.has(marker);
@@ -71,7 +79,9 @@
     const found = markersByPlace();
     const drawn = new Set();
     planned = new Set();
-    layer.forEach(feature => layer.remove(feature));
+    if (layer)
+      layer.setMap(null);
+    layer = newLayer();
     points.forEach(point => {
       const marker = markerFor(point, found.get(keyOf(point.position)));
       const same = marker || `${keyOf(point.position)} ${point.name}`;
@@ -82,8 +92,7 @@
         planned.add(marker);
       layer.add({ geometry: point.position, properties: { marker: marker, name: point.name } });
     });
-    dress();
-    layer.setMap(points.length ? map : null);
+    layer.setMap(map);
     page.dressLayers();
   };
 

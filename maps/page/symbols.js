@@ -45,7 +45,7 @@
     vortac: { path: `${hexagon} ${blocks} ${dot}`, stroke: 'navaid', weight: 1.4, fill: 'navaidFill', zIndex: 31 },
     tacan: { path: `${threeArms} ${dot}`, stroke: 'navaid', weight: 1.4, fill: 'navaidFill', zIndex: 29 },
     dme: { path: `${box(5.6, 5.6)} ${dot}`, stroke: 'navaid', weight: 1.5, fill: 'navaidFill', zIndex: 28 },
-    ndbDme: { path: box(9.4, 9.4), stroke: 'navaid', weight: 1.4, zIndex: 28 },
+    dmeNdb: { path: box(9.4, 9.4), stroke: 'navaid', weight: 1.4, zIndex: 28 },
     ndbRoute: { path: `${beacon} ${dotRing(4.4, 10)} ${dotRing(7.2, 16)}`, stroke: 'ndb', weight: 1, fill: 'ndb', zIndex: 25 },
     ndbTerminal: { path: `${beacon} ${dotRing(4.4, 10)}`, stroke: 'ndb', weight: 1, fill: 'ndb', zIndex: 24 },
     waypointRoute: {
@@ -62,8 +62,13 @@
     },
   };
 
-  /** What stands for a symbol where there is no room for it, by the colour of its lines: pixels of radius. */
-  const dots = { airport: 2, navaid: 1.9, ndb: 1.5, waypoint: 1.2, waypointVfr: 1.2, waypointTerminal: 1.1 };
+  /** What stands for symbols from afar, by the colour of their lines: a small sign, or a dot of so many pixels. */
+  const smallHexagon = polygon([-3.6, 0], [-1.8, -3.1], [1.8, -3.1], [3.6, 0], [1.8, 3.1], [-1.8, 3.1]);
+  const signs = {
+    airport: { path: circle(0, 0, 2.6), weight: 1.4, isOpen: true },
+    navaid: { path: smallHexagon, weight: 0.8, isOpen: false },
+  };
+  const dots = { airport: 1.3, navaid: 1.7, ndb: 1.3, waypoint: 1, waypointVfr: 1, waypointTerminal: 1 };
 
   /**
    * A `google.maps.Symbol`.
@@ -72,33 +77,40 @@
   page.symbol = (path, stroke, weight, fill, more) => Object.assign(
     { path: path, strokeColor: stroke, strokeWeight: weight, fillColor: fill, fillOpacity: 1 }, more);
 
-  /**
-   * A chart symbol.
-   * @param {string} name of a design
-   * @param {number} scale 1 for the common size; 0 for the dot
-   * @param {string} path in place of the design's own; empty for that
-   */
-  function drawn(name, scale, path) {
-    const design = designs[name];
-    const colours = page.palette;
-    const stroke = colours[design.stroke];
-    if (scale === 0)
-      return page.symbol(circle(0, 0, dots[design.stroke]), stroke, 0, stroke, { fillOpacity: 0.75 });
-    const weight = rounded(design.weight * Math.sqrt(scale));
-    return page.symbol(path || design.path, stroke, weight, design.fill ? colours[design.fill] : stroke,
-      { scale: scale, fillOpacity: design.fill ? 1 : 0 });
-  }
+  const filled = (colours, design) => (design.fill ? colours[design.fill] : 'none');
+
+  /** How the forms of a design are drawn. @type {Record<string, function(Object, number, string): google.maps.Symbol>} */
+  const forms = {
+    dot: design => {
+      const colour = page.palette[design.stroke];
+      return page.symbol(circle(0, 0, dots[design.stroke]), colour, 0, colour, { fillOpacity: 0.7 });
+    },
+    sign: (design, scale, path) => {
+      const sign = signs[design.stroke];
+      if (!sign)
+        return forms.symbol(design, scale, path);
+      const colour = page.palette[design.stroke];
+      return page.symbol(sign.path, colour, sign.weight, sign.isOpen ? filled(page.palette, design) : colour);
+    },
+    symbol: (design, scale, path) => page.symbol(path || design.path, page.palette[design.stroke],
+      rounded(design.weight * Math.sqrt(scale)), filled(page.palette, design),
+      { scale: scale, fillOpacity: design.fill ? 1 : 0 }),
+  };
 
   let made = {};
   page.onPalette(() => {
     made = {};
   });
 
-  /** The symbol of a marker in a size: the same object for all markers that look alike, which is drawn once. */
-  page.symbolOf = function (marker, scale) {
-    const path = scale > 0 && marker.path ? marker.path : '';
-    const key = `${marker.symbol} ${scale} ${path}`;
-    return made[key] || (made[key] = drawn(marker.symbol, scale, path));
+  /**
+   * The symbol of a marker: the same object for all markers that look alike, which is drawn once.
+   * @param {string} form 'dot', 'sign' or 'symbol'
+   * @param {number} scale of the last
+   */
+  page.symbolOf = function (marker, form, scale) {
+    const path = marker.path || '';
+    const key = `${marker.symbol} ${form} ${scale} ${path}`;
+    return made[key] || (made[key] = forms[form](designs[marker.symbol], scale, path));
   };
 
   /** @return {number} which of two symbols at one place lies above: that of the higher number */
