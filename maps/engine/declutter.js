@@ -36,12 +36,12 @@
       this.heights = new Int16Array(this.columns * this.rows);
     }
 
-    /** A symbol takes the cells that lie whole in its box. */
+    /** A symbol takes the cells that lie with their middle in its box: the gap keeps its own label out of them. */
     putSymbol(x, y, radius, height) {
-      const top = Math.max(0, Math.ceil((y - radius) / cell) - this.firstRow);
-      const bottom = Math.min(this.rows, Math.floor((y + radius) / cell) - this.firstRow);
-      const left = Math.max(0, Math.ceil((x - radius) / cell) - this.firstColumn);
-      const right = Math.min(this.columns, Math.floor((x + radius) / cell) - this.firstColumn);
+      const top = Math.max(0, Math.round((y - radius) / cell) - this.firstRow);
+      const bottom = Math.min(this.rows, Math.round((y + radius) / cell) - this.firstRow);
+      const left = Math.max(0, Math.round((x - radius) / cell) - this.firstColumn);
+      const right = Math.min(this.columns, Math.round((x + radius) / cell) - this.firstColumn);
       for (let row = top; row < bottom; ++row) {
         for (let at = row * this.columns + left, end = row * this.columns + right; at < end; ++at) {
           if (this.heights[at] < height)

@@ -8,7 +8,10 @@
   const rimPixels = 3;
 
   const texts = new WeakMap();
-  /** For each font the widths of its letters, measured once: to measure every text would cost more than to place it. */
+  /**
+   * For each font its letters' widths, measured once, and their rims, drawn once: to measure a text costs more than to
+   * place it, and to draw the outline of one takes the time of a hundred copies.
+   */
   const fonts = new Map();
   const ruler = document.createElement('canvas').getContext('2d');
 
@@ -17,21 +20,61 @@
       this.name = name;
       this.size = size;
       this.widths = new Map();
+      this.rims = new Map();
+      this.rimKey = '';
+    }
+
+    widthOfLetter(letter) {
+      let width = this.widths.get(letter);
+      if (width === undefined) {
+        ruler.font = this.name;
+        width = ruler.measureText(letter).width;
+        this.widths.set(letter, width);
+      }
+      return width;
     }
 
     widthOf(text) {
       let width = 0;
-      for (let i = 0; i < text.length; ++i) {
-        const letter = text[i];
-        let one = this.widths.get(letter);
-        if (one === undefined) {
-          ruler.font = this.name;
-          one = ruler.measureText(letter).width;
-          this.widths.set(letter, one);
-        }
-        width += one;
-      }
+      for (let i = 0; i < text.length; ++i)
+        width += this.widthOfLetter(text[i]);
       return width;
+    }
+
+    /** Copies the rims of a text's letters; `y` is their middle. */
+    drawRim(context, text, x, y, colour) {
+      const ratio = window.devicePixelRatio || 1;
+      if (this.rimKey !== `${colour} ${ratio}`) {
+        this.rims.clear();
+        this.rimKey = `${colour} ${ratio}`;
+      }
+      let left = x;
+      for (let i = 0; i < text.length; ++i) {
+        let rim = this.rims.get(text[i]);
+        if (!rim) {
+          rim = this.makeRim(text[i], colour, ratio);
+          this.rims.set(text[i], rim);
+        }
+        context.drawImage(rim.canvas, left - rim.left, y - rim.top, rim.width, rim.height);
+        left += this.widthOfLetter(text[i]);
+      }
+    }
+
+    makeRim(letter, colour, ratio) {
+      const canvas = document.createElement('canvas');
+      const width = Math.ceil(this.widthOfLetter(letter)) + 2 * rimPixels;
+      const height = Math.ceil(this.size * 1.5) + 2 * rimPixels;
+      canvas.width = Math.round(width * ratio);
+      canvas.height = Math.round(height * ratio);
+      const context = canvas.getContext('2d');
+      context.scale(ratio, ratio);
+      context.font = this.name;
+      context.textBaseline = 'middle';
+      context.lineJoin = 'round';
+      context.lineWidth = rimPixels;
+      context.strokeStyle = colour;
+      context.strokeText(letter, rimPixels, height / 2);
+      return { canvas: canvas, left: rimPixels, top: height / 2, width: width, height: height };
     }
   }
 
@@ -76,9 +119,6 @@
    */
   engine.writeLabels = function (context, labels, rim) {
     context.textBaseline = 'middle';
-    context.lineJoin = 'round';
-    context.lineWidth = rimPixels;
-    context.strokeStyle = rim;
     // A new font costs more than a label.
     const byFont = new Map();
     labels.forEach(label => {
@@ -90,18 +130,16 @@
     });
     byFont.forEach((some, font) => {
       context.font = font.name;
-      some.forEach(label => writeLabel(context, label, font.size));
+      some.forEach(label => writeLabel(context, label, rim));
     });
     context.textBaseline = 'alphabetic';
   };
 
-  function writeLabel(context, label, size) {
+  function writeLabel(context, label, rim) {
     const text = label.text;
-    text.lines.forEach((line, i) => {
-      const y = label.y + (i + 0.5) * size * lineStep;
-      context.strokeText(line, label.x, y);
-    });
+    const middleOf = line => label.y + (line + 0.5) * text.font.size * lineStep;
+    text.lines.forEach((line, i) => text.font.drawRim(context, line, label.x, middleOf(i), rim));
     context.fillStyle = text.colour;
-    text.lines.forEach((line, i) => context.fillText(line, label.x, label.y + (i + 0.5) * size * lineStep));
+    text.lines.forEach((line, i) => context.fillText(line, label.x, middleOf(i)));
   }
 })();
