@@ -24,7 +24,9 @@
   /** What neither answers the mouse nor has a name is an ornament: a compass rose may lie below a label. */
   const isObstacle = look => look.clickable !== false || !!look.label;
 
-  const level = height => Math.max(1, Math.min(highest, Math.floor(height) + 1));
+  /** What the base map writes is given way to, but hides no label. */
+  const baseLevel = 1;
+  const level = height => Math.max(baseLevel + 1, Math.min(highest, Math.floor(height) + 2));
 
   /** The cells of a picture: for each the height of the symbol and whether a label stands there. */
   class Room {
@@ -38,10 +40,14 @@
 
     /** A symbol takes the cells that lie with their middle in its box: the gap keeps its own label out of them. */
     putSymbol(x, y, radius, height) {
-      const top = Math.max(0, Math.round((y - radius) / cell) - this.firstRow);
-      const bottom = Math.min(this.rows, Math.round((y + radius) / cell) - this.firstRow);
-      const left = Math.max(0, Math.round((x - radius) / cell) - this.firstColumn);
-      const right = Math.min(this.columns, Math.round((x + radius) / cell) - this.firstColumn);
+      this.putBox(x - radius, y - radius, x + radius, y + radius, height);
+    }
+
+    putBox(minX, minY, maxX, maxY, height) {
+      const top = Math.max(0, Math.round(minY / cell) - this.firstRow);
+      const bottom = Math.min(this.rows, Math.round(maxY / cell) - this.firstRow);
+      const left = Math.max(0, Math.round(minX / cell) - this.firstColumn);
+      const right = Math.min(this.columns, Math.round(maxX / cell) - this.firstColumn);
       for (let row = top; row < bottom; ++row) {
         for (let at = row * this.columns + left, end = row * this.columns + right; at < end; ++at) {
           if (this.heights[at] < height)
@@ -77,7 +83,12 @@
   }
 
   class Declutter {
-    constructor() {
+    /**
+     * @param {?{placesAt: function(number, number): Array}} names what the base map writes: boxes in pixels of the first copy
+     *     of the world for a zoom and a scale
+     */
+    constructor(names) {
+      this.names = names;
       this.kept = new Map();
       this.zoom = NaN;
       this.version = NaN;
@@ -99,6 +110,7 @@
       this.before = sameView ? this.kept : new Map();
       this.kept = new Map();
       this.placed = [];
+      this.putNames();
       levels.forEach(each => this.putSymbols(each));
       const order = levels.slice().reverse();
       // The same points as in the last picture: what stands there stays, whatever new ones come in from the side.
@@ -111,6 +123,15 @@
       this.zoom = frame.zoom;
       this.version = version;
       return this.placed;
+    }
+
+    putNames() {
+      const frame = this.frame;
+      const boxes = this.names ? this.names.placesAt(frame.zoom, frame.scale) : [];
+      for (let world = frame.firstWorld; world <= frame.lastWorld; ++world) {
+        const shift = world * frame.scale;
+        boxes.forEach(box => this.room.putBox(box.left + shift, box.top, box.right + shift, box.bottom, baseLevel));
+      }
     }
 
     putSymbols(each) {
@@ -141,11 +162,11 @@
     /** Rather beside all symbols than on one of less height; on one of less height rather than nowhere. */
     placePoint(point, x, y, height, side) {
       const text = engine.labelText(point.look.label);
-      if (side >= 0 && (this.trySide(point, x, y, text, side, 1)
+      if (side >= 0 && (this.trySide(point, x, y, text, side, baseLevel)
         || (this.isSame && this.trySide(point, x, y, text, side, height))))
         return;
       for (let i = 0; i < sides.length; ++i) {
-        if (this.trySide(point, x, y, text, i, 1))
+        if (this.trySide(point, x, y, text, i, baseLevel))
           return;
       }
       for (let i = 0; i < sides.length; ++i) {

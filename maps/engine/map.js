@@ -35,13 +35,13 @@
       const centre = engine.isFinitePosition(wanted.center) ? wanted.center : new maps.LatLng(0, 0);
       this.element = element;
       this.lines = new engine.Lines();
-      this.points = new engine.Points();
       this.quiet = false;
       this.exactCentre = centre;
       this.leaflet = L.map(element, leafletOptions);
       this.leaflet.setView([centre.lat(), centre.lng()], wanted.zoom || 0);
       this.overlayMapTypes = new maps.MVCArray();
       this.base = new engine.BaseMap(this.leaflet, this.overlayMapTypes);
+      this.points = new engine.Points(this.base.names);
       this.chart = new engine.ChartCanvas('overlayPane', [new engine.Stack([this.lines, this.points])]);
       this.chart.addTo(this.leaflet);
       this.controls = engine.controlsOf(this.leaflet);

@@ -13,9 +13,10 @@
   const margin = 160;
 
   class Points {
-    constructor() {
+    /** @param {?Object} names what the base map writes, as Declutter takes it */
+    constructor(names) {
       this.layers = new Set();
-      this.declutter = new engine.Declutter();
+      this.declutter = new engine.Declutter(names);
       this.version = 0;
       this.levels = new Map();
       this.rim = 'rgba(255, 255, 255, 0.85)';

@@ -1,6 +1,6 @@
 /**
- * Compass roses around VORs, from near: true north, for the program tells no magnetic variation. Where two would overlap
- * one is drawn.
+ * Compass roses around VORs, from near. They show true north, for the program tells no magnetic variation. Where two
+ * would overlap one is drawn.
  */
 (function () {
   'use strict';
@@ -14,6 +14,7 @@
   const withRose = ['vor', 'vorDme', 'vortac'];
 
   /** Digits in strokes, on a field of 2 by 4. */
+  /** @type {Record<string, number[][]>} */
   const digits = {
     0: [[0, 0], [2, 0], [2, 4], [0, 4], [0, 0]],
     1: [[0.3, 0.9], [1.2, 0], [1.2, 4]],
@@ -30,7 +31,10 @@
   const digitSize = 1.55;
   const digitStep = 3.1;
 
-  /** A point of the rose: so far from the middle and so far beside the direction. */
+  /**
+   * A point of the rose: so far from the middle and so far beside the direction.
+   * @type {(direction: number, distance: number, aside: number) => number[]}
+   */
   function at(direction, distance, aside) {
     const angle = direction * Math.PI / 180;
     return [
@@ -39,9 +43,10 @@
     ];
   }
 
+  /** @type {(direction: number, from: number, to: number) => string} */
   const tick = (direction, from, to) => lines([].concat(at(direction, from, 0), at(direction, to, 0)));
 
-  /** A number whose feet point to the middle. */
+  /** A number whose feet point to the middle. @type {(direction: number, text: string) => string} */
   function number(direction, text) {
     const width = ((text.length - 1) * digitStep + 2) * digitSize;
     return Array.from(text).map((digit, i) => {
@@ -72,11 +77,16 @@
     clickable: false,
   }));
 
-  /** The markers of which no two roses overlap at a zoom; the first of the list come first. */
+  /**
+   * Where roses are drawn so that no two overlap at a zoom; the first markers of the list come first.
+   * @type {(markers: ChartMarker[], zoom: number) => Place[]}
+   */
   function apart(markers, zoom) {
     const pixelsPerDegree = 256 * Math.pow(2, zoom) / 360;
     const least = 2 * radius + 8;
+    /** @type {Place[]} */
     const kept = [];
+    /** @param {Place} place */
     const isFree = place => kept.every(other => {
       const north = (place.lat() - other.lat()) / Math.cos(place.lat() * Math.PI / 180);
       return Math.hypot(north, place.lng() - other.lng()) * pixelsPerDegree >= least;
@@ -93,7 +103,8 @@
   /** Draws the roses of the VORs that are shown; without a change of zoom or markers nothing happens. */
   page.fitRoses = function () {
     const zoom = map.getZoom();
-    const shown = zoom >= fromZoom && VORMgr ? VORMgr.markers().filter(marker => withRose.indexOf(marker.symbol) >= 0) : [];
+    const near = zoom >= fromZoom && VORMgr ? VORMgr.markers() : [];
+    const shown = near.filter(marker => withRose.indexOf(marker.symbol) >= 0);
     const key = shown.length ? `${zoom} ${shown.map(marker => marker.title).join()}` : '';
     if (key === drawn)
       return;

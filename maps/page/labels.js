@@ -2,14 +2,16 @@
 (function () {
   'use strict';
 
-  /** The lines of a marker's text: kind and identifier, name, frequency... */
+  /** The lines of a marker's text: kind and identifier, name, frequency... @param {ChartMarker} marker */
   function linesOf(marker) {
-    if (!marker.lines)
-      marker.lines = marker.html.replace(/<br\s*\/?>/gi, '\n').replace(/<[^>]*>/g, '').split('\n').map(line => line.trim());
+    if (!marker.lines) {
+      const text = marker.html.replace(/<br\s*\/?>/gi, '\n').replace(/<[^>]*>/g, '');
+      marker.lines = text.split('\n').map(line => line.trim());
+    }
     return marker.lines;
   }
 
-  /** The title without its key. */
+  /** The title without its key. @param {ChartMarker} marker */
   function nameInTitle(marker) {
     const tail = marker.tail();
     return tail ? marker.title.slice(0, marker.title.length - tail.length - 1) : marker.title;
@@ -28,7 +30,7 @@
     return marker.family === page.families.waypoint ? name.replace(/\s*\(\d*\)$/, '') : name;
   };
 
-  /** The number of a navaid's frequency; empty for what has none. */
+  /** The number of a navaid's frequency; empty for what has none. @param {ChartMarker} marker */
   function frequencyOf(marker) {
     const found = /^(\d+(?:\.\d+)?) [MK]hz$/.exec(linesOf(marker)[2] || '');
     return found ? found[1] : '';

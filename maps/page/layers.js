@@ -18,15 +18,16 @@ var WPTVfrMgr = null;
 (function () {
   'use strict';
 
-  /** All managers made so far, for what concerns every layer. */
+  /** All managers made so far, for what concerns every layer. @type {MarkerManager[]} */
   const managers = [];
 
-  /** How all markers look at the map's zoom. */
+  /** How all markers look at the map's zoom. @type {?Looks} */
   let looks = null;
-  /** The marker that the user has clicked: it is drawn in full. */
+  /** The marker that the user has clicked: it is drawn in full. @type {?ChartMarker} */
   let chosen = null;
   const chosenHeight = 58;
 
+  /** @type {Record<string, () => number>} */
   const counts = {
     airport: () => listApt.length,
     vor: () => listVOR.length,
@@ -34,17 +35,25 @@ var WPTVfrMgr = null;
     waypoint: () => listWptRte.length + listWptTerm.length + listWptVfr.length,
   };
 
-  /** How many markers share the room with those of a symbol. */
-  const countOf = symbol => (counts[/^(ndb|waypoint)/.test(symbol) ? RegExp.$1 : symbol] || counts.vor)();
+  /** How many markers share the room with those of a symbol. @param {string} symbol */
+  function countOf(symbol) {
+    const family = Object.keys(counts).find(each => symbol.indexOf(each) === 0);
+    return counts[family || 'vor']();
+  }
 
   const hidden = { visible: false };
 
+  /** @param {ChartMarker} marker @return {google.maps.Data.StyleOptions} */
   function styleOf(marker) {
     // A point of the plan shows whatever its layer does.
     if (page.isPlanned(marker))
       return hidden;
     if (marker === chosen)
-      return page.fullLook(marker, map.getZoom(), { colour: page.symbolColour(marker.symbol), zIndex: chosenHeight });
+      return page.fullLook(marker, {
+        text: page.longText(marker),
+        colour: page.symbolColour(marker.symbol),
+        zIndex: chosenHeight,
+      });
     return looks.of(marker);
   }
 
@@ -55,7 +64,7 @@ var WPTVfrMgr = null;
       this.clearMarkers();
     }
 
-    /** Shows the markers of a list, each once however often this is asked. */
+    /** Shows the markers of a list, each once however often this is asked. @param {ChartMarker[]} list */
     addMarkers(list) {
       if (Array.isArray(list))
         list.forEach(marker => this.show(marker));
@@ -64,15 +73,18 @@ var WPTVfrMgr = null;
       page.fitRoses();
     }
 
+    /** @param {ChartMarker} marker */
     addMarker(marker) {
       this.addMarkers([marker]);
     }
 
+    /** @param {ChartMarker} marker */
     show(marker) {
       if (!this.shown.has(marker))
         this.shown.set(marker, this.layer.add({ geometry: marker.position, properties: { marker: marker } }));
     }
 
+    /** @param {ChartMarker} marker */
     removeMarker(marker) {
       const feature = this.shown.get(marker);
       if (!feature)
@@ -86,6 +98,7 @@ var WPTVfrMgr = null;
     clearMarkers() {
       if (this.layer)
         this.layer.setMap(null);
+      /** @type {Map<ChartMarker, google.maps.Data.Feature>} */
       this.shown = new Map();
       this.layer = new google.maps.Data();
       this.dress();

@@ -1,6 +1,7 @@
 /**
- * How a marker looks at a zoom. From afar a symbol becomes a small sign, then a dot, then it leaves: points of procedures first, then those en
- * route, then beacons, the airports last. A layer of thousands behaves as if it were seen from farther away.
+ * How a marker looks at a zoom. From afar a symbol becomes a small sign, then a dot, then it leaves: points of procedures
+ * first, then those en route, then beacons, the airports last. A layer of thousands behaves as if it were seen from
+ * farther away.
  */
 (function () {
   'use strict';
@@ -8,9 +9,9 @@
   /**
    * From which zoom on a symbol is a dot, a small sign, drawn in full, has its identifier beside it, and its name too. So
    * many markers of the kind leave the map as open as it should be; four times as many want a zoom more.
-   * @type {Record<string, Stage>}
    */
   const navaid = { dot: 3.5, sign: 4.6, symbol: 6.6, ident: 5.8, name: 10, many: 250 };
+  /** @type {Record<string, Stage>} */
   const stages = {
     airport: { dot: 3, sign: 5, symbol: 6.8, ident: 6.8, name: 10, many: 250 },
     vor: navaid,
@@ -41,38 +42,62 @@
   const letterFamily = '"Liberation Sans", Arial, Helvetica, sans-serif';
   /** Labels are bold from this zIndex on. */
   const boldFrom = 28;
-  /** From this zoom on a chosen marker tells its name too. */
-  const fullNameFrom = 9;
+  /** From afar a chosen marker is drawn so large all the same. */
+  const leastFull = 0.9;
+  const fullSize = sizes.find(each => each.scale === leastFull);
 
-  /** @return {number} by how many zooms markers look farther away for being so many */
+  /**
+   * By how many zooms markers look farther away for being so many.
+   * @type {(stage: Stage, count: number) => number}
+   */
   const crowding = (stage, count) => Math.max(0, Math.min(farthest, Math.log2(count / stage.many) / 2));
 
-  /** How a symbol is drawn: 'none', 'dot', 'sign' or 'symbol'. */
-  const formAt = (stage, seen) => ['symbol', 'sign', 'dot'].find(form => seen >= stage[form]) || 'none';
+  /**
+   * The form of a symbol, its scale, and what stands beside it: 'ident', 'name' or nothing.
+   * @typedef {{form: SymbolForm | 'none', scale: number, letters: number, text: string}} LookAt
+   */
+  /** @type {SymbolForm[]} */
+  const forms = ['symbol', 'sign', 'dot'];
+  /** @type {Array<'name' | 'ident'>} */
+  const texts = ['name', 'ident'];
+
+  /** @type {(stage: Stage, seen: number) => SymbolForm | 'none'} */
+  const formAt = (stage, seen) => forms.find(form => seen >= stage[form]) || 'none';
 
   /**
    * The look of a kind at a zoom.
+   * @param {string} name @param {number} zoom
    * @param {number} count how many markers there are of its family
-   * @return {{form: string, scale: number, letters: number, text: string}} text: 'ident', 'name' or empty
+   * @return {LookAt}
    */
   function lookAt(name, zoom, count) {
     const stage = stages[name];
     const away = crowding(stage, count);
     const form = formAt(stage, zoom - away);
-    const text = ['name', 'ident'].find(each => zoom - away >= stage[each]) || '';
+    const text = texts.find(each => zoom - away >= stage[each]) || '';
     // The sizes suit the whole chart rather than one kind.
     const size = sizes.find(each => zoom - away / 2 >= each.from) || sizes[sizes.length - 1];
     return { form: form, scale: size.scale, letters: size.letters, text: form === 'dot' ? '' : text };
   }
 
   /** The label of a marker; `more` holds what differs from other labels. */
-  page.labelOf = (text, colour, letters, more) => Object.assign(
-    { text: text, color: colour, fontSize: `${letters}px`, fontWeight: 'normal', fontFamily: letterFamily }, more);
+  page.labelOf = function (text, colour, letters, more) {
+    /** @type {google.maps.MarkerLabel} */
+    const label = {
+      text: text,
+      color: colour,
+      fontSize: `${letters}px`,
+      fontWeight: 'normal',
+      fontFamily: letterFamily,
+    };
+    return Object.assign(label, more);
+  };
 
   const hidden = { visible: false };
 
   /** What all markers of one kind and zoom have in common. */
   class Look {
+    /** @param {string} name @param {LookAt} at */
     constructor(name, at) {
       this.at = at;
       this.colour = page.symbolColour(name);
@@ -80,11 +105,13 @@
       this.weight = this.height >= boldFrom ? 'bold' : 'normal';
     }
 
-    /** @return {google.maps.Data.StyleOptions} */
+    /** @param {ChartMarker} marker @return {google.maps.Data.StyleOptions} */
     of(marker) {
-      if (this.at.form === 'none')
+      const form = this.at.form;
+      if (form === 'none')
         return hidden;
-      const style = { icon: page.symbolOf(marker, this.at.form, this.at.scale), zIndex: this.height };
+      /** @type {google.maps.Data.StyleOptions} */
+      const style = { icon: page.symbolOf(marker, form, this.at.scale), zIndex: this.height };
       if (this.at.text) {
         const text = this.at.text === 'name' ? page.longText(marker) : page.identOf(marker);
         style.label = page.labelOf(text, this.colour, this.at.letters, { fontWeight: this.weight });
@@ -95,11 +122,13 @@
 
   /**
    * The looks of all kinds at a zoom.
+   * @param {number} zoom
    * @param {function(string): number} countOf how many markers there are of the family of a kind
-   * @return {{key: string, of: function(ChartMarker): Object}} key: the same as long as everything looks the same
    */
   page.looksAt = function (zoom, countOf) {
+    /** @type {Record<string, Look>} */
     const looks = {};
+    /** @type {Array<string | number>} */
     const keys = [];
     Object.keys(stages).forEach(name => {
       const at = lookAt(name, zoom, countOf(name));
@@ -111,15 +140,14 @@
 
   /**
    * The look of a marker that the user has chosen or put into the plan: drawn in full at every zoom, with a label.
-   * @param {{colour: string, zIndex: number}} more the label's colour and what lies over what
+   * @param {{text: string, colour: string, zIndex: number}} more the label, its colour, and what lies over what
    */
-  page.fullLook = function (marker, zoom, more) {
-    const size = sizes.find(each => zoom >= each.from && each.scale >= 0.9) || sizes.find(each => each.scale === 0.9);
-    const text = zoom >= fullNameFrom ? page.longText(marker) : page.identOf(marker);
+  page.fullLook = function (marker, more) {
+    const size = sizes.find(each => map.getZoom() >= each.from && each.scale >= leastFull) || fullSize;
     return {
       icon: page.symbolOf(marker, 'symbol', size.scale),
       zIndex: more.zIndex,
-      label: page.labelOf(text, more.colour, size.letters + 1, { fontWeight: 'bold' }),
+      label: page.labelOf(more.text, more.colour, size.letters + 1, { fontWeight: 'bold' }),
     };
   };
 })();

@@ -101,6 +101,7 @@ var listWptVfr = [];
 
   /** Navaids come one a row, and no row tells an NDB with a DME: it is a DME beside an NDB of its identifier. */
   page.joinBeacons = function () {
+    /** @type {(a: ChartMarker, b: ChartMarker) => boolean} */
     const isBeside = (a, b) => page.identOf(a) === page.identOf(b)
       && Math.abs(a.position.lat() - b.position.lat()) < besideBeacon
       && Math.abs(a.position.lng() - b.position.lng()) < besideBeacon;

@@ -6,22 +6,28 @@
   'use strict';
 
   /** Above everything but what moves. */
-  const height = 62;
+  const height = 63;
   /** Places are told with five decimals. */
   const decimals = 1e5;
   /** A point where no marker is known, such as one that the user has made. */
   const unknown = { path: 'M 0 -5.6 L 5.2 3.6 L -5.2 3.6 Z', weight: 1.6 };
 
+  /** @type {?google.maps.Data} */
   let layer = null;
+  /** @type {TrackPoint[]} */
   let points = [];
+  /** @type {Set<ChartMarker>} */
   let planned = new Set();
 
+  /** @param {Place} position */
   const keyOf = position =>
     Math.round(position.lat() * decimals) * 1e8 + Math.round(position.lng() * decimals);
 
   /** The markers at the places of the points, by place. */
   function markersByPlace() {
-    const found = new Map(points.map(point => [keyOf(point.position), []]));
+    /** @type {Map<number, ChartMarker[]>} */
+    const found = new Map();
+    points.forEach(point => found.set(keyOf(point.position), []));
     page.layers.forEach(each => each.list.forEach(marker => {
       const there = found.get(keyOf(marker.position));
       if (there)
@@ -30,7 +36,10 @@
     return found;
   }
 
-  /** Of several markers at one place that of the point's name, else the one that charts draw above the others. */
+  /**
+   * Of several markers at one place that of the point's name, else the one that charts draw above the others.
+   * @type {(point: TrackPoint, candidates: ChartMarker[]) => ?ChartMarker}
+   */
   function markerFor(point, candidates) {
     const named = candidates.filter(marker =>
       page.nameOf(marker) === point.name || page.identOf(marker) === point.name);
@@ -39,6 +48,7 @@
         (best && page.symbolHeight(best.symbol) >= page.symbolHeight(marker.symbol) ? best : marker), null);
   }
 
+  /** @param {string} name @return {google.maps.Data.StyleOptions} */
   function plainLook(name) {
     const colours = page.palette;
     return {
@@ -49,10 +59,11 @@
     };
   }
 
+  /** @param {google.maps.Data.Feature} feature @return {google.maps.Data.StyleOptions} */
   function lookOf(feature) {
     const marker = feature.getProperty('marker');
     return marker
-      ? page.fullLook(marker, map.getZoom(), { colour: page.palette.route, zIndex: height })
+      ? page.fullLook(marker, { colour: page.palette.route, zIndex: height, text: page.identOf(marker) })
       : plainLook(feature.getProperty('name'));
   }
 
@@ -74,14 +85,14 @@
 
   /** Finds the points' markers again, after markers have come or gone. */
   page.matchPlan = function () {
-    if (!points.length && !planned.size)
+    if (!points.length && !layer)
       return;
     const found = markersByPlace();
     const drawn = new Set();
     planned = new Set();
     if (layer)
       layer.setMap(null);
-    layer = newLayer();
+    layer = points.length ? newLayer() : null;
     points.forEach(point => {
       const marker = markerFor(point, found.get(keyOf(point.position)));
       const same = marker || `${keyOf(point.position)} ${point.name}`;
@@ -92,13 +103,14 @@
         planned.add(marker);
       layer.add({ geometry: point.position, properties: { marker: marker, name: point.name } });
     });
-    layer.setMap(map);
+    if (layer)
+      layer.setMap(map);
     page.dressLayers();
   };
 
   /**
    * The points of the plan as it is drawn.
-   * @param {Array<{position: google.maps.LatLng, name: string}>} next empty: there is no plan on the map
+   * @param {TrackPoint[]} next empty: there is no plan on the map
    */
   page.setPlanPoints = function (next) {
     points = next.filter(point => page.isPlace(point.position));

@@ -1,11 +1,10 @@
-/** The plan's route. */
+/** The plan's route: its line; its points are those of planpoints.js. */
 (function () {
   'use strict';
 
   page.route = new page.Track({
     colours: ['route', 'routeFill'],
     zIndex: 60,
-    point: { path: 'M -4 0 A 4 4 0 1 1 4 0 A 4 4 0 1 1 -4 0 Z', weight: 2 },
     legs: true,
     lines: (colour, fill) => [
       { strokeColor: fill, strokeOpacity: 0.8, strokeWeight: 6 },
@@ -17,6 +16,7 @@
 /** Removes the route from the map. */
 function clearFP() {
   page.route.clear();
+  page.setPlanPoints([]);
 }
 
 /** The next point of the route; `pushFP` draws them. @type {(position: Place, name: string) => void} */
@@ -27,4 +27,5 @@ function addPointToFp(position, name) {
 /** The points are complete: draws the route. */
 function pushFP() {
   page.route.draw();
+  page.setPlanPoints(page.route.points);
 }

@@ -3,13 +3,23 @@
   'use strict';
 
   // Paths are in pixels around the position, y downwards.
+  /** @typedef {(...numbers: number[]) => string} Shape */
+  /** @typedef {(...points: number[][]) => string} Outline */
+  /** @param {number} value */
   const rounded = value => Number(value.toFixed(2));
+  /** @type {Shape} x, y, radius */
   const circle = (x, y, r) => `M ${x - r} ${y} A ${r} ${r} 0 1 1 ${x + r} ${y} A ${r} ${r} 0 1 1 ${x - r} ${y} Z`;
+  /** @type {Outline} each corner as x, y */
   const polygon = (...corners) => `M ${corners.map(corner => corner.join(' ')).join(' L ')} Z`;
+  /** @type {Shape} half the width, half the height */
   const box = (w, h) => polygon([-w, -h], [w, -h], [w, h], [-w, h]);
+  /** @type {Outline} each line as x, y of its two ends */
   const lines = (...ends) => ends.map(([x1, y1, x2, y2]) => `M ${x1} ${y1} L ${x2} ${y2}`).join(' ');
 
-  /** A ring of small dots, as charts draw a non-directional beacon. */
+  /**
+   * A ring of small dots, as charts draw a non-directional beacon.
+   * @type {(radius: number, count: number) => string}
+   */
   function dotRing(radius, count) {
     const dots = [];
     for (let i = 0; i < count; ++i) {
@@ -20,8 +30,9 @@
   }
 
   const dot = circle(0, 0, 0.6);
-  const beacon = circle(0, 0, 1.5);
-  const aerodrome = `${circle(0, 0, 5.2)} ${lines([0, -5.2, 0, -8.4], [0, 5.2, 0, 8.4], [-5.2, 0, -8.4, 0], [5.2, 0, 8.4, 0])}`;
+  const nearRing = `${circle(0, 0, 1.5)} ${dotRing(4.4, 10)}`;
+  const ticks = lines([0, -5.2, 0, -8.4], [0, 5.2, 0, 8.4], [-5.2, 0, -8.4, 0], [5.2, 0, 8.4, 0]);
+  const aerodrome = `${circle(0, 0, 5.2)} ${ticks}`;
   const hexagon = polygon([-7, 0], [-3.5, -6], [3.5, -6], [7, 0], [3.5, 6], [-3.5, 6]);
   /** The three blocks of a VORTAC are solid: their outlines and what the pen leaves open between them. */
   const blocks = [
@@ -37,6 +48,8 @@
   /**
    * The colours are names of `page.palette`. What is rarer and more wanted has the higher zIndex: it lies over the rest,
    * and its label is placed first.
+   * @typedef {{path: string, stroke: Colour, weight: number, fill?: Colour, zIndex: number}} Design
+   * @type {Record<string, Design>}
    */
   const designs = {
     airport: { path: aerodrome, stroke: 'airport', weight: 1.7, fill: 'airportFill', zIndex: 40 },
@@ -46,8 +59,8 @@
     tacan: { path: `${threeArms} ${dot}`, stroke: 'navaid', weight: 1.4, fill: 'navaidFill', zIndex: 29 },
     dme: { path: `${box(5.6, 5.6)} ${dot}`, stroke: 'navaid', weight: 1.5, fill: 'navaidFill', zIndex: 28 },
     dmeNdb: { path: box(9.4, 9.4), stroke: 'navaid', weight: 1.4, zIndex: 28 },
-    ndbRoute: { path: `${beacon} ${dotRing(4.4, 10)} ${dotRing(7.2, 16)}`, stroke: 'ndb', weight: 1, fill: 'ndb', zIndex: 25 },
-    ndbTerminal: { path: `${beacon} ${dotRing(4.4, 10)}`, stroke: 'ndb', weight: 1, fill: 'ndb', zIndex: 24 },
+    ndbRoute: { path: `${nearRing} ${dotRing(7.2, 16)}`, stroke: 'ndb', weight: 1, fill: 'ndb', zIndex: 25 },
+    ndbTerminal: { path: nearRing, stroke: 'ndb', weight: 1, fill: 'ndb', zIndex: 24 },
     waypointRoute: {
       path: polygon([0, -5.2], [4.8, 3.3], [-4.8, 3.3]), stroke: 'waypoint', weight: 1.3, fill: 'waypointFill', zIndex: 16,
     },
@@ -64,22 +77,31 @@
 
   /** What stands for symbols from afar, by the colour of their lines: a small sign, or a dot of so many pixels. */
   const smallHexagon = polygon([-3.6, 0], [-1.8, -3.1], [1.8, -3.1], [3.6, 0], [1.8, 3.1], [-1.8, 3.1]);
+  /** @type {Record<string, {path: string, weight: number, isOpen: boolean}>} */
   const signs = {
     airport: { path: circle(0, 0, 2.6), weight: 1.4, isOpen: true },
     navaid: { path: smallHexagon, weight: 0.8, isOpen: false },
   };
+  /** @type {Record<string, number>} */
   const dots = { airport: 1.3, navaid: 1.7, ndb: 1.3, waypoint: 1, waypointVfr: 1, waypointTerminal: 1 };
 
   /**
    * A `google.maps.Symbol`.
    * @param {string} fill a colour; the more options are scale, rotation and fillOpacity
    */
-  page.symbol = (path, stroke, weight, fill, more) => Object.assign(
-    { path: path, strokeColor: stroke, strokeWeight: weight, fillColor: fill, fillOpacity: 1 }, more);
+  page.symbol = function (path, stroke, weight, fill, more) {
+    /** @type {google.maps.Symbol} */
+    const symbol = { path: path, strokeColor: stroke, strokeWeight: weight, fillColor: fill, fillOpacity: 1 };
+    return Object.assign(symbol, more);
+  };
 
+  /** @type {(colours: Palette, design: Design) => string} */
   const filled = (colours, design) => (design.fill ? colours[design.fill] : 'none');
 
-  /** How the forms of a design are drawn. @type {Record<string, function(Object, number, string): google.maps.Symbol>} */
+  /**
+   * How the forms of a design are drawn.
+   * @type {Record<SymbolForm, (design: Design, scale: number, path: string) => google.maps.Symbol>}
+   */
   const forms = {
     dot: design => {
       const colour = page.palette[design.stroke];
@@ -97,15 +119,15 @@
       { scale: scale, fillOpacity: design.fill ? 1 : 0 }),
   };
 
+  /** @type {Record<string, google.maps.Symbol>} */
   let made = {};
   page.onPalette(() => {
     made = {};
   });
 
   /**
-   * The symbol of a marker: the same object for all markers that look alike, which is drawn once.
-   * @param {string} form 'dot', 'sign' or 'symbol'
-   * @param {number} scale of the last
+   * The symbol of a marker: the same object for all markers that look alike, which is drawn once. The scale is that of the
+   * full symbol.
    */
   page.symbolOf = function (marker, form, scale) {
     const path = marker.path || '';

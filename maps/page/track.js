@@ -21,7 +21,8 @@
     dress(palette) {
       this.colour = palette[this.style.colours[0]];
       this.fill = palette[this.style.colours[1]];
-      this.point = page.symbol(this.style.point.path, this.colour, this.style.point.weight, this.fill);
+      if (this.style.point)
+        this.point = page.symbol(this.style.point.path, this.colour, this.style.point.weight, this.fill);
       this.options = this.style.lines(this.colour, this.fill);
       this.lines.forEach((line, i) => line.setOptions(this.options[i]));
       if (this.layer)
@@ -53,21 +54,25 @@
 
     /** Draws what has been added since it was drawn last: what stands there already costs nothing again. */
     draw() {
-      if (!this.layer)
+      if (!this.lines.length)
         this.begin();
       this.points.slice(this.drawn).forEach(point => {
-        this.layer.add({ geometry: point.position, properties: { name: point.name } });
+        if (this.layer)
+          this.layer.add({ geometry: point.position, properties: { name: point.name } });
         this.lines.forEach(line => line.getPath().push(point.position));
       });
       this.drawn = this.points.length;
-      this.layer.setMap(map);
+      if (this.layer)
+        this.layer.setMap(map);
       if (this.legs)
         this.legs.setPoints(this.points);
     }
 
     begin() {
-      this.layer = new google.maps.Data();
-      this.layer.setStyle(feature => this.look(feature));
+      if (this.style.point) {
+        this.layer = new google.maps.Data();
+        this.layer.setStyle(feature => this.look(feature));
+      }
       this.lines = this.options.map((options, i) => new google.maps.Polyline(Object.assign({
         geodesic: true,
         clickable: false,

@@ -21,7 +21,20 @@ interface ChartMarker {
   html: string;
   getTitle(): string;
   getPosition(): Place;
+  tail(): string;
   isSameRow(other: ChartMarker): boolean;
+  /** The lines of the HTML text, once somebody has asked for them. */
+  lines?: string[];
+  /** The path of a symbol of its own: an airport with its runways. */
+  path?: string;
+  /** The two ends of each runway that the program has told. */
+  runways?: Map<string, RunwayEnd[]>;
+}
+
+/** How far the end of a runway lies from its airport, in degrees of latitude. */
+interface RunwayEnd {
+  east: number;
+  south: number;
 }
 
 /** Shows and hides the markers of a list. */
@@ -30,7 +43,39 @@ interface MarkerManager {
   clearMarkers(): void;
   addMarker(marker: ChartMarker): void;
   removeMarker(marker: ChartMarker): void;
-  fit(zoom: number): void;
+  /** Those that are shown. */
+  markers(): ChartMarker[];
+  dress(): void;
+}
+
+/** How a symbol is drawn, the nearest first; there is nothing of it where it is 'none'. */
+type SymbolForm = 'symbol' | 'sign' | 'dot';
+
+/** From which zoom on a kind of marker has a form or a text; `many` is how many of them leave the map open. */
+interface Stage {
+  dot: number;
+  sign: number;
+  symbol: number;
+  ident: number;
+  name: number;
+  many: number;
+}
+
+/** The looks of all markers at a zoom. The key is the same as long as everything looks the same. */
+interface Looks {
+  key: string;
+  of: (marker: ChartMarker) => google.maps.Data.StyleOptions;
+}
+
+/** Pieces of symbol paths. */
+interface Shapes {
+  /** x, y, radius */
+  circle(...numbers: number[]): string;
+  /** each corner as x, y */
+  polygon(...corners: number[][]): string;
+  /** each line as x, y of its two ends */
+  lines(...ends: number[][]): string;
+  rounded(value: number): number;
 }
 
 interface ChartLayer {
@@ -61,8 +106,8 @@ interface TrackStyle {
   /** The palette's colours of the line and its names, and of what lies inside its points. */
   colours: [Colour, Colour];
   zIndex: number;
-  /** The symbol of its points. */
-  point: { path: string, weight: number };
+  /** The symbol of its points; without it the track is nothing but its lines. */
+  point?: { path: string, weight: number };
   /** Whether course and distance stand beside its legs. */
   legs?: boolean;
   /** The lines of the track, each over the one before, from its two colours. */
@@ -119,6 +164,7 @@ interface LegTexts extends google.maps.OverlayView {
 }
 
 interface Track {
+  points: TrackPoint[];
   clear(): void;
   add(position: Place, name: string): void;
   draw(): void;
@@ -155,8 +201,10 @@ interface Page {
 
   symbol(path: string, stroke: string, weight: number, fill: string,
     more?: Partial<google.maps.Symbol>): google.maps.Symbol;
-  symbolSize(zoom: number): number;
-  symbolLook(symbol: string, size: number): google.maps.Data.StyleOptions;
+  shapes: Shapes;
+  symbolOf(marker: ChartMarker, form: SymbolForm, scale: number): google.maps.Symbol;
+  symbolHeight(symbol: string): number;
+  symbolColour(symbol: string): string;
   vorSymbol(type: number): string;
 
   families: Record<MarkerFamily, MarkerFamily>;
@@ -166,6 +214,24 @@ interface Page {
   collectVor(position: Place, title: string, symbol: string, html: string): ChartMarker | null;
   collectNdb(position: Place, title: string, use: number, html: string): ChartMarker | null;
   collectWaypoint(position: Place, title: string, use: number, html: string): ChartMarker | null;
+
+  identOf(marker: ChartMarker): string;
+  nameOf(marker: ChartMarker): string;
+  longText(marker: ChartMarker): string;
+  labelOf(text: string, colour: string, letters: number, more?: Partial<google.maps.MarkerLabel>): google.maps.MarkerLabel;
+  looksAt(zoom: number, countOf: (symbol: string) => number): Looks;
+  fullLook(marker: ChartMarker, more: { text: string, colour: string, zIndex: number }): google.maps.Data.StyleOptions;
+
+  joinBeacons(): void;
+  fitLooks(): void;
+  dressLayers(): void;
+  choose(marker: ChartMarker | null): void;
+  fitRoses(): void;
+  noteRunway(highEnd: Place, lowEnd: Place): void;
+
+  setPlanPoints(points: TrackPoint[]): void;
+  matchPlan(): void;
+  isPlanned(marker: ChartMarker): boolean;
 
   layers: ChartLayer[];
   newManager(old?: MarkerManager | null): MarkerManager;

@@ -49,7 +49,8 @@ QByteArray answerOf(const QByteArray& script, const QByteArray& status = "200 OK
 const char serviceScript[] = R"js(
 window.google = { maps: (function () {
   class Base { constructor(o) { Object.assign(this, o); } setMap(m) { this.map = m; } getMap() { return this.map; }
-    addListener() {} setOptions() {} setStyle() {} add(o) { (this.all = this.all || []).push(o); return o; } setPath(p) { this.path = p; }
+    addListener() {} setOptions() {} setStyle() {} forEach() {} remove() {}
+    add(o) { (this.all = this.all || []).push(o); return o; } setPath(p) { this.path = p; }
     setContent() {} setPosition() {} open() {} close() {} }
   class LatLng { constructor(a, b) { this.a = a; this.b = b; } lat() { return this.a; } lng() { return this.b; } }
   class Map { constructor(e, o) { this.c = o.center; this.z = o.zoom; this.controls = [[]]; } setOptions() {} addListener() {}
