@@ -1,6 +1,6 @@
 #!/usr/bin/env node
 /**
- * Makes the script that holds the world's coasts and borders: node outlines.js NODE_MODULES OUTPUT
+ * Makes the script that holds the world's coasts, borders, lakes and rivers: node outlines.js NODE_MODULES OUTPUT
  *
  * The land of three scales is cut into cells, so that the map reads and fills only what is in view. Rings that cross
  * 180 degrees are unrolled first and cut there; a ring around a pole is closed through the pole. Longitudes and
@@ -10,12 +10,13 @@
 const fs = require('fs');
 const path = require('path');
 const { clipRing, clipSegment } = require('../engine/clip.js');
+const waters = require('./waters.js');
 
-/** From which zoom a scale is drawn, and its cells' width and height in degrees. */
+/** From and to which zoom a scale is drawn, and its cells' width and height in degrees. */
 const levels = [
-  { scale: '110m', fromZoom: 0, cell: 45 },
-  { scale: '50m', fromZoom: 4, cell: 7.5 },
-  { scale: '10m', fromZoom: 6.5, cell: 2.5 },
+  { scale: '110m', fromZoom: 0, toZoom: 4, cell: 45 },
+  { scale: '50m', fromZoom: 4, toZoom: 6.5, cell: 7.5 },
+  { scale: '10m', fromZoom: 6.5, toZoom: 99, cell: 2.5 },
 ];
 
 /** How far land reaches into the next cell, degrees: two fills that only touch would show a seam. */
@@ -117,11 +118,12 @@ class Cells {
   at(column, row) {
     const index = row * this.columns + column;
     if (!this.byIndex.has(index))
-      this.byIndex.set(index, { column: column, row: row, land: [], lakes: [], borders: [] });
+      this.byIndex.set(index, { column: column, row: row, land: [], lakes: [], borders: [], rivers: [] });
     return this.byIndex.get(index);
   }
 
-  addRing(ring) {
+  /** @param {string} kind land or lakes */
+  addRing(ring, kind) {
     const [firstColumn, lastColumn] = cellRange(bounds(ring, 0), -180, this.cell, this.columns);
     for (let column = firstColumn; column <= lastColumn; ++column) {
       const west = -180 + column * this.cell;
@@ -134,18 +136,19 @@ class Cells {
         const part = rounded(clipRing(strip, west - overlap, Math.max(-90, south - overlap), west + this.cell + overlap,
           Math.min(90, south + this.cell + overlap)));
         if (part.length >= 6)
-          this.at(column, row).land.push(encode(part));
+          this.at(column, row)[kind].push(encode(part));
       }
     }
   }
 
-  addLine(points) {
+  /** @param {function(Object, string)} put what to do with the cell and a written piece of the line in it */
+  addLine(points, put) {
     const flat = unroll(points);
     const [firstColumn, lastColumn] = cellRange(bounds(flat, 0), -180, this.cell, this.columns);
     const [firstRow, lastRow] = cellRange(bounds(flat, 1), -90, this.cell, this.rows);
     for (let column = firstColumn; column <= lastColumn; ++column)
       for (let row = firstRow; row <= lastRow; ++row)
-        this.runsInCell(flat, column, row).forEach(run => this.at(column, row).borders.push(encode(run)));
+        this.runsInCell(flat, column, row).forEach(run => put(this.at(column, row), encode(run)));
   }
 
   /** The pieces of a line that lie in a cell. */
@@ -187,9 +190,12 @@ function makeLevel(level, modules) {
   for (const shape of shapes)
     for (const polygon of shape.type === 'Polygon' ? [shape.coordinates] : shape.coordinates)
       for (const points of polygon)
-        worldRings(points).forEach(ring => cells.addRing(ring));
+        worldRings(points).forEach(ring => cells.addRing(ring, 'land'));
   const borders = topojson.mesh(world, world.objects.countries, (a, b) => a !== b);
-  borders.coordinates.forEach(points => cells.addLine(points));
+  borders.coordinates.forEach(points => cells.addLine(points, (cell, text) => cell.borders.push(text)));
+  waters.lakeRings().forEach(points => worldRings(points).forEach(ring => cells.addRing(ring, 'lakes')));
+  waters.rivers().filter(river => river.zoom < level.toZoom).forEach(river =>
+    cells.addLine(river.points, (cell, text) => cell.rivers.push([river.zoom, text])));
   return {
     scale: level.scale,
     fromZoom: level.fromZoom,

@@ -1,4 +1,4 @@
-/** The base map: sea, land, lakes, coasts and borders. */
+/** The base map: sea, land, lakes, rivers, coasts and borders. */
 (function () {
   'use strict';
   const engine = window.mapEngine;
@@ -9,10 +9,13 @@
   const leastStep = 0.6;
 
   /**
-   * The lines, in the order in which they are drawn over the fills; `step` is their least step. The first lies under the
-   * land: a broad band that lets the water change its tone towards the shore.
+   * How lines are drawn; `step` is their least step. The first lies under the land: a broad band that lets the water
+   * change its tone towards the shore. Rivers end in their lakes, the others lie over the fills in this order.
    */
   const shallows = { kind: 'land', colour: 'coast', width: 9, strength: 0.16, step: 3, fromZoom: 4.5 };
+  /** Nearer they would be too far from where they are: their courses are those of a map of a country. */
+  const riversEnd = 8.5;
+  const rivers = { kind: 'rivers', colour: 'coast', width: 1, strength: 0.6, step: leastStep, fromZoom: 0 };
   const lines = [
     { kind: 'borders', colour: 'border', width: 1.2, strength: 1, step: leastStep, fromZoom: 0 },
     { kind: 'lakes', colour: 'coast', width: 0.8, strength: 1, step: leastStep, fromZoom: 0 },
@@ -129,6 +132,7 @@
       this.fillSea(frame);
       this.stroke(frame, cells, shallows);
       this.fill(frame, cells, 'land', this.colours.land);
+      this.stroke(frame, cells, rivers);
       this.fill(frame, cells, 'lakes', this.colours.sea);
       lines.forEach(style => this.stroke(frame, cells, style));
     }
@@ -141,6 +145,7 @@
         land: pick(cell.lines.land),
         lakes: pick(cell.lines.lakes),
         borders: pick(cell.lines.borders),
+        rivers: pick(cell.lines.rivers.filter(river => river.zoom <= frame.zoom && frame.zoom < riversEnd)),
       };
     }
 

@@ -1,5 +1,5 @@
 /**
- * The world's coasts, borders and lakes out of `window.worldOutlines`, made when the project is built: cells of several
+ * The world's coasts, borders, lakes and rivers out of `window.worldOutlines`, made when the project is built: cells of several
  * scales, each read when it comes into view for the first time.
  */
 (function () {
@@ -41,7 +41,7 @@
       this.cells = new Map(data.cells.map(cell => [cell.row * this.columns + cell.column, cell]));
     }
 
-    /** @return {?{land: Array, lakes: Array, borders: Array}} lines as `line` makes them */
+    /** @return {?{land: Array, lakes: Array, borders: Array, rivers: Array}} lines as `line` makes them */
     cellAt(column, row) {
       const cell = this.cells.get(row * this.columns + column);
       if (cell && !cell.lines) {
@@ -49,6 +49,7 @@
           land: cell.land.map(text => this.ring(text, cell)),
           lakes: cell.lakes.map(text => this.ring(text, cell)),
           borders: cell.borders.map(text => this.line(decode(text))),
+          rivers: cell.rivers.map(river => Object.assign(this.line(decode(river[1])), { zoom: river[0] })),
         };
       }
       return cell ? cell.lines : null;

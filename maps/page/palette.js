@@ -10,7 +10,7 @@
  * | Name | What it colours |
  * |---|---|
  * | name | no colour: 'day' or 'night' |
- * | sea, land, coast, border, river, town | the base map |
+ * | sea, land, coast, border | the base map; shores and rivers have the colour of the coast |
  * | seaText, placeText, countryText, placeRim | its names; the rim is what stands around letters |
  * | airport, airportFill | airports: lines, and the inside of the symbol |
  * | navaid, navaidFill | VOR, DME and TACAN |
@@ -40,8 +40,6 @@
       land: '#f6f3ea',
       coast: '#7f9cab',
       border: '#b79f86',
-      river: '#a9c9dc',
-      town: '#e9e2d3',
       seaText: '#5f86a0',
       placeText: '#6f675a',
       countryText: '#a2937c',
@@ -84,8 +82,6 @@
       land: '#1c252c',
       coast: '#43596a',
       border: '#655945',
-      river: '#22394a',
-      town: '#262f36',
       seaText: '#4d6f88',
       placeText: '#8b9096',
       countryText: '#66625a',

@@ -37,7 +37,6 @@
     { featureType: 'water', elementType: 'labels.text.fill', stylers: [{ color: palette.seaText }] },
     { featureType: 'water', elementType: 'labels.text.stroke', stylers: [{ color: palette.sea }] },
     { featureType: 'landscape', elementType: 'geometry.fill', stylers: [{ color: palette.land }] },
-    { featureType: 'landscape.man_made', elementType: 'geometry.fill', stylers: [{ color: palette.town }] },
     { featureType: 'administrative', elementType: 'geometry.stroke', stylers: [{ color: palette.border }] },
     { featureType: 'administrative', elementType: 'labels.text.fill', stylers: [{ color: palette.placeText }] },
     { featureType: 'administrative', elementType: 'labels.text.stroke', stylers: [{ color: palette.placeRim }] },

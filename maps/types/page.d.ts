@@ -171,7 +171,7 @@ interface Track {
 }
 
 /** What the palettes colour; the table stands in palette.js. */
-type Colour = 'sea' | 'land' | 'coast' | 'border' | 'river' | 'town' | 'seaText' | 'placeText' | 'countryText'
+type Colour = 'sea' | 'land' | 'coast' | 'border' | 'seaText' | 'placeText' | 'countryText'
     | 'placeRim' | 'airport' | 'airportFill' | 'navaid' | 'navaidFill' | 'ndb' | 'waypoint' | 'waypointFill'
     | 'waypointTerminal' | 'waypointVfr' | 'waypointVfrFill' | 'label' | 'labelRim' | 'highlight' | 'route'
     | 'routeFill' | 'procedure' | 'procedureFill' | 'airwayLow' | 'airwayHigh' | 'airwayBoth' | 'airwayOther'

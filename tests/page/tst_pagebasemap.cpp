@@ -29,6 +29,10 @@ private slots:
     void aNameRunsOverTheDateLine();
     void everyCityIsAtItsPlace_data();
     void everyCityIsAtItsPlace();
+    void lakesAreWater_data();
+    void lakesAreWater();
+    void anIslandInALakeIsLand();
+    void riversComeByZoom();
     void theDegreesStandOnTheEdges_data();
     void theDegreesStandOnTheEdges();
     void neighbouringSquaresFit();
@@ -147,6 +151,53 @@ void TestPageBaseMap::everyCityIsAtItsPlace()
     QFETCH(double, longitude);
     look(latitude, longitude, 8);
     QVERIFY(window->pixelsAround(latitude, longitude, 2, placeText) >= 4);
+}
+
+void TestPageBaseMap::lakesAreWater_data()
+{
+    QTest::addColumn<double>("latitude");
+    QTest::addColumn<double>("longitude");
+    QTest::addColumn<double>("zoom");
+    QTest::addColumn<bool>("water");
+    QTest::newRow("Léman") << 46.43 << 6.55 << 8.0 << true;
+    QTest::newRow("Léman, nearer") << 46.43 << 6.55 << 12.0 << true;
+    QTest::newRow("Lausanne") << 46.58 << 6.57 << 10.0 << false;
+    QTest::newRow("Thonon") << 46.34 << 6.57 << 10.0 << false;
+    QTest::newRow("Superior, over the edges of cells") << 47.53 << -86.27 << 5.5 << true;
+    QTest::newRow("Victoria, south of the equator") << -1.63 << 32.77 << 6.0 << true;
+    QTest::newRow("Baikal") << 54.93 << 109.32 << 7.5 << true;
+    QTest::newRow("beside Baikal") << 54.93 << 111.32 << 7.5 << false;
+}
+
+void TestPageBaseMap::lakesAreWater()
+{
+    QFETCH(double, latitude);
+    QFETCH(double, longitude);
+    QFETCH(double, zoom);
+    QFETCH(bool, water);
+    look(latitude, longitude, zoom);
+    QCOMPARE(window->colourAt(latitude, longitude), water ? sea : land);
+}
+
+void TestPageBaseMap::anIslandInALakeIsLand()
+{
+    look(45.82, -82.37, 8);
+    QCOMPARE(window->colourAt(45.82, -82.37), land);
+    QCOMPARE(window->colourAt(45.13, -82.37), sea);
+}
+
+void TestPageBaseMap::riversComeByZoom()
+{
+    // The Loire comes before the Allier; near by neither is drawn.
+    const auto coloured = [this](double latitude, double longitude, double zoom) {
+        look(latitude, longitude, zoom);
+        return 17 * 17 - window->pixelsAround(latitude, longitude, 8, land);
+    };
+    QCOMPARE(coloured(45.75, 4.23, 4.5), 0);
+    QVERIFY(coloured(45.75, 4.23, 6) > 8);
+    QCOMPARE(coloured(45.34, 3.32, 6), 0);
+    QVERIFY(coloured(45.34, 3.32, 7) > 8);
+    QCOMPARE(coloured(45.34, 3.32, 9), 0);
 }
 
 void TestPageBaseMap::theDegreesStandOnTheEdges_data()
