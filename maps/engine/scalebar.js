@@ -37,7 +37,13 @@
       const metresPerPixel = metresAround * Math.cos(latitude * Math.PI / 180) / world;
       this.lines.forEach(line => {
         const length = roundLength(widest * metresPerPixel / line.metres);
-        line.element.style.width = `${Math.round(length * line.metres / metresPerPixel)}px`;
+        const width = Math.round(length * line.metres / metresPerPixel);
+        if (line.length === length && line.width === width)
+          return;
+        // Only a change is told to the page: it lays itself out anew for each.
+        line.length = length;
+        line.width = width;
+        line.element.style.width = `${width}px`;
         line.element.textContent = `${length >= 1 ? length : length.toPrecision(1)} ${line.unit}`;
       });
     },

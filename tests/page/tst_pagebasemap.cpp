@@ -35,6 +35,7 @@ private slots:
     void riversComeByZoom();
     void theDegreesStandOnTheEdges_data();
     void theDegreesStandOnTheEdges();
+    void theDegreesAreWrittenOnceInEachColour();
     void neighbouringSquaresFit();
     void aPanBringsNoGap();
     void theMapGoesOnOverTheDateLine();
@@ -220,10 +221,20 @@ void TestPageBaseMap::theDegreesStandOnTheEdges()
     QFETCH(double, longitude);
     QFETCH(double, zoom);
     QFETCH(QStringList, labels);
+    // A label that was seen before is only copied.
+    window->run("map.base.labels.pictures.clear()");
     const QStringList texts = written(
         QString("map.setZoom(%3);map.setCenter(new google.maps.LatLng(%1,%2))").arg(latitude).arg(longitude).arg(zoom));
     for (const QString& label : qAsConst(labels))
         QVERIFY2(texts.contains(label), qPrintable(label + " is not in " + texts.join(' ')));
+}
+
+void TestPageBaseMap::theDegreesAreWrittenOnceInEachColour()
+{
+    look(46.5, 2.5, 5);
+    QVERIFY(!written("map.setCenter(new google.maps.LatLng(46.4, 2.6))").contains("5°E"));
+    QVERIFY(written("page.setPalette('night')").contains("5°E"));
+    QVERIFY(written("page.setPalette('day')").contains("5°E"));
 }
 
 void TestPageBaseMap::neighbouringSquaresFit()
