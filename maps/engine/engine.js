@@ -36,6 +36,7 @@ function loadMapEngine() {
     'maps/engine/controls.js',
     'maps/engine/map.js',
     'maps/engine/pointer.js',
+    'maps/engine/keys.js',
     'maps/engine/data.js',
     'maps/engine/polyline.js',
     'maps/engine/marker.js',

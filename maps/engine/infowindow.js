@@ -4,13 +4,27 @@
   const maps = window.google.maps;
   const engine = window.mapEngine;
 
+  const closeWords = { fr: 'Fermer', en: 'Close' };
+
   class InfoWindow extends maps.MVCObject {
     /** @param options content (HTML text or a node), position */
     constructor(options) {
       super();
       this.options = Object.assign({ content: '' }, options);
       this.map = null;
-      this.popup = L.popup({ autoPanPadding: [10, 10], maxWidth: 340, offset: [0, -2] });
+      this.popup = L.popup({
+        autoPanPadding: [10, 10],
+        maxWidth: 340,
+        offset: [0, -2],
+        // Who opens it closes it; by itself only its cross does.
+        closeOnClick: false,
+        closeOnEscapeKey: false,
+      });
+      this.closing = false;
+      this.popup.on('remove', () => {
+        if (!this.closing)
+          maps.event.trigger(this, 'closeclick');
+      });
     }
 
     getContent() {
@@ -39,11 +53,21 @@
       this.popup.setLatLng([position.lat(), position.lng() + 360 * Math.round((centre - position.lng()) / 360)]);
       this.popup.setContent(this.options.content);
       this.popup.openOn(map.leaflet);
+      this.nameCross();
+    }
+
+    /** Leaflet names the cross in English. */
+    nameCross() {
+      const cross = this.popup.getElement().querySelector('.leaflet-popup-close-button');
+      cross.setAttribute('aria-label', closeWords[document.documentElement.lang] || closeWords.en);
     }
 
     close() {
-      if (this.map)
-        this.map.leaflet.closePopup(this.popup);
+      if (!this.map)
+        return;
+      this.closing = true;
+      this.map.leaflet.closePopup(this.popup);
+      this.closing = false;
     }
   }
 

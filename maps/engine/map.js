@@ -20,6 +20,9 @@
     worldCopyJump: true,
     attributionControl: false,
     zoomControl: false,
+    // Both have their own place here (pointer.js, keys.js).
+    doubleClickZoom: false,
+    keyboard: false,
     minZoom: zoomLimits.least,
     maxZoom: zoomLimits.most,
   };
@@ -32,6 +35,7 @@
     constructor(element, options) {
       super();
       const wanted = options || {};
+      this.options = Object.assign({}, wanted);
       const centre = engine.isFinitePosition(wanted.center) ? wanted.center : new maps.LatLng(0, 0);
       this.element = element;
       this.lines = new engine.Lines();
@@ -49,6 +53,7 @@
       this.setOptions({ styles: wanted.styles });
       this.listen();
       engine.listenToPointer(this);
+      engine.listenToKeys(this);
     }
 
     addControls(wanted) {
@@ -133,14 +138,20 @@
       maps.event.trigger(this, 'zoom_changed');
     }
 
-    /** @param {{center: LatLng, zoom: number, styles: Array}} options those that are there are set */
+    /**
+     * @param options those that are there are set: center, zoom, styles, disableDoubleClickZoom, draggableCursor,
+     *     keyboardShortcuts
+     */
     setOptions(options) {
+      Object.assign(this.options, options);
       if (options.center !== undefined)
         this.setCenter(options.center);
       if (options.zoom !== undefined)
         this.setZoom(options.zoom);
       if ('styles' in options)
         this.setColours(engine.baseColours(options.styles));
+      if ('draggableCursor' in options)
+        this.element.style.cursor = options.draggableCursor || '';
     }
 
     /** A dark map has dark boxes: the sheet knows the class. */
@@ -154,6 +165,14 @@
 
     getDiv() {
       return this.element;
+    }
+
+    /** The projection of positions to the world's pixels at zoom 0. */
+    getProjection() {
+      return {
+        fromLatLngToPoint: position => new maps.Point(
+          engine.unitX(position.lng()) * engine.tileSize, engine.unitY(position.lat()) * engine.tileSize),
+      };
     }
   }
 

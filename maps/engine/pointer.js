@@ -1,6 +1,6 @@
 /**
  * The mouse on the map: what lies under it gets the event, a point of a data layer before the map itself. The wheel
- * zooms about the pointer.
+ * and a double click zoom about the pointer.
  */
 (function () {
   'use strict';
@@ -12,6 +12,18 @@
 
   /** Leaflet's names of the mouse's events and the map service's. */
   const names = { click: 'click', dblclick: 'dblclick', contextmenu: 'rightclick' };
+
+  /** The next whole zoom in a direction. */
+  engine.nextZoom = (zoom, inwards) => (inwards ? Math.floor(zoom + 1 + 1e-6) : Math.ceil(zoom - 1 - 1e-6));
+
+  /** Goes to the next zoom; what lies under the pointer stays there. */
+  function zoomAround(map, domEvent, inwards) {
+    const leaflet = map.leaflet;
+    const wanted = engine.nextZoom(leaflet.getZoom(), inwards);
+    const zoom = Math.max(leaflet.getMinZoom(), Math.min(leaflet.getMaxZoom(), wanted));
+    if (zoom !== leaflet.getZoom())
+      leaflet.setZoomAround(leaflet.mouseEventToContainerPoint(domEvent), zoom, { animate: false });
+  }
 
   function mouseEvent(leafletEvent) {
     return {
@@ -31,11 +43,14 @@
 
   function listenToButtons(map) {
     Object.keys(names).forEach(name => map.leaflet.on(name, leafletEvent => {
+      const zooms = name === 'dblclick' && !map.options.disableDoubleClickZoom;
       const feature = featureAt(map, leafletEvent);
       if (feature)
         tell(feature, names[name], leafletEvent);
       else
         maps.event.trigger(map, names[name], mouseEvent(leafletEvent));
+      if (zooms)
+        zoomAround(map, leafletEvent.originalEvent, true);
     }));
   }
 
@@ -61,24 +76,15 @@
     });
   }
 
-  /** The next whole zoom in the wheel's direction. */
-  function nextZoom(zoom, inwards) {
-    return inwards ? Math.floor(zoom + 1 + 1e-6) : Math.ceil(zoom - 1 - 1e-6);
-  }
-
   function listenToWheel(map) {
-    const leaflet = map.leaflet;
     let travel = 0;
     L.DomEvent.on(map.element, 'wheel', domEvent => {
       L.DomEvent.stop(domEvent);
       travel += L.DomEvent.getWheelDelta(domEvent);
       if (Math.abs(travel) < wheelStep)
         return;
-      const wanted = nextZoom(leaflet.getZoom(), travel > 0);
-      const zoom = Math.max(leaflet.getMinZoom(), Math.min(leaflet.getMaxZoom(), wanted));
+      zoomAround(map, domEvent, travel > 0);
       travel = 0;
-      if (zoom !== leaflet.getZoom())
-        leaflet.setZoomAround(leaflet.mouseEventToContainerPoint(domEvent), zoom, { animate: false });
     });
   }
 

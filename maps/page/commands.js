@@ -1,10 +1,12 @@
-/** The user's commands on markers and on the empty map, and which slot of the program each of them calls. */
+/** The user's commands on markers and on the map, and which slot of the program each of them calls. */
 (function () {
   'use strict';
 
   /** Two markers of one point, such as a VOR and the waypoint on it, lie within this many degrees. */
   const samePoint = 0.0005;
   const userPointStem = 'WPT';
+  /** The menu names so many of the markers of one place; a nearer view tells the rest apart. */
+  const mostMarkers = 8;
 
   /**
    * The title of a marker of a family at the place of another marker; empty without one.
@@ -32,6 +34,14 @@
       page.call('sATS', titleAt(marker.position, 'waypoint') || marker.title, marker.title);
   }
 
+  /**
+   * The program finds a row by what stands behind the first "-" of a title: only with one "-" this is the key.
+   * @param {ChartMarker} marker
+   */
+  function keyProblem(marker) {
+    return /^[^-]*-[^-]+$/.test(marker.title) ? '' : pageWords.noKey;
+  }
+
   /** @param {Place} place */
   function startHere(place) {
     page.call('sAddSitToFp', place.lat(), place.lng());
@@ -42,9 +52,12 @@
   /** @type {(word: string, slot: string) => Command<ChartMarker>} */
   const plain = (word, slot) => ({ word: word, slots: [slot], run: marker => page.call(slot, marker.title) });
   /** @type {(word: string, slot: string) => Command<ChartMarker>} */
+  const byKey = (word, slot) => Object.assign(plain(word, slot), { problem: keyProblem });
+  /** @type {(word: string, slot: string) => Command<ChartMarker>} */
   const edit = (word, slot) => ({
     word: word,
     slots: [slot],
+    problem: keyProblem,
     run: marker => page.call(slot, marker.title, marker.position.lat(), marker.position.lng()),
   });
   /** @type {(word: string, slot: string, text: string) => Command<Place>} */
@@ -55,23 +68,33 @@
   });
   const airways = { word: 'airways', slots: ['sATS'], run: askAirways };
 
+  /** @type {Command<ChartMarker>} */
+  const measureMarker = {
+    word: 'measureHere',
+    slots: [],
+    run: marker => page.startMeasure(marker.position, page.describe(marker).head),
+  };
+  /** @type {Command<ChartMarker>} */
+  const centreMarker = { word: 'centreHere', slots: [], run: marker => map.setCenter(marker.position) };
+
   /**
-   * The words are keys of the page's language. An entry is shown when the program has all its slots.
+   * The words are keys of the page's language. An entry is there when the program has all its slots and `wanted` does not
+   * say no; with a `problem` it is greyed.
    * @type {Record<MarkerFamily, Command<ChartMarker>[]>}
    */
   const markerCommands = {
     airport: [plain('addToPlan', 'sAddAptToFp'), plain('showRunways', 'doViewRwy')],
     navaid: [
-      plain('addToPlan', 'sAddNavToFp'),
+      byKey('addToPlan', 'sAddNavToFp'),
       airways,
       edit('editNavaid', 'sAddNavToDB'),
-      plain('deleteNavaid', 'sDelNavFromDB'),
+      byKey('deleteNavaid', 'sDelNavFromDB'),
     ],
     waypoint: [
-      plain('addToPlan', 'sAddWptToFp'),
+      byKey('addToPlan', 'sAddWptToFp'),
       airways,
       edit('editWaypoint', 'sAddWptToDB'),
-      plain('deleteWaypoint', 'sDelWptFromDB'),
+      byKey('deleteWaypoint', 'sDelWptFromDB'),
     ],
   };
 
@@ -81,33 +104,142 @@
     { word: 'startHere', slots: ['sAddSitToFp', 'doMoveSIT'], run: startHere },
     here('newWaypoint', 'sAddWptToDB', ''),
     here('newNavaid', 'sAddNavToDB', ''),
-    { word: 'clearRunways', slots: [], wanted: page.hasRunways, run: page.clearRunways },
+  ];
+
+  /** @type {Command<Place>[]} */
+  const viewCommands = [
+    { word: 'measureHere', slots: [], run: place => page.startMeasure(place, '') },
+    { word: 'endMeasure', slots: [], wanted: () => page.isMeasuring(), run: () => page.endMeasure() },
+    { word: 'clearMeasure', slots: [], wanted: () => page.hasMeasure(), run: () => page.clearMeasure() },
     { word: 'centreHere', slots: [], run: place => map.setCenter(place) },
+  ];
+
+  /** @type {Command<Place>[]} */
+  const clearCommands = [
+    {
+      word: 'clearRunways',
+      slots: [],
+      problem: () => (page.hasRunways() ? '' : pageWords.noRunways),
+      run: () => page.clearRunways(),
+    },
+    {
+      word: 'clearTrail',
+      slots: [],
+      wanted: () => !!page.clearTrail,
+      problem: () => (!page.hasTrail || page.hasTrail() ? '' : pageWords.noTrail),
+      run: () => page.clearTrail(),
+    },
   ];
 
   /** @type {<Subject>(commands: Command<Subject>[], subject: Subject) => MenuEntry[]} */
   function entriesFor(commands, subject) {
     return commands
       .filter(command => command.slots.every(page.offers) && (!command.wanted || command.wanted()))
-      .map(command => ({ text: pageWords[command.word], run: () => command.run(subject) }));
+      .map(command => ({
+        text: pageWords[command.word],
+        reason: command.problem ? command.problem(subject) : '',
+        run: () => command.run(subject),
+      }));
   }
 
-  /** Clicks on the markers of a layer: the pop-up, the menu, the title beside the pointer. */
+  /** Groups of entries with a line between them. @type {(...groups: MenuEntry[][]) => MenuEntry[]} */
+  function grouped(...groups) {
+    return groups.filter(group => group.length).reduce((all, group) =>
+      (all.length ? all.concat({ separator: true }, group) : group), []);
+  }
+
+  /**
+   * The entries for one marker. Whatever is chosen, the marker becomes the last used: the program may ask to delete it.
+   * @param {ChartMarker} marker
+   */
+  function entriesOfMarker(marker) {
+    const all = grouped(entriesFor(markerCommands[marker.family], marker),
+      entriesFor([measureMarker, centreMarker], marker));
+    return all.map(entry => (entry.separator ? entry : Object.assign({}, entry, {
+      run: () => {
+        theLast = marker;
+        entry.run();
+      },
+    })));
+  }
+
+  /** @param {Place} place */
+  const entriesOfPlace = place => grouped(entriesFor(mapCommands, place), entriesFor(viewCommands, place),
+    entriesFor(clearCommands, place));
+
+  /** @type {(place: Place) => Title} */
+  const titleOfPlace = place => ({ head: pageWords.mapMenu, lines: [page.positionText(place)] });
+
+  /** @type {(marker: ChartMarker) => MenuEntry} */
+  function submenuOf(marker) {
+    const words = page.describe(marker);
+    return { text: words.head, title: words, submenu: entriesOfMarker(marker) };
+  }
+
+  /**
+   * Of several markers each has a submenu; the place has its own entries below them.
+   * @type {(markers: ChartMarker[], place: Place, at?: Spot) => void}
+   */
+  function openForSeveral(markers, place, at) {
+    const shown = markers.slice(0, mostMarkers);
+    const rest = markers.length - shown.length;
+    const more = rest ? [{ text: pageWords.moreHere.replace('%1', String(rest)), reason: pageWords.zoomIn }] : [];
+    const title = { head: pageWords.severalHere.replace('%1', String(markers.length)), lines: [page.positionText(place)] };
+    page.openMenu(title, grouped(shown.map(submenuOf).concat(more), entriesOfPlace(place)), at);
+  }
+
+  /** @type {(marker: ChartMarker, place: Place, at?: Spot) => void} */
+  function openForOne(marker, place, at) {
+    const ofPlace = { text: pageWords.mapMenu, title: titleOfPlace(place), submenu: entriesOfPlace(place) };
+    page.openMenu(page.describe(marker), grouped(entriesOfMarker(marker), [ofPlace]), at);
+  }
+
+  /**
+   * Opens the menu of what lies at a place.
+   * @param {Place} place
+   * @param {?ChartMarker} first the marker that the map has found there
+   * @param {Spot} [at] where the menu opens; without it, at the pointer
+   */
+  page.openMenuOf = function (place, first, at) {
+    const markers = page.markersAt(place, first);
+    if (!markers.length) {
+      page.openMenu(titleOfPlace(place), entriesOfPlace(place), at);
+      return;
+    }
+    theLast = markers[0];
+    // Whoever starts, measures or makes a point on a marker means the marker's place, not the pixel beside it.
+    if (markers.length > 1)
+      openForSeveral(markers, theLast.position, at);
+    else
+      openForOne(theLast, theLast.position, at);
+  };
+
+  /** @param {ChartMarker} marker */
+  function clicked(marker) {
+    if (page.isMeasuring()) {
+      page.measureTo(marker.position, page.describe(marker).head);
+      return;
+    }
+    theLast = marker;
+    page.openPopup(marker);
+  }
+
+  /** The mouse on the markers of a layer: the pop-up, the menu, the box beside the pointer. */
   page.listenToLayer = function (layer) {
     /** @param {google.maps.Data.MouseEvent} event */
     const markerOf = event => event.feature.getProperty('marker');
-    layer.addListener('click', event => {
-      theLast = markerOf(event);
-      page.openPopup(theLast);
-    });
-    layer.addListener('rightclick', event => {
-      theLast = markerOf(event);
-      page.openMenu(theLast.title, entriesFor(markerCommands[theLast.family], theLast));
-    });
-    layer.addListener('mouseover', event => page.pointAt(markerOf(event)));
-    layer.addListener('mouseout', () => page.pointAt(null));
+    /** @param {?ChartMarker} marker */
+    const pointed = marker => {
+      page.reportMarker(marker);
+      page.pointAt(marker);
+      page.snapMeasure(marker);
+    };
+    layer.addListener('click', event => clicked(markerOf(event)));
+    layer.addListener('dblclick', () => page.endMeasure());
+    layer.addListener('rightclick', event => page.openMenuOf(event.latLng, markerOf(event)));
+    layer.addListener('mouseover', event => pointed(markerOf(event)));
+    layer.addListener('mouseout', () => pointed(null));
   };
 
-  map.addListener('rightclick', event =>
-    page.openMenu(pageWords.mapMenu, entriesFor(mapCommands, event.latLng)));
+  map.addListener('rightclick', event => page.openMenuOf(event.latLng, null));
 })();

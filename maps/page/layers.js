@@ -94,6 +94,15 @@ var WPTVfrMgr = null;
       page.fitRoses();
     }
 
+    /**
+     * Whether a marker of the list is on the map at this zoom, as one of this layer or of the plan.
+     * @param {ChartMarker} marker
+     */
+    draws(marker) {
+      return page.isPlanned(marker)
+        || (this.shown.has(marker) && !!this.layer.getMap() && styleOf(marker).visible !== false);
+    }
+
     /** Hides all markers of the layer. */
     clearMarkers() {
       if (this.layer)

@@ -39,13 +39,32 @@
     return content;
   }
 
+  /** The lines of one of the program's texts, as text. @param {string} html */
+  page.textLines = function (html) {
+    const lines = [''];
+    /** @param {Node} node */
+    const read = node => {
+      if (node.nodeType === Node.TEXT_NODE)
+        lines[lines.length - 1] += node.nodeValue;
+      else if (node.nodeName === 'BR')
+        lines.push('');
+      else
+        Array.from(node.childNodes).forEach(read);
+    };
+    read(contentOf(html));
+    return lines.map(line => line.trim());
+  };
+
   page.openPopup = function (marker) {
-    shown = marker;
     infoWindow.close();
     infoWindow.setContent(contentOf(marker.html));
     infoWindow.setPosition(marker.position);
     infoWindow.open(map);
+    shown = marker;
   };
+
+  /** The marker whose pop-up is open, or null. */
+  page.popupMarker = () => shown;
 
   /** Closes the pop-up if it is that of the marker; without a marker in any case. */
   page.closePopup = function (marker) {
@@ -56,4 +75,7 @@
   };
 
   google.maps.event.addListener(map, 'click', () => page.closePopup());
+  google.maps.event.addListener(infoWindow, 'closeclick', () => {
+    shown = null;
+  });
 })();

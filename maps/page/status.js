@@ -2,7 +2,14 @@
 (function () {
   'use strict';
 
-  let name = '';
+  /** More objects than this under the pointer are not told by name. */
+  const most = 3;
+
+  /** @type {?Place} */
+  let place = null;
+  /** @type {?ChartMarker} */
+  let pointed = null;
+  let dragged = false;
 
   /** @param {number} value */
   const two = value => (value < 10 ? `0${value}` : `${value}`);
@@ -18,24 +25,49 @@
     return `${whole}° ${two(minutes)}' ${two(seconds % 60)}" ${degrees < 0 ? negative : positive}`;
   }
 
-  /** @param {Place} position */
-  function positionText(position) {
-    return `${angleText(position.lat(), 2, 'N', 'S')}  ${angleText(position.lng(), 3, 'E', 'W')}`;
+  page.positionText = position =>
+    `${angleText(position.lat(), 2, 'N', 'S')}  ${angleText(position.lng(), 3, 'E', 'W')}`;
+
+  function namesUnderPointer() {
+    if (!pointed)
+      return '';
+    const markers = page.markersAt(place, pointed);
+    const names = markers.slice(0, most).map(marker => page.describe(marker).head);
+    return `  ${names.join(', ')}${markers.length > most ? '…' : ''}`;
   }
 
-  /** The marker under the pointer, or null; its title also shows beside the pointer. */
-  page.pointAt = function (marker) {
-    name = marker ? marker.title : '';
-    document.getElementById('chart').title = name;
-  };
+  // A moving mouse tells its place far more often than anybody reads it.
+  const reportPointer = page.oncePerFrame(() =>
+    page.call('doData', place ? `${page.positionText(place)}${namesUnderPointer()}` : ''));
 
-  google.maps.event.addListener(map, 'center_changed', () => {
+  function reportCentre() {
     const centre = map.getCenter();
     page.call('doCenter', centre.lat(), centre.lng());
+  }
+
+  const reportDrag = page.oncePerFrame(reportCentre);
+
+  /** The marker under the pointer, or null. */
+  page.reportMarker = function (marker) {
+    pointed = marker;
+  };
+
+  google.maps.event.addListener(map, 'dragstart', () => {
+    dragged = true;
   });
+  google.maps.event.addListener(map, 'dragend', () => {
+    dragged = false;
+    reportCentre();
+  });
+  google.maps.event.addListener(map, 'center_changed', () => (dragged ? reportDrag() : reportCentre()));
   google.maps.event.addListener(map, 'zoom_changed', () => page.call('doZoom', Math.round(map.getZoom())));
   map.addListener('mousemove', event => {
-    page.call('doData', `${positionText(event.latLng)}${name ? `  ${name}` : ''}`);
+    place = event.latLng;
+    reportPointer();
   });
-  google.maps.event.addListener(map, 'mouseout', () => page.call('doData', ''));
+  google.maps.event.addListener(map, 'mouseout', () => {
+    place = null;
+    pointed = null;
+    reportPointer();
+  });
 })();

@@ -45,6 +45,7 @@ interface MarkerManager {
   removeMarker(marker: ChartMarker): void;
   /** Those that are shown. */
   markers(): ChartMarker[];
+  draws(marker: ChartMarker): boolean;
   dress(): void;
 }
 
@@ -93,12 +94,28 @@ interface Command<Subject> {
   word: string;
   slots: string[];
   wanted?: () => boolean;
+  /** Why it cannot act now; empty when it can. */
+  problem?: (subject: Subject) => string;
   run: (subject: Subject) => void;
 }
 
+/** What an object or a panel of the menu is called: a head and smaller lines below it. */
+interface Title {
+  head: string;
+  lines: string[];
+}
+
+/** An entry of the menu: a command or a submenu, and perhaps why it cannot act now. */
 interface MenuEntry {
-  text: string;
-  run: () => void;
+  text?: string;
+  run?: () => void;
+  /** Shown below the text of the greyed entry. */
+  reason?: string;
+  submenu?: MenuEntry[];
+  /** That of the submenu. */
+  title?: Title;
+  /** A line instead of an entry. */
+  separator?: boolean;
 }
 
 /** How a track is drawn. */
@@ -184,6 +201,7 @@ type Palette = Record<Colour, string> & { name: 'day' | 'night' };
 interface Page {
   offers(slot: string): boolean;
   call(slot: string, ...values: (string | number)[]): void;
+  oncePerFrame(run: () => void): () => void;
 
   isPlace(position: Place | null | undefined): boolean;
   heading(value: number): number;
@@ -241,9 +259,31 @@ interface Page {
 
   openPopup(marker: ChartMarker): void;
   closePopup(marker?: ChartMarker): void;
-  openMenu(title: string, entries: MenuEntry[]): void;
+  popupMarker(): ChartMarker | null;
+  textLines(html: string): string[];
+  openMenu(title: Title, entries: MenuEntry[], at?: Spot): void;
+  openMenuOf(place: Place, first: ChartMarker | null, at?: Spot): void;
   closeMenu(): void;
+  menuIsOpen(): boolean;
+  menuKey(event: KeyboardEvent): void;
   pointAt(marker: ChartMarker | null): void;
+  reportMarker(marker: ChartMarker | null): void;
+  positionText(position: Place): string;
+
+  pointer: Spot & { still: boolean };
+  pixelsBetween(a: Place, b: Place): number;
+  pixelOf(place: Place): Spot;
+  markersAt(place: Place, first: ChartMarker | null): ChartMarker[];
+  describe(marker: ChartMarker): Title;
+  putBeside(element: HTMLElement, x: number, y: number, distance?: number): void;
+
+  isMeasuring(): boolean;
+  hasMeasure(): boolean;
+  startMeasure(place: Place, name: string): void;
+  measureTo(place: Place, name: string): void;
+  snapMeasure(marker: ChartMarker | null): void;
+  endMeasure(): void;
+  clearMeasure(): void;
 
   courseText(degrees: number): string;
   milesText(miles: number): string;
@@ -284,12 +324,12 @@ declare function loadMapEngine(): void;
 // The map service leaves open what a feature's properties are and what a listener is given.
 declare namespace google.maps {
   interface Map {
-    addListener(event: 'click' | 'rightclick' | 'mousemove' | 'mouseout',
+    addListener(event: 'click' | 'dblclick' | 'rightclick' | 'mousemove' | 'mouseout',
       handler: (event: google.maps.MapMouseEvent) => void): google.maps.MapsEventListener;
   }
 
   interface Data {
-    addListener(event: 'click' | 'rightclick' | 'mouseover' | 'mouseout' | 'mousemove',
+    addListener(event: 'click' | 'dblclick' | 'rightclick' | 'mouseover' | 'mouseout' | 'mousemove',
       handler: (event: google.maps.Data.MouseEvent) => void): google.maps.MapsEventListener;
   }
 }
@@ -298,5 +338,6 @@ declare namespace google.maps.Data {
   interface Feature {
     getProperty(name: 'marker'): ChartMarker;
     getProperty(name: 'name'): string;
+    getProperty(name: 'text'): string;
   }
 }

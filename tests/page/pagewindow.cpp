@@ -128,6 +128,13 @@ void PageWindow::click(double latitude, double longitude)
     mouse->click(mouse->pointOf(latitude, longitude));
 }
 
+void PageWindow::pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    activateWindow();
+    view->setFocus();
+    QTest::keyClick(view, key, modifiers);
+}
+
 QString PageWindow::popupText()
 {
     return mouse->popupText();

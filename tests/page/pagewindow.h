@@ -53,6 +53,8 @@ public:
     /// Clicks an entry of the open menu with the mouse. False when it is not there.
     bool chooseEntry(const QString& text);
     void click(double latitude, double longitude);
+    /// Presses a key while the page has the keyboard.
+    void pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     /// The text of the pop-up on the map; empty when there is none.
     QString popupText();
 

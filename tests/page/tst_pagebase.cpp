@@ -20,6 +20,9 @@ private slots:
     void everyNameOfTheInterfaceStands_data();
     void everyNameOfTheInterfaceStands();
     void bothPagesHaveTheSameWords();
+    void everyWordIsTranslated();
+    void noPageShowsTheOthersWords_data();
+    void noPageShowsTheOthersWords();
     void theFirstScriptsRunInsideTheLoad();
     void anAlertGoesToTheLog();
     void theEnginesOwnMenuStaysAway();
@@ -167,6 +170,60 @@ void TestPageBase::bothPagesHaveTheSameWords()
     open("gm_trajector_en.html");
     QCOMPARE(window->run(keys).toStringList(), french);
     QVERIFY(french.size() > 10);
+}
+
+void TestPageBase::everyWordIsTranslated()
+{
+    // What pilots of both languages say.
+    const QStringList shared{"VOR", "VOR-DME", "TACAN", "DME", "NDB", "Navaid", "Waypoint", "Total"};
+    open("gm_trajector_fr.html");
+    const QVariantMap french = window->run("pageWords").toMap();
+    open("gm_trajector_en.html");
+    const QVariantMap english = window->run("pageWords").toMap();
+    for (auto word = french.cbegin(); word != french.cend(); ++word) {
+        const QString text = word.value().toString();
+        QVERIFY2(text != english.value(word.key()).toString() || shared.contains(text), qPrintable(word.key()));
+        // Places for numbers are the same.
+        QCOMPARE(text.count("%1"), english.value(word.key()).toString().count("%1"));
+    }
+}
+
+void TestPageBase::noPageShowsTheOthersWords_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("other");
+    QTest::newRow("French") << "gm_trajector_fr.html"
+                            << "gm_trajector_en.html";
+    QTest::newRow("English") << "gm_trajector_en.html"
+                             << "gm_trajector_fr.html";
+}
+
+void TestPageBase::noPageShowsTheOthersWords()
+{
+    QFETCH(QString, page);
+    QFETCH(QString, other);
+    open(other);
+    const QVariantMap foreign = window->run("pageWords").toMap();
+    open(page);
+    const QVariantMap own = window->run("pageWords").toMap();
+    // Everything that the page can show at once, with the names that only a reader of the screen is told.
+    window->run("addAPTMarker(new google.maps.LatLng(46.50000, 2.50000),\"LFXX\",1,\"<b>X</b>\");pushAPT();"
+                "map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(8);"
+                "page.startMeasure(map.getCenter(), '');page.measureTo(new google.maps.LatLng(46, 2), '');"
+                "page.measureTo(new google.maps.LatLng(45, 2), '');page.openPopup(listApt[0]);"
+                "page.openMenuOf(map.getCenter(), listApt[0], { x: 5, y: 5 })");
+    const QString shown =
+        window
+            ->run("document.body.innerText + Array.from(document.querySelectorAll('[aria-label], [title]')).map(e => "
+                  "'\\n' + e.getAttribute('aria-label') + '\\n' + e.title).join('')")
+            .toString();
+    const QStringList lines = shown.split(QRegularExpression("[\\n,]\\s*"));
+    QVERIFY(lines.contains(own.value("addToPlan").toString()));
+    QVERIFY(lines.contains(own.value("measure").toString()));
+    for (auto word = foreign.cbegin(); word != foreign.cend(); ++word)
+        if (!own.values().contains(word.value()))
+            QVERIFY2(!lines.contains(word.value().toString()), qPrintable(word.value().toString()));
+    QVERIFY(!lines.contains(page.contains("_fr") ? "Close popup" : "Fermer"));
 }
 
 void TestPageBase::theFirstScriptsRunInsideTheLoad()

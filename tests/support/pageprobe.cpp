@@ -181,6 +181,18 @@ void PageProbe::click(const QPoint& point)
     sendMouse(view, QEvent::MouseButtonRelease, point, Qt::LeftButton, Qt::NoButton);
 }
 
+void PageProbe::moveTo(const QPoint& point)
+{
+    sendMouse(view, QEvent::MouseMove, point, Qt::NoButton, Qt::NoButton);
+}
+
+void PageProbe::doubleClick(const QPoint& point)
+{
+    click(point);
+    sendMouse(view, QEvent::MouseButtonDblClick, point, Qt::LeftButton, Qt::LeftButton);
+    sendMouse(view, QEvent::MouseButtonRelease, point, Qt::LeftButton, Qt::NoButton);
+}
+
 void PageProbe::drag(const QPoint& from, const QPoint& to)
 {
     sendMouse(view, QEvent::MouseMove, from, Qt::NoButton, Qt::NoButton);
@@ -207,20 +219,20 @@ void PageProbe::contextMenu(const QPoint& point)
 
 QStringList PageProbe::menuEntries()
 {
-    return evaluate("var menu = document.getElementById('menu');"
-                    "menu.hidden ? [] : Array.from(menu.querySelectorAll('.menu-entry')).map(e => e.textContent)")
+    return evaluate("Array.from(document.querySelectorAll('.menu:not([hidden]) .menu-label')).map(e => e.textContent)")
         .toStringList();
 }
 
 bool PageProbe::chooseEntry(const QString& text)
 {
-    const int index = menuEntries().indexOf(text);
+    const int index = menuEntries().lastIndexOf(text);
     if (index < 0)
         return false;
-    const QVariantList place = evaluate(QString("var box = document.querySelectorAll('.menu-entry')[%1]"
-                                                ".getBoundingClientRect(); [box.left + 10, box.top + box.height / 2]")
-                                            .arg(index))
-                                   .toList();
+    const QVariantList place =
+        evaluate(QString("var box = document.querySelectorAll('.menu:not([hidden]) .menu-entry')[%1]"
+                         ".getBoundingClientRect(); [box.left + 10, box.top + box.height / 2]")
+                     .arg(index))
+            .toList();
     click(QPoint(place.value(0).toInt(), place.value(1).toInt()));
     return true;
 }

@@ -43,13 +43,18 @@ public:
     QPoint pointOf(double latitude, double longitude);
     /// Moves the mouse there, and presses and releases the left button.
     void click(const QPoint& point);
+    /// Moves the mouse there and nothing more.
+    void moveTo(const QPoint& point);
+    /// Two clicks, the second of which is a double click to the page.
+    void doubleClick(const QPoint& point);
     void drag(const QPoint& from, const QPoint& to);
     void wheel(const QPoint& point, int delta);
     /// The right button's menu: the page sees `contextmenu`.
     void contextMenu(const QPoint& point);
-    /// The texts of the open menu's entries; none when there is no menu.
+    /// The texts of the entries of the open menu and of its open submenus behind them; none when there is no menu.
     QStringList menuEntries();
-    /// Clicks an entry of the open menu. False when it is not there.
+    /// Clicks an entry of the open menu, that of the innermost submenu if several have this text. False when it is not
+    /// there.
     bool chooseEntry(const QString& text);
     /// The text of the pop-up on the map; empty when there is none.
     QString popupText();

@@ -1,0 +1,253 @@
+// The pointer over the map: the box beside it, and what the status bar is told.
+#include "samplechart.h"
+
+#include <QtTest>
+
+using namespace samplechart;
+
+class TestPageHover : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        window.reset();
+        program.reset(new FullProgramSide);
+        window.reset(new PageWindow(program.data()));
+        QVERIFY(show(*window));
+        program->clear();
+    }
+
+    void aRestOverAMarkerShowsTheBox();
+    void theBoxTellsTheFrequency();
+    void theBoxTellsEachOfSeveralObjects();
+    void theBoxGoes_data();
+    void theBoxGoes();
+    void theBoxDoesNotRepeatThePopUp();
+    void theBoxIsText();
+    void theBoxStaysInTheWindow();
+    void theBoxFollowsThePalette();
+    void theStatusTellsWhatLiesUnderThePointer();
+    void aFloodOfMovesIsOneReportAFrame();
+    void aFloodOfDragsIsOneReportAFrame();
+    void leavingTheMapEmptiesTheReport();
+    void theLastCentreOfADragIsReported();
+
+private:
+    QScopedPointer<ProgramSide> program;
+    QScopedPointer<PageWindow> window;
+
+    bool isShown()
+    {
+        return !window->run("document.getElementById('tooltip').hidden").toBool();
+    }
+    QStringList lines()
+    {
+        return texts(*window, "#tooltip div");
+    }
+    void rest(const Place& place)
+    {
+        window->mouse->moveTo({5, 300});
+        window->mouse->moveTo(pixel(*window, place));
+    }
+    /// From now on frames come only by `nextFrame`.
+    void holdFrames()
+    {
+        window->run("var frames = []; window.requestAnimationFrame = function (f) { frames.push(f); return 1; };");
+    }
+    void nextFrame()
+    {
+        window->run("frames.splice(0).forEach(function (f) { f(); })");
+    }
+};
+
+void TestPageHover::aRestOverAMarkerShowsTheBox()
+{
+    rest(airport);
+    QVERIFY(!isShown());
+    QTRY_VERIFY_WITH_TIMEOUT(isShown(), 20000);
+    QCOMPARE(lines(), (QStringList{"Aéroport LFLX", "DEOLS"}));
+    QCOMPARE(window->run("document.getElementById('tooltip').getAttribute('role')").toString(), "tooltip");
+    // Nothing of the engine's own beside it.
+    QCOMPARE(window->run("document.getElementById('chart').title").toString(), "");
+}
+
+void TestPageHover::theBoxTellsTheFrequency()
+{
+    rest(ndb);
+    QTRY_VERIFY_WITH_TIMEOUT(isShown(), 20000);
+    QCOMPARE(lines(), (QStringList{"NDB terminal MT", "MONTLUCON", "398 Khz"}));
+}
+
+void TestPageHover::theBoxTellsEachOfSeveralObjects()
+{
+    rest(vorAndWaypoint);
+    QTRY_VERIFY_WITH_TIMEOUT(isShown(), 20000);
+    QCOMPARE(lines(), (QStringList{"VOR-DME CGO", "CHATEAUROUX", "117.8 Mhz", "Waypoint CGO"}));
+    for (int i = 0; i < 5; ++i)
+        window->run(QString("addWPTMarker2(new google.maps.LatLng(46.60000, 1.70000),\"P%1-P%1FR\",1,\"x\")").arg(i));
+    window->settle();
+    rest(nothing);
+    QTRY_COMPARE_WITH_TIMEOUT(lines().size(), 5, 20000);
+    QCOMPARE(lines().last(), "et 1 autres");
+}
+
+void TestPageHover::theBoxGoes_data()
+{
+    QTest::addColumn<QString>("way");
+    for (const char* way : {"leave", "press", "wheel", "key", "script"})
+        QTest::newRow(way) << way;
+}
+
+void TestPageHover::theBoxGoes()
+{
+    QFETCH(QString, way);
+    rest(airport);
+    QTRY_VERIFY_WITH_TIMEOUT(isShown(), 20000);
+    if (way == "leave")
+        window->mouse->moveTo({5, 300});
+    else if (way == "press")
+        window->mouse->click(pixel(*window, airport));
+    else if (way == "wheel")
+        window->mouse->wheel(pixel(*window, airport), 120);
+    else if (way == "key")
+        window->pressKey(Qt::Key_Plus);
+    else
+        window->run("map.setCenter(new google.maps.LatLng(46.00000, 2.00000));");
+    QTRY_VERIFY_WITH_TIMEOUT(!isShown(), 20000);
+}
+
+void TestPageHover::theBoxDoesNotRepeatThePopUp()
+{
+    window->click(airport.latitude, airport.longitude);
+    QVERIFY(window->popupText().startsWith("Airport LFLX"));
+    rest(airport);
+    QTest::qWait(600);
+    QVERIFY(!isShown());
+    window->pressKey(Qt::Key_Escape);
+    rest(airport);
+    QTRY_VERIFY_WITH_TIMEOUT(isShown(), 20000);
+}
+
+void TestPageHover::theBoxIsText()
+{
+    window->run("addAPTMarker(new google.maps.LatLng(46.60000, 1.70000),\"LFXX\",1,\"<b>Airport <i>LF</i>XX</b><br/>"
+                "<img src='http://127.0.0.1:9/a.png' onerror='mainWindow.doSomething(1)'>A &lt;b&gt;<script>"
+                "mainWindow.doSomething(2)</script><br/>B\");pushAPT();");
+    window->settle();
+    window->requests.clear();
+    rest(nothing);
+    QTRY_VERIFY_WITH_TIMEOUT(isShown(), 20000);
+    QCOMPARE(lines(), (QStringList{"Aéroport LFXX", "A <b>"}));
+    QCOMPARE(window->run("document.querySelectorAll('#tooltip div *').length").toInt(), 0);
+    QTest::qWait(50);
+    QCOMPARE(window->requests, QList<QUrl>());
+    QCOMPARE(program->calls("doSomething"), QStringList());
+}
+
+void TestPageHover::theBoxStaysInTheWindow()
+{
+    for (const Place& centreNow : {Place{47.9, -0.17}, Place{45.9, -0.17}}) {
+        window->run(
+            QString("map.setCenter(new google.maps.LatLng(%1,%2));").arg(centreNow.latitude).arg(centreNow.longitude));
+        window->settle();
+        const QPoint place = pixel(*window, airport);
+        QVERIFY(QRect(700, 0, 100, 600).contains(place));
+        rest(airport);
+        QTRY_VERIFY_WITH_TIMEOUT(isShown(), 20000);
+        const QRectF tip = box(*window, "#tooltip");
+        QVERIFY(QRectF(0, 0, 800, 600).contains(tip));
+        QVERIFY(!tip.contains(place));
+        window->mouse->moveTo({5, 300});
+    }
+}
+
+void TestPageHover::theBoxFollowsThePalette()
+{
+    const QString look =
+        "var look = getComputedStyle(document.getElementById('tooltip')); look.backgroundColor + look.color";
+    rest(airport);
+    QTRY_VERIFY_WITH_TIMEOUT(isShown(), 20000);
+    QCOMPARE(window->run(look).toString(), "rgb(255, 255, 255)rgb(28, 39, 48)");
+    window->run("page.setPalette('night')");
+    QCOMPARE(window->run(look).toString(), "rgb(34, 45, 54)rgb(201, 212, 220)");
+}
+
+void TestPageHover::theStatusTellsWhatLiesUnderThePointer()
+{
+    rest(vorAndWaypoint);
+    const QString last = "doData \"46° 4\\d' \\d\\d\" N  002° 3\\d' \\d\\d\" E  VOR-DME CGO, Waypoint CGO\"";
+    QTRY_VERIFY_WITH_TIMEOUT(program->calls("doData").last().contains(QRegularExpression(last)), 20000);
+    window->mouse->moveTo({5, 300});
+    QTRY_VERIFY_WITH_TIMEOUT(program->calls("doData").last().endsWith(" E\""), 20000);
+}
+
+void TestPageHover::aFloodOfMovesIsOneReportAFrame()
+{
+    window->mouse->moveTo({300, 500});
+    window->settle();
+    holdFrames();
+    program->clear();
+    for (int i = 0; i < 200; ++i)
+        window->mouse->moveTo({300 + i % 100, 500});
+    QCOMPARE(program->calls("doData").size(), 1);
+    nextFrame();
+    QCOMPARE(program->calls("doData").size(), 2);
+    // The last place is the one that is told.
+    const QString place = program->calls("doData").last();
+    nextFrame();
+    QCOMPARE(program->calls("doData").size(), 2);
+    window->mouse->moveTo({399, 500});
+    QCOMPARE(program->calls("doData").size(), 3);
+    QCOMPARE(program->calls("doData").last(), place);
+}
+
+void TestPageHover::aFloodOfDragsIsOneReportAFrame()
+{
+    window->settle();
+    holdFrames();
+    program->clear();
+    const auto send = [this](QEvent::Type type, const QPoint& point, Qt::MouseButton button, Qt::MouseButtons held) {
+        QMouseEvent event(type, point, window->view->mapToGlobal(point), button, held, Qt::NoModifier);
+        QApplication::sendEvent(window->view, &event);
+    };
+    send(QEvent::MouseButtonPress, {400, 500}, Qt::LeftButton, Qt::LeftButton);
+    for (int i = 1; i <= 100; ++i)
+        send(QEvent::MouseMove, {400 - i, 500}, Qt::NoButton, Qt::LeftButton);
+    QCOMPARE(program->calls("doCenter").size(), 1);
+    nextFrame();
+    QCOMPARE(program->calls("doCenter").size(), 2);
+    send(QEvent::MouseButtonRelease, {300, 500}, Qt::LeftButton, Qt::NoButton);
+    // A script's move is told at once, whatever the frames do.
+    program->clear();
+    window->run("map.setCenter(new google.maps.LatLng(46.00000, 2.00000));");
+    window->run("map.setCenter(new google.maps.LatLng(47.00000, 2.00000));");
+    QCOMPARE(program->calls("doCenter"), (QStringList{"doCenter 46.00000 2.00000", "doCenter 47.00000 2.00000"}));
+}
+
+void TestPageHover::leavingTheMapEmptiesTheReport()
+{
+    window->run("page.startMeasure(new google.maps.LatLng(46, 2), '');");
+    rest(airport);
+    // Onto a box that lies on the map.
+    window->mouse->moveTo(box(*window, "#measure").center().toPoint());
+    QTRY_COMPARE_WITH_TIMEOUT(program->calls("doData").last(), QString("doData \"\""), 20000);
+    QTest::qWait(600);
+    QVERIFY(!isShown());
+    QCOMPARE(program->calls("doData").last(), "doData \"\"");
+}
+
+void TestPageHover::theLastCentreOfADragIsReported()
+{
+    window->mouse->drag({400, 500}, {300, 450});
+    const QString centreNow =
+        window->run("'doCenter ' + map.getCenter().lat().toFixed(5) + ' ' + map.getCenter().lng().toFixed(5)")
+            .toString();
+    QCOMPARE(program->calls("doCenter").last(), centreNow);
+    window->settle();
+    QCOMPARE(program->calls("doCenter").last(), centreNow);
+}
+
+QTEST_MAIN(TestPageHover)
+#include "tst_pagehover.moc"
