@@ -10,6 +10,9 @@
   /** Between two names, pixels. */
   const gap = 4;
   const rim = 2.5;
+  /** Half the height of the letters, and what a picture has around them for their rim and their slant. */
+  const half = 8;
+  const margin = 4;
 
   /** Letters of each kind; countries are spaced capitals. The colours are parts of the base colours. */
   const kinds = {
@@ -71,6 +74,7 @@
       if (kind.capitals)
         this.text = this.text.toUpperCase();
       this.width = 0;
+      this.picture = null;
     }
 
     /** The pixels where the letters begin, of which the first choice comes first, and the box of the whole. */
@@ -92,7 +96,7 @@
         name: this,
         x: x,
         y: y,
-        letters: letters,
+        letters: Math.round(letters),
         left: Math.min(letters, x - this.dot) - gap,
         right: Math.max(letters + this.width, x + this.dot) + gap,
         top: y - 7 - gap / 2,
@@ -128,47 +132,73 @@
     }
 
     paint(frame) {
-      const context = frame.context;
-      context.textBaseline = 'middle';
-      context.lineJoin = 'round';
       const all = this.placesAt(frame.zoom, frame.scale);
       for (let world = frame.firstWorld - 1; world <= frame.lastWorld + 1; ++world) {
         const left = frame.left - world * frame.scale;
         all.forEach(place => {
           if (place.right > left && place.left < left + frame.width && place.bottom > frame.top
             && place.top < frame.top + frame.height && this.colours[place.name.kind.colour])
-            this.write(context, place, left, frame.top);
+            this.write(frame.context, place, left, frame.top);
         });
       }
     }
 
+    /** Copies the name's picture; the dot and the letters stand on whole pixels, so that it stays sharp. */
     write(context, place, left, top) {
       const name = place.name;
+      const picture = this.pictureOf(name);
       const y = place.y - top;
-      context.fillStyle = this.colours[name.kind.colour];
+      context.drawImage(picture.canvas, place.letters - left - margin, y - half - margin, picture.width, picture.height);
       if (name.dot) {
+        context.fillStyle = this.colours[name.kind.colour];
         context.beginPath();
         context.arc(place.x - left, y, name.dot, 0, 2 * Math.PI);
         context.fill();
       }
+    }
+
+    /** The letters with their rim, drawn once for a palette: outlines of letters take the time of a hundred copies. */
+    pictureOf(name) {
+      if (name.picture && name.picture.colours === this.colours)
+        return name.picture;
+      const ratio = window.devicePixelRatio || 1;
+      const picture = {
+        colours: this.colours,
+        canvas: document.createElement('canvas'),
+        width: Math.ceil(name.width) + 2 * margin,
+        height: 2 * (half + margin),
+      };
+      picture.canvas.width = Math.round(picture.width * ratio);
+      picture.canvas.height = Math.round(picture.height * ratio);
+      const context = picture.canvas.getContext('2d');
+      context.scale(ratio, ratio);
+      this.draw(context, name);
+      name.picture = picture;
+      return picture;
+    }
+
+    draw(context, name) {
       context.font = `${name.font} ${family}`;
+      context.textBaseline = 'middle';
+      context.lineJoin = 'round';
       if (this.colours[name.kind.rim]) {
         context.globalAlpha = 0.8;
         context.strokeStyle = this.colours[name.kind.rim];
         context.lineWidth = rim;
-        this.letters(name, place.letters - left, (text, x) => context.strokeText(text, x, y));
+        this.letters(name, (text, x) => context.strokeText(text, x, half + margin));
         context.globalAlpha = 1;
       }
-      this.letters(name, place.letters - left, (text, x) => context.fillText(text, x, y));
+      context.fillStyle = this.colours[name.kind.colour];
+      this.letters(name, (text, x) => context.fillText(text, x, half + margin));
     }
 
     /** A canvas knows no space between letters: spaced names are written one by one. */
-    letters(name, x, write) {
+    letters(name, write) {
       if (!name.kind.space) {
-        write(name.text, x);
+        write(name.text, margin);
         return;
       }
-      let at = x;
+      let at = margin;
       measure.font = `${name.font} ${family}`;
       Array.from(name.text).forEach(letter => {
         write(letter, at);

@@ -8,6 +8,10 @@
   /** Neighbours on a line that are nearer than this are one, pixels. */
   const leastStep = 0.6;
 
+  /** Below this zoom a world of lines is finer drawn, by this factor. */
+  const farZoom = 4.8;
+  const farWidth = 0.7;
+
   /**
    * How lines are drawn; `step` is their least step. The first lies under the land: a broad band that lets the water
    * change its tone towards the shore. Rivers end in their lakes, the others lie over the fills in this order.
@@ -175,7 +179,7 @@
       if (!this.colours[style.colour] || frame.zoom < style.fromZoom)
         return;
       context.strokeStyle = this.colours[style.colour];
-      context.lineWidth = style.width;
+      context.lineWidth = style.width * (frame.zoom < farZoom ? farWidth : 1);
       context.globalAlpha = style.strength;
       cells.forEach(cell => cell[style.kind].forEach(line => strokeLine(frame, line, cell.left, style.step)));
       context.globalAlpha = 1;
