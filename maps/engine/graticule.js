@@ -83,11 +83,42 @@
     }
   }
 
+  const font = '10px "DejaVu Sans", "Segoe UI", sans-serif';
+  /** CSS pixels around a label's text. */
+  const rim = 2;
+  /** More labels than many views have. */
+  const mostPictures = 200;
+  const ruler = document.createElement('canvas').getContext('2d');
+
+  /** @return {{canvas: HTMLCanvasElement, width: number}} CSS pixels, with the rim; as high as the strip */
+  function pictureOf(text, colours, ratio) {
+    ruler.font = font;
+    const width = Math.ceil(ruler.measureText(text).width) + 2 * rim;
+    const canvas = document.createElement('canvas');
+    canvas.width = Math.round(width * ratio);
+    canvas.height = Math.round(strip.height * ratio);
+    const context = canvas.getContext('2d');
+    context.setTransform(ratio, 0, 0, ratio, 0, 0);
+    context.font = font;
+    context.textBaseline = 'middle';
+    context.lineJoin = 'round';
+    context.lineWidth = 3;
+    if (colours.placeRim) {
+      context.globalAlpha = 0.75;
+      context.strokeStyle = colours.placeRim;
+      context.strokeText(text, rim, strip.height / 2);
+      context.globalAlpha = 1;
+    }
+    context.fillStyle = colours.seaText;
+    context.fillText(text, rim, strip.height / 2);
+    return { canvas: canvas, width: width };
+  }
+
   /** The labels: longitudes along the upper edge of the view, latitudes along the left one. They do not move with it. */
   engine.GraticuleLabels = L.Layer.extend({
     initialize: function () {
       this.colours = engine.baseColours();
-      this.texts = new Map();
+      this.pictures = new Map();
     },
 
     onAdd: function (leaflet) {
@@ -112,28 +143,13 @@
       const scale = engine.tileSize * Math.pow(2, this.leaflet.getZoom());
       const area = { left: corner.x, top: corner.y, width: size.x, height: size.y };
       const along = this.context(this.top, size.x, strip.height);
+      meridians(area, scale).filter(line => line.at > strip.width / 2 && line.at < size.x - corners.right)
+        .forEach(line => this.text(along, line.text, line.at, strip.height / 2 + 1, 0.5));
       const beside = this.context(this.side, strip.width, size.y);
-      if (!this.colours.seaText)
-        return;
-      const rim = this.colours.placeRim || 'transparent';
-      engine.writeLabels(along, meridians(area, scale)
-        .filter(line => line.at > strip.width / 2 && line.at < size.x - corners.right)
-        .map(line => this.label(line.text, width => line.at - width / 2, height => (strip.height - height) / 2)), rim);
-      engine.writeLabels(beside, parallels(area, scale)
-        .filter(line => line.at > corners.top && line.at < size.y - corners.bottom)
-        .map(line => this.label(line.text, () => 4, height => line.at - height / 2)), rim);
+      parallels(area, scale).filter(line => line.at > corners.top && line.at < size.y - corners.bottom)
+        .forEach(line => this.text(beside, line.text, 4, line.at, 0));
     },
 
-    /** A label as they are written: those of a view come again with every move. */
-    label: function (text, xOf, yOf) {
-      const key = `${this.colours.seaText} ${text}`;
-      if (!this.texts.has(key))
-        this.texts.set(key, engine.labelText({ text: text, color: this.colours.seaText, fontSize: '10px' }));
-      const found = this.texts.get(key);
-      return { text: found, x: Math.round(xOf(found.width)), y: Math.round(yOf(found.height)) };
-    },
-
-    /** A strip's canvas, empty. */
     context: function (canvas, width, height) {
       const ratio = window.devicePixelRatio || 1;
       if (canvas.width !== Math.round(width * ratio) || canvas.height !== Math.round(height * ratio)) {
@@ -146,6 +162,30 @@
       context.setTransform(ratio, 0, 0, ratio, 0, 0);
       context.clearRect(0, 0, width, height);
       return context;
+    },
+
+    /** @param {number} part of the text's width that lies left of x */
+    text: function (context, text, x, y, part) {
+      if (!this.colours.seaText)
+        return;
+      const picture = this.picture(text);
+      const left = x - rim - part * (picture.width - 2 * rim);
+      context.drawImage(picture.canvas, Math.round(left), Math.round(y - strip.height / 2), picture.width, strip.height);
+    },
+
+    /** A text with its rim is dear to draw, and a map that follows an aircraft moves all the time: drawn once. */
+    picture: function (text) {
+      const ratio = window.devicePixelRatio || 1;
+      if (this.drawnIn !== this.colours || this.drawnFor !== ratio || this.pictures.size > mostPictures)
+        this.pictures.clear();
+      this.drawnIn = this.colours;
+      this.drawnFor = ratio;
+      let picture = this.pictures.get(text);
+      if (!picture) {
+        picture = pictureOf(text, this.colours, ratio);
+        this.pictures.set(text, picture);
+      }
+      return picture;
     },
   });
 
