@@ -1,7 +1,6 @@
 // The map page under a clock: frames on demand, each with the view painted.
 #include "benchpage.h"
 
-#include "measure.h"
 #include "mywebpage.h"
 
 #include <QApplication>

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "measure.h"
+
 #include <QImage>
 #include <QString>
 #include <QVariant>
@@ -14,6 +16,11 @@ public slots:
     void doCenter(double, double) {}
     void doZoom(int) {}
     void doData(const QString&) {}
+    /// The measurement's clock, for the page too.
+    double clockMs()
+    {
+        return nowMs();
+    }
 };
 
 /// The map page in a view of 1280 by 800 pixels. Its frames come when they are asked for, and a frame ends with the

@@ -22,12 +22,12 @@
   // When each script has run; those of a page run one after the other.
   document.addEventListener('load', event => {
     if (event.target.src)
-      loaded.push({ src: event.target.src, at: performance.now() });
+      loaded.push({ src: event.target.src, at: window.mainWindow.clockMs() });
   }, true);
 
-  /** Milliseconds that the scripts whose address ends so took, reading them included. */
-  window.benchScriptTime = ending => loaded.reduce((sum, script, i) => {
-    const before = i > 0 ? loaded[i - 1].at : 0;
-    return script.src.slice(-ending.length) === ending ? sum + script.at - before : sum;
+  /** Milliseconds that the scripts with this in their address took, reading them included. */
+  window.benchScriptTime = part => loaded.reduce((sum, script, i) => {
+    const before = i > 0 ? loaded[i - 1].at : script.at;
+    return script.src.indexOf(part) >= 0 ? sum + script.at - before : sum;
   }, 0);
 })();

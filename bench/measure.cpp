@@ -10,11 +10,6 @@ namespace {
 
 bool byProcessor = false;
 
-double processorMs()
-{
-    return static_cast<double>(std::clock()) * 1000.0 / CLOCKS_PER_SEC;
-}
-
 } // namespace
 
 void measureProcessorTime()
@@ -22,17 +17,24 @@ void measureProcessorTime()
     byProcessor = true;
 }
 
-double elapsedMs(const std::function<void()>& work)
+double nowMs()
 {
     if (byProcessor) {
-        const double before = processorMs();
-        work();
-        return processorMs() - before;
+        return static_cast<double>(std::clock()) * 1000.0 / CLOCKS_PER_SEC;
     }
-    QElapsedTimer timer;
-    timer.start();
-    work();
+    static const QElapsedTimer timer = [] {
+        QElapsedTimer started;
+        started.start();
+        return started;
+    }();
     return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+double elapsedMs(const std::function<void()>& work)
+{
+    const double before = nowMs();
+    work();
+    return nowMs() - before;
 }
 
 double median(std::vector<double> values)

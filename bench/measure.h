@@ -8,6 +8,9 @@
 /// From here on times are those of the processor on this program, not the clock's: for a machine with other work.
 void measureProcessorTime();
 
+/// Milliseconds since some moment.
+double nowMs();
+
 /// Milliseconds that one call takes.
 double elapsedMs(const std::function<void()>& work);
 
