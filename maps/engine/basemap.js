@@ -27,7 +27,11 @@
       ['insert_at', 'remove_at', 'set_at'].forEach(name => overlays.addListener(name, () => this.showOverlays()));
     }
 
+    /** The same colours once more change nothing. */
     setColours(colours) {
+      const former = this.names.colours;
+      if (Object.keys(colours).every(part => colours[part] === former[part]))
+        return;
       this.coloured.forEach(part => {
         part.colours = colours;
       });

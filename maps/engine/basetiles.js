@@ -32,7 +32,8 @@
     onAdd: function (leaflet) {
       this.leaflet = leaflet;
       this.box = L.DomUtil.create('div', 'base-tiles', this.getPane());
-      this.update();
+      // Not at once: the page has yet to say its colours, and the program its view.
+      this.later();
     },
 
     onRemove: function () {
