@@ -71,6 +71,17 @@
         this.pending = window.requestAnimationFrame(() => this.paint());
     },
 
+    /** Another zoom: what else is told of it may change what is shown, so the painting waits for the end of the script. */
+    paintAfterScript: function () {
+      if (this.waiting)
+        return;
+      this.waiting = true;
+      Promise.resolve().then(() => {
+        this.waiting = false;
+        this.paint();
+      });
+    },
+
     /** The view in pixels of the whole world at this zoom. */
     view: function () {
       const corner = this.leaflet.containerPointToLayerPoint([0, 0]).add(this.leaflet.getPixelOrigin());
@@ -81,7 +92,11 @@
     follow: function () {
       const view = this.view();
       const area = this.area;
-      const inside = area.zoom === view.zoom && view.left >= area.left && view.top >= area.top
+      if (area.zoom !== view.zoom) {
+        this.paintAfterScript();
+        return;
+      }
+      const inside = view.left >= area.left && view.top >= area.top
         && view.left + view.width <= area.left + area.width && view.top + view.height <= area.top + area.height;
       if (inside)
         this.place();

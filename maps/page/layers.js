@@ -68,20 +68,25 @@ var WPTVfrMgr = null;
     addMarkers(list) {
       if (Array.isArray(list))
         list.forEach(marker => this.show(marker));
-      this.layer.setMap(map);
-      page.fitLooks();
-      page.fitRoses();
+      this.changed();
     }
 
     /** @param {ChartMarker} marker */
     addMarker(marker) {
-      this.addMarkers([marker]);
+      this.show(marker);
+      this.changed();
     }
 
     /** @param {ChartMarker} marker */
     show(marker) {
       if (!this.shown.has(marker))
         this.shown.set(marker, this.layer.add({ geometry: marker.position, properties: { marker: marker } }));
+    }
+
+    changed() {
+      this.layer.setMap(map);
+      page.fitLooks();
+      page.fitRoses();
     }
 
     /** @param {ChartMarker} marker */

@@ -17,7 +17,7 @@ namespace {
 /// What the page has drawn of a line (`page.route`, `page.procedure`): names and latitudes of its points.
 QString drawn(PageProbe& page, const QString& line)
 {
-    const QString script = "page.%1.layer ? page.%1.points.slice(0, page.%1.drawn).map(function (point) {"
+    const QString script = "page.%1.lines.length ? page.%1.points.slice(0, page.%1.drawn).map(function (point) {"
                            "return point.name + ' ' + point.position.lat(); }).join(', ') : ''";
     return page.evaluate(script.arg(line)).toString();
 }

@@ -1,0 +1,278 @@
+// The labels: who gets the room, where they stand, and that they stay there while the map is moved.
+#include "pagewindow.h"
+
+#include <QtTest>
+
+class TestPageLabels : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        program.reset(new FullProgramSide);
+        window.reset(new PageWindow(program.data()));
+        QVERIFY(window->load());
+        window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(9)");
+    }
+
+    void aLabelStandsRightOfItsSymbol();
+    void twoMarkersOfOnePlaceHaveLabelsOnBothSides();
+    void theLabelOfMoreImportanceHasTheRoom();
+    void thePlansLabelComesFirst();
+    void noTwoLabelsOverlap();
+    void labelsStayWhileTheMapIsPanned();
+    void labelsGiveWayToTheNamesOfTheBaseMap();
+    void aLabelTellsMoreFromNear();
+    void aTextWithoutAKindIsLabelledByItsTitle_data();
+    void aTextWithoutAKindIsLabelledByItsTitle();
+    void aLabelIsText();
+    void aRowOfSymbolsLeavesTheirOwnLabelsRoom();
+
+private:
+    QScopedPointer<ProgramSide> program;
+    QScopedPointer<PageWindow> window;
+
+    void addAirport(const QString& ident, double latitude, double longitude)
+    {
+        window->run(QString("addAPTMarker(new google.maps.LatLng(%1,%2),\"%3\",1,"
+                            "\"<font color=blue><b>Airport %3</b><font color=black><br/>FIELD<br/>x\")")
+                        .arg(latitude)
+                        .arg(longitude)
+                        .arg(ident));
+    }
+    /// Waypoints in rows around a position, so many degrees apart.
+    void addWaypoints(int rows, int columns, double step, double latitude, double longitude)
+    {
+        QStringList batch;
+        for (int row = 0; row < rows; ++row)
+            for (int column = 0; column < columns; ++column)
+                batch << QString("addWPTMarker(new google.maps.LatLng(%1,%2),\"W%3X%4-K\",1,\"x\")")
+                             .arg(latitude + (row - rows / 2) * step * 0.7)
+                             .arg(longitude + (column - columns / 2) * step)
+                             .arg(row)
+                             .arg(column);
+        batch << "addWptMgr();WPTRteMgr.addMarkers(listWptRte)";
+        window->run(batch.join(';'));
+    }
+    /// The texts of the labels that the map shows.
+    QStringList labels()
+    {
+        window->settle();
+        return window->run("Array.from(map.points.declutter.kept.keys()).map(point => point.look.label.text)")
+            .toStringList();
+    }
+    /// The labels with the side on which they stand, of the points that lie well inside the view.
+    QStringList labelsInView()
+    {
+        window->settle();
+        return window
+            ->run("var labels = []; map.points.declutter.kept.forEach((side, point) => {"
+                  "const at = map.leaflet.latLngToContainerPoint([point.geometry.lat(), point.geometry.lng()]);"
+                  "if (at.x > 60 && at.x < 740 && at.y > 30 && at.y < 570) labels.push(point.look.label.text + ' ' + "
+                  "side);"
+                  "}); labels")
+            .toStringList();
+    }
+};
+
+namespace {
+
+const char airportColour[] = "#1d3f8f";
+
+} // namespace
+
+void TestPageLabels::aLabelStandsRightOfItsSymbol()
+{
+    addAirport("LFXX", 46.5, 2.5);
+    window->run("pushAPT();");
+    window->settle();
+    const QImage image = window->view->grab().toImage();
+    const QPoint middle = window->mouse->pointOf(46.5, 2.5);
+    int right = 0;
+    int left = 0;
+    for (int y = middle.y() - 6; y <= middle.y() + 6; ++y) {
+        for (int x = 12; x < 45; ++x) {
+            right += image.pixelColor(middle.x() + x, y) == QColor(airportColour) ? 1 : 0;
+            left += image.pixelColor(middle.x() - x, y) == QColor(airportColour) ? 1 : 0;
+        }
+    }
+    QVERIFY2(right > 10, qPrintable(QString::number(right)));
+    QCOMPARE(left, 0);
+}
+
+void TestPageLabels::twoMarkersOfOnePlaceHaveLabelsOnBothSides()
+{
+    addAirport("LFXX", 46.5, 2.5);
+    addAirport("LFYY", 46.5, 2.5);
+    window->run("pushAPT();");
+    QStringList texts = labels();
+    texts.sort();
+    QCOMPARE(texts, (QStringList{"LFXX", "LFYY"}));
+}
+
+void TestPageLabels::theLabelOfMoreImportanceHasTheRoom()
+{
+    // Symbols so near to each other that hardly a label fits between them.
+    addWaypoints(15, 15, 0.03, 46.5, 2.5);
+    const int alone = labels().size();
+    addAirport("LFXX", 46.5, 2.5);
+    window->run("addVORMarker(new google.maps.LatLng(46.60000, 2.50000),\"ABC-K\",1,\"<b>VOR ABC</b>\");"
+                "addNDBMarker(new google.maps.LatLng(46.40000, 2.50000),\"DE-K\",1,\"<b>NDB DE</b>\");"
+                "pushAPT();addNavMgr();VORMgr.addMarkers(listVOR);NDBRteMgr.addMarkers(listNDBRte)");
+    const QStringList texts = labels();
+    for (const char* text : {"LFXX", "ABC", "DE"})
+        QVERIFY2(texts.contains(text), text);
+    QVERIFY(texts.size() < 15 * 15);
+    QVERIFY(texts.size() <= alone + 3);
+}
+
+void TestPageLabels::thePlansLabelComesFirst()
+{
+    for (int i = 0; i < 12; ++i)
+        addAirport(QString("LF%1").arg(10 + i), 46.5, 2.5);
+    window->run("pushAPT();");
+    QVERIFY(!labels().contains("WPT01"));
+    QVERIFY(labels().size() < 12);
+    window->run("clearFP();addPointToFp(new google.maps.LatLng(46.50010, 2.50010),\"WPT01\");pushFP();");
+    QVERIFY(labels().contains("WPT01"));
+}
+
+void TestPageLabels::noTwoLabelsOverlap()
+{
+    addWaypoints(20, 20, 0.05, 46.5, 2.5);
+    window->settle();
+    const QString overlaps =
+        window
+            ->run("var boxes = []; var write = mapEngine.writeLabels;"
+                  "mapEngine.writeLabels = (context, all, rim) => { boxes = all; write(context, all, rim); };"
+                  "map.chart.paint(); mapEngine.writeLabels = write;"
+                  "var bad = []; boxes.forEach((a, i) => boxes.slice(0, i).forEach(b => {"
+                  "if (a.x < b.x + b.text.width && b.x < a.x + a.text.width"
+                  " && a.y < b.y + b.text.height && b.y < a.y + a.text.height)"
+                  " bad.push(a.text.lines[0] + ' ' + b.text.lines[0]); })); boxes.length + ':' + bad.join()")
+            .toString();
+    QVERIFY2(overlaps.endsWith(':') && overlaps.section(':', 0, 0).toInt() > 20, qPrintable(overlaps));
+}
+
+void TestPageLabels::labelsStayWhileTheMapIsPanned()
+{
+    addWaypoints(40, 40, 0.1, 46.5, 2.5);
+    QStringList before = labelsInView();
+    QVERIFY(before.size() > 20);
+    // Far enough for several new paintings, to a side and back.
+    for (int i = 1; i <= 24; ++i) {
+        const int away = i <= 12 ? i : 24 - i;
+        window->run(
+            QString("map.setCenter(new google.maps.LatLng(%1,%2))").arg(46.5 + away * 0.03).arg(2.5 + away * 0.07));
+        window->settle();
+        const QStringList now = window
+                                    ->run("var labels = []; map.points.declutter.kept.forEach((side, point) =>"
+                                          "labels.push(point.look.label.text + ' ' + side)); labels")
+                                    .toStringList();
+        const QStringList inView = labelsInView();
+        // What stood in the view stands there still, on the same side, if it is in the view at all.
+        const QString gone =
+            window
+                ->run(QString("var titles = %1; listWptRte.filter(marker => {"
+                              "const at = map.leaflet.latLngToContainerPoint("
+                              "[marker.position.lat(), marker.position.lng()]);"
+                              "return at.x > 60 && at.x < 740 && at.y > 30 && at.y < 570"
+                              " && titles.indexOf(marker.title.split('-')[0]) >= 0;"
+                              "}).map(marker => marker.title.split('-')[0]).join(' ')")
+                          .arg("[\"" + QStringList(before).replaceInStrings(QRegExp(" .*"), "").join("\",\"") + "\"]"))
+                .toString();
+        const QSet<QString> still(now.begin(), now.end());
+        for (const QString& label : qAsConst(before))
+            if (gone.split(' ').contains(label.section(' ', 0, 0)))
+                QVERIFY2(still.contains(label), qPrintable(QString("step %1: %2").arg(i).arg(label)));
+        before = inView;
+    }
+}
+
+void TestPageLabels::labelsGiveWayToTheNamesOfTheBaseMap()
+{
+    window->run("map.setZoom(7)");
+    window->settle();
+    // An airport whose label would lie on the name of a town if it stood right of it.
+    const QString place =
+        window
+            ->run("var scale = 256 * 128; var town = map.base.names.placesAt(7, scale).find(each =>"
+                  " Math.abs(each.left / scale - 0.507) < 0.005 && Math.abs(each.top / scale - 0.353) < 0.005);"
+                  "var x = town.left - 14; var y = (town.top + town.bottom) / 2;"
+                  "mapEngine.latitudeOf(y / scale) + ',' + mapEngine.longitudeOf(x / scale)")
+            .toString();
+    addAirport("LFXX", place.section(',', 0, 0).toDouble(), place.section(',', 1).toDouble());
+    window->run(QString("pushAPT();map.setCenter(new google.maps.LatLng(%1))").arg(place));
+    QCOMPARE(labels(), QStringList{"LFXX"});
+    QVERIFY(window->run("Array.from(map.points.declutter.kept.values())[0]").toInt() != 0);
+}
+
+void TestPageLabels::aLabelTellsMoreFromNear()
+{
+    addAirport("LFXX", 46.5, 2.5);
+    window->run("addVORMarker(new google.maps.LatLng(46.60000, 2.30000),\"ABC-K\",1,"
+                "\"<font color=blue><b>VOR ABC</b><font color=black><br/>BEACON<br/>113.7 Mhz<br/>x\");"
+                "addWPTMarker(new google.maps.LatLng(46.40000, 2.30000),\"POINT-K\",1,"
+                "\"<font color=blue><b>Waypoint POINT</b><font color=black><br/>POINT (1)<br/>x\");"
+                "pushAPT();addNavMgr();addWptMgr();VORMgr.addMarkers(listVOR);WPTRteMgr.addMarkers(listWptRte)");
+    QStringList texts = labels();
+    texts.sort();
+    QCOMPARE(texts, (QStringList{"ABC", "LFXX", "POINT"}));
+    window->run("map.setZoom(10)");
+    texts = labels();
+    texts.sort();
+    QCOMPARE(texts, (QStringList{"ABC 113.7\nBEACON", "LFXX\nFIELD", "POINT"}));
+}
+
+void TestPageLabels::aTextWithoutAKindIsLabelledByItsTitle_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("html");
+    QTest::addColumn<QString>("label");
+    QTest::newRow("empty") << "POINT-KEYFR"
+                           << ""
+                           << "POINT";
+    QTest::newRow("one word") << "POINT-KEYFR"
+                              << "<b>Waypoint</b>"
+                              << "POINT";
+    QTest::newRow("kind without identifier") << "POINT-KEYFR"
+                                             << "<b>Waypoint </b>"
+                                             << "POINT";
+    QTest::newRow("blanks in the identifier") << "A B-KEYFR"
+                                              << "<b>Waypoint A B</b><br/>x"
+                                              << "A B";
+}
+
+void TestPageLabels::aTextWithoutAKindIsLabelledByItsTitle()
+{
+    QFETCH(QString, title);
+    QFETCH(QString, html);
+    QFETCH(QString, label);
+    window->run(QString("addWPTMarker(new google.maps.LatLng(46.50000, 2.50000),\"%1\",1,\"%2\");addWptMgr();"
+                        "WPTRteMgr.addMarkers(listWptRte)")
+                    .arg(title, html));
+    QCOMPARE(labels(), QStringList{label});
+    window->run("map.setZoom(13)");
+    QCOMPARE(labels().first().section('\n', 0, 0), label);
+    QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageLabels::aLabelIsText()
+{
+    addAirport("<i>X</i>", 46.5, 2.5);
+    window->run("pushAPT();");
+    QCOMPARE(labels(), QStringList{"X"});
+    QCOMPARE(window->run("document.querySelectorAll('i').length").toInt(), 0);
+}
+
+void TestPageLabels::aRowOfSymbolsLeavesTheirOwnLabelsRoom()
+{
+    // Apart enough for a label between any two of them.
+    addWaypoints(1, 5, 0.3, 46.5, 2.5);
+    QCOMPARE(labels().size(), 5);
+    QCOMPARE(window->run("Array.from(map.points.declutter.kept.values()).join()").toString(), QString("0,0,0,0,0"));
+}
+
+QTEST_MAIN(TestPageLabels)
+#include "tst_pagelabels.moc"
