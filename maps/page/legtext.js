@@ -17,8 +17,11 @@
   const arrowLeg = 34;
   const arrow = [[7, 0], [-5, 5], [-2.5, 0], [-5, -5]];
 
-  /** Where on its leg a text may stand, the best first. */
-  const parts = [0.5, 0.38, 0.62, 0.25, 0.75];
+  /** Where else on its leg a text may stand than in the middle, the better first. */
+  const parts = [0.38, 0.62, 0.25, 0.75];
+
+  /** So many legs have their arrow or text at a time. */
+  const mostShown = 150;
 
   const ruler = document.createElement('canvas').getContext('2d');
 
@@ -58,8 +61,37 @@
     return discs;
   }
 
-  /** @type {(a: Spot, b: Spot) => boolean} */
-  const touch = (a, b) => Math.abs(a.x - b.x) < textHeight && Math.abs(a.y - b.y) < textHeight;
+  /** Keeps discs apart, by cells as large as a disc. */
+  class Room {
+    constructor() {
+      /** @type {Map<string, Spot[]>} */
+      this.cells = new Map();
+    }
+
+    /** @param {Spot[]} discs */
+    take(discs) {
+      discs.forEach(disc => {
+        const key = `${Math.floor(disc.x / textHeight)},${Math.floor(disc.y / textHeight)}`;
+        if (!this.cells.has(key))
+          this.cells.set(key, []);
+        this.cells.get(key).push(disc);
+      });
+    }
+
+    /** Whether nothing stands where a disc would. @param {Spot} disc */
+    isFree(disc) {
+      const column = Math.floor(disc.x / textHeight);
+      const row = Math.floor(disc.y / textHeight);
+      for (let i = column - 1; i <= column + 1; ++i) {
+        for (let k = row - 1; k <= row + 1; ++k) {
+          const there = this.cells.get(`${i},${k}`) || [];
+          if (there.some(other => Math.abs(disc.x - other.x) < textHeight && Math.abs(disc.y - other.y) < textHeight))
+            return false;
+        }
+      }
+      return true;
+    }
+  }
 
   class LegTexts extends google.maps.OverlayView {
     /** @param {function(): {text: string, rim: string}} colours asked for with each drawing */
@@ -70,8 +102,7 @@
       this.legs = [];
       /** @type {Array<{position: Place, width: number}>} */
       this.points = [];
-      /** What must be kept free. @type {Spot[]} */
-      this.taken = [];
+      this.room = new Room();
       /** @type {?HTMLElement} */
       this.element = null;
       this.pending = 0;
@@ -85,8 +116,9 @@
       this.points = points.map(point =>
         ({ position: point.position, width: widthOf(point.name, nameFont) }));
       this.legs = points.slice(1).map((point, i) => legOf(points[i], point)).filter(leg => leg.distance > 0);
-      this.setMap(this.legs.length ? map : null);
+      // Draws by itself when it comes onto the map.
       this.refresh();
+      this.setMap(this.legs.length ? map : null);
     }
 
     onAdd() {
@@ -103,7 +135,6 @@
     refresh() {
       if (this.element && !this.pending)
         this.pending = window.requestAnimationFrame(() => {
-          this.pending = 0;
           this.draw();
         });
     }
@@ -124,6 +155,8 @@
     }
 
     draw() {
+      window.cancelAnimationFrame(this.pending);
+      this.pending = 0;
       if (!this.element)
         return;
       this.element.innerHTML = '';
@@ -131,20 +164,22 @@
       this.projection = this.getProjection();
       if (!this.projection)
         return;
-      this.taken = this.takenByPoints();
-      this.legs.forEach(leg => this.drawLeg(leg));
+      this.keepPointsFree();
+      const shown = this.legs.map(leg => ({ leg: leg, spot: this.firstSpot(leg) })).filter(entry => entry.spot);
+      // Of a heap of legs in one view the longest.
+      if (shown.length > mostShown)
+        shown.sort((a, b) => b.spot.length - a.spot.length);
+      shown.slice(0, mostShown).forEach(entry => this.drawLeg(entry.leg, entry.spot));
     }
 
-    /** What the points of the track and their names, right of them, cover. */
-    takenByPoints() {
-      /** @type {Spot[]} */
-      const discs = [];
+    /** The points of the track and their names, right of them, are there already. */
+    keepPointsFree() {
+      this.room = new Room();
       this.points.forEach(point => {
         const at = this.projection.fromLatLngToDivPixel(point.position);
-        discs.push(at);
-        discs.push(...discsAlong(at.x + 8 + point.width / 2, at.y, point.width, 0));
+        this.room.take([at]);
+        this.room.take(discsAlong(at.x + 8 + point.width / 2, at.y, point.width, 0));
       });
-      return discs;
     }
 
     /** @param {number} latitude */
@@ -152,30 +187,25 @@
       return this.projection.getWorldWidth() / milesAround / Math.max(0.02, Math.cos(latitude * radians));
     }
 
-    /** @param {Leg} leg */
-    drawLeg(leg) {
-      const spots = this.spotsOf(leg);
-      const length = spots.length ? spots[0].length : 0;
-      if (length < arrowLeg)
-        return;
-      const place = length < leg.width + 2 * textMargin ? null : this.freePlace(leg, spots);
-      this.element.appendChild(this.picture(place || spots[0], place && leg.text, leg.width));
+    /** @type {(leg: Leg, first: LegSpot) => void} */
+    drawLeg(leg, first) {
+      const place = first.length < leg.width + 2 * textMargin ? null : this.freePlace(leg, first);
+      this.element.appendChild(this.picture(place || first, place && leg.text, leg.width));
     }
 
-    /** The spots on a leg that lie in the view, the best first. @type {(leg: Leg) => LegSpot[]} */
-    spotsOf(leg) {
-      const middle = page.pointAlong(leg.from, leg.to, 0.5);
-      const length = leg.distance * this.pixelsPerMile(middle.lat());
+    /** The best spot of a leg in the view; null when there is none or the leg is too short. @type {(leg: Leg) => ?LegSpot} */
+    firstSpot(leg) {
+      const length = leg.distance * this.pixelsPerMile(page.midPoint(leg.from, leg.to).lat());
       if (length < arrowLeg)
-        return [];
-      const spots = parts.map(part => this.spotAt(leg, part, length)).filter(spot => this.isInView(spot));
-      if (spots.length)
-        return spots;
-      // Of a leg that reaches far beyond the view: the point nearest to the view's middle.
+        return null;
+      const middle = this.spotAt(leg, 0.5, length);
+      if (this.isInView(middle))
+        return middle;
+      // Of a leg that reaches beyond the view: the point nearest to the view's middle.
       const least = Math.min(0.5, (leg.width / 2 + textMargin) / length);
       const part = page.partAlong(leg.from, leg.to, this.laidOut);
       const spot = this.spotAt(leg, Math.max(least, Math.min(1 - least, part)), length);
-      return this.isInView(spot) ? [spot] : [];
+      return this.isInView(spot) ? spot : null;
     }
 
     /** @type {(leg: Leg, part: number, length: number) => LegSpot} */
@@ -203,17 +233,20 @@
 
     /**
      * The first spot with room for the text above or below the line; null when there is none.
-     * @type {(leg: Leg, spots: LegSpot[]) => ?LegSpot}
+     * @type {(leg: Leg, first: LegSpot) => ?LegSpot}
      */
-    freePlace(leg, spots) {
-      for (const spot of spots) {
+    freePlace(leg, first) {
+      for (let i = -1; i < parts.length; ++i) {
+        const spot = i < 0 ? first : this.spotAt(leg, parts[i], first.length);
+        if (!this.isInView(spot))
+          continue;
         const upright = uprightOf(spot.angle);
         for (const offset of [-textOffset, textOffset]) {
           const x = spot.x - offset * Math.sin(upright);
           const y = spot.y + offset * Math.cos(upright);
           const discs = discsAlong(x, y, leg.width, upright);
-          if (!discs.some(disc => this.taken.some(other => touch(disc, other)))) {
-            this.taken.push(...discs);
+          if (discs.every(disc => this.room.isFree(disc))) {
+            this.room.take(discs);
             return Object.assign({ offset: offset }, spot);
           }
         }
