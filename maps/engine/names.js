@@ -9,21 +9,18 @@
 
   /** Between two names, pixels. */
   const gap = 4;
-  const rim = 2.5;
   /** Half the height of the letters, and what a picture has around them for their rim and their slant. */
   const half = 8;
   const margin = 4;
 
   /** Letters of each kind; countries are spaced capitals. The colours are parts of the base colours. */
   const kinds = {
-    country: { font: '10px', space: 2.5, capitals: true, colour: 'countryText', rim: 'placeRim' },
-    sea: { font: 'italic 11px', space: 0.6, colour: 'seaText', rim: 'seaRim' },
+    country: { size: '10px', space: 2.5, capitals: true, colour: 'countryText', rim: 'placeRim' },
+    sea: { size: '11px', style: 'italic', space: 0.6, colour: 'seaText', rim: 'seaRim' },
     city: { space: 0, colour: 'placeText', rim: 'placeRim' },
   };
   /** Pixels of a city's letters and the radius of its dot, by rank. */
   const cities = [null, [12, 2.2], [11, 2], [10.5, 1.8], [10, 1.6], [10, 1.5]];
-
-  const measure = document.createElement('canvas').getContext('2d');
 
   /** Boxes of pixels that no other may touch, found by squares of a hundred pixels. */
   class Room {
@@ -65,23 +62,21 @@
       this.x = engine.unitX(row[4]);
       this.y = engine.unitY(row[3]);
       this.text = french ? row[6] : row[5];
-      this.dot = 0;
-      this.font = kind.font;
-      if (row[7]) {
-        this.font = `${cities[row[7]][0]}px`;
-        this.dot = cities[row[7]][1];
-      }
+      this.dot = row[7] ? cities[row[7]][1] : 0;
+      this.size = row[7] ? `${cities[row[7]][0]}px` : kind.size;
       if (kind.capitals)
         this.text = this.text.toUpperCase();
+      this.font = null;
       this.width = 0;
       this.picture = null;
     }
 
     /** The pixels where the letters begin, of which the first choice comes first, and the box of the whole. */
     places(scale) {
-      if (!this.width) {
-        measure.font = `${this.font} ${family}`;
-        this.width = measure.measureText(this.text).width + this.kind.space * (this.text.length - 1);
+      if (!this.font) {
+        const look = { text: '', fontSize: this.size, fontWeight: this.kind.style, fontFamily: family };
+        this.font = engine.labelText(look).font;
+        this.width = this.font.widthOf(this.text) + this.kind.space * (this.text.length - 1);
       }
       const x = Math.round(this.x * scale);
       const y = Math.round(this.y * scale);
@@ -157,7 +152,7 @@
       }
     }
 
-    /** The letters with their rim, drawn once for a palette: outlines of letters take the time of a hundred copies. */
+    /** The letters with their rim, drawn once for a palette. */
     pictureOf(name) {
       if (name.picture && name.picture.colours === this.colours)
         return name.picture;
@@ -178,18 +173,17 @@
     }
 
     draw(context, name) {
-      context.font = `${name.font} ${family}`;
-      context.textBaseline = 'middle';
-      context.lineJoin = 'round';
-      if (this.colours[name.kind.rim]) {
+      const y = half + margin;
+      const rim = this.colours[name.kind.rim];
+      if (rim) {
         context.globalAlpha = 0.8;
-        context.strokeStyle = this.colours[name.kind.rim];
-        context.lineWidth = rim;
-        this.letters(name, (text, x) => context.strokeText(text, x, half + margin));
+        this.letters(name, (text, x) => name.font.drawRim(context, text, x, y, rim));
         context.globalAlpha = 1;
       }
+      context.font = name.font.name;
+      context.textBaseline = 'middle';
       context.fillStyle = this.colours[name.kind.colour];
-      this.letters(name, (text, x) => context.fillText(text, x, half + margin));
+      this.letters(name, (text, x) => context.fillText(text, x, y));
     }
 
     /** A canvas knows no space between letters: spaced names are written one by one. */
@@ -199,10 +193,9 @@
         return;
       }
       let at = margin;
-      measure.font = `${name.font} ${family}`;
       Array.from(name.text).forEach(letter => {
         write(letter, at);
-        at += measure.measureText(letter).width + name.kind.space;
+        at += name.font.widthOf(letter) + name.kind.space;
       });
     }
   }
