@@ -12,8 +12,14 @@
   /** How far beyond the canvas a line is still painted, pixels: wider than any line. */
   const edge = 60;
 
+  /** An opaque line is painted in paths of so many pieces: the canvas takes many short paths better than a long one. */
+  const pathPieces = 12;
+
   /** Straight pieces of one piece of a great circle at the most. */
   const mostPieces = 500;
+
+  /** Between the base map and the chart; the sheet says where. */
+  const groundPane = 'ground';
 
   class Lines {
     constructor() {
@@ -118,26 +124,32 @@
       context.strokeStyle = line.strokeColor;
       context.lineWidth = line.strokeWeight;
       context.lineJoin = context.lineCap = 'round';
-      line.geometry.runs.forEach(run => this.strokeRun(frame, run, line.geometry.geodesic));
+      // Where paths meet a line that shines through would be seen twice.
+      const most = line.strokeOpacity < 1 ? Infinity : pathPieces;
+      line.geometry.runs.forEach(run => this.strokeRun(frame, run, line.geometry.geodesic, most));
       context.globalAlpha = 1;
     }
 
-    strokeRun(frame, run, geodesic) {
+    /** @param {number} most how many pieces a path takes */
+    strokeRun(frame, run, geodesic, most) {
       const context = frame.context;
       let endX = NaN;
       let endY = NaN;
-      let any = false;
+      let pieces = 0;
       emitRun(frame, run, geodesic, (x1, y1, x2, y2) => {
-        if (!any)
+        if (pieces === 0)
           context.beginPath();
-        any = true;
-        if (x1 !== endX || y1 !== endY)
+        if (pieces === 0 || x1 !== endX || y1 !== endY)
           context.moveTo(x1, y1);
         context.lineTo(x2, y2);
         endX = x2;
         endY = y2;
+        if (++pieces < most)
+          return;
+        context.stroke();
+        pieces = 0;
       });
-      if (any)
+      if (pieces > 0)
         context.stroke();
     }
   }
@@ -282,7 +294,8 @@
   class Ground {
     constructor(leaflet) {
       this.lines = new Lines();
-      this.canvas = new engine.ChartCanvas('tilePane', [this.lines]);
+      leaflet.createPane(groundPane);
+      this.canvas = new engine.ChartCanvas(groundPane, [this.lines]);
       this.canvas.addTo(leaflet);
       this.growing = 0;
     }

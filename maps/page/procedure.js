@@ -20,7 +20,7 @@
     zIndex: 55,
     point: { path: 'M -3.5 -3.5 L 3.5 -3.5 L 3.5 3.5 L -3.5 3.5 Z', weight: 1.6 },
     lines: (colour, fill) => [
-      { strokeColor: fill, strokeOpacity: 0.8, strokeWeight: 5.5 },
+      { strokeColor: fill, strokeOpacity: 1, strokeWeight: 5 },
       {
         strokeOpacity: 0,
         icons: [

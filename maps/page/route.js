@@ -7,7 +7,7 @@
     zIndex: 60,
     legs: true,
     lines: (colour, fill) => [
-      { strokeColor: fill, strokeOpacity: 0.8, strokeWeight: 6 },
+      { strokeColor: fill, strokeOpacity: 1, strokeWeight: 5.5 },
       { strokeColor: colour, strokeOpacity: 1, strokeWeight: 3 },
     ],
   });
