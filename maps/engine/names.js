@@ -107,16 +107,18 @@
       this.all = (data || []).map(row => new Name(row, french));
       this.colours = engine.baseColours();
       this.zoom = NaN;
+      this.placedIn = null;
       this.placed = [];
     }
 
     placesAt(zoom, scale) {
-      if (zoom === this.zoom)
+      if (zoom === this.zoom && this.colours === this.placedIn)
         return this.placed;
       const room = new Room();
       this.zoom = zoom;
+      this.placedIn = this.colours;
       this.placed = [];
-      this.all.filter(name => zoom >= name.from && zoom < name.to).forEach(name => {
+      this.all.filter(name => zoom >= name.from && zoom < name.to && this.colours[name.kind.colour]).forEach(name => {
         const place = name.places(scale).find(candidate => room.isFree(candidate));
         if (place) {
           room.take(place);
@@ -132,7 +134,7 @@
         const left = frame.left - world * frame.scale;
         all.forEach(place => {
           if (place.right > left && place.left < left + frame.width && place.bottom > frame.top
-            && place.top < frame.top + frame.height && this.colours[place.name.kind.colour])
+            && place.top < frame.top + frame.height)
             this.write(frame.context, place, left, frame.top);
         });
       }

@@ -27,6 +27,8 @@
   button.addEventListener('click', () => page.setPalette(offers[page.palette.name].next));
   map.controls[google.maps.ControlPosition.TOP_RIGHT].push(button);
 
+  const off = [{ visibility: 'off' }];
+
   /**
    * In the map service's own words for the things of a map.
    * @type {(palette: Palette) => google.maps.MapTypeStyle[]}
@@ -41,15 +43,25 @@
     { featureType: 'administrative', elementType: 'labels.text.fill', stylers: [{ color: palette.placeText }] },
     { featureType: 'administrative', elementType: 'labels.text.stroke', stylers: [{ color: palette.placeRim }] },
     { featureType: 'administrative.country', elementType: 'labels.text.fill', stylers: [{ color: palette.countryText }] },
-    { featureType: 'poi', stylers: [{ visibility: 'off' }] },
-    { featureType: 'road', stylers: [{ visibility: 'off' }] },
-    { featureType: 'transit', stylers: [{ visibility: 'off' }] },
+    { featureType: 'poi', stylers: off },
+    { featureType: 'road', stylers: off },
+    { featureType: 'transit', stylers: off },
+  ];
+
+  /**
+   * Under a raster map, which has its own, names and lines would shine through by night.
+   * @type {google.maps.MapTypeStyle[]}
+   */
+  const underRaster = [
+    { featureType: 'water', elementType: 'geometry.stroke', stylers: off },
+    { featureType: 'administrative', elementType: 'geometry.stroke', stylers: off },
+    { featureType: 'administrative', elementType: 'labels.text.fill', stylers: off },
   ];
 
   page.onPalette(palette => {
     const offer = offers[palette.name];
     shape.setAttribute('d', offer.path);
     button.title = pageWords[offer.word];
-    map.setOptions({ styles: stylesOf(palette) });
+    map.setOptions({ styles: stylesOf(palette).concat(mapService.tileAddress ? underRaster : []) });
   });
 })();

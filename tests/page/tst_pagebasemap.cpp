@@ -23,6 +23,7 @@ private slots:
     }
 
     void citiesAreNamedByZoom();
+    void theListsOfNamesAreWhole();
     void namesDoNotOverlap();
     void namesComeInThePagesLanguage();
     void aNameStaysWhileTheMapMoves();
@@ -90,6 +91,28 @@ void TestPageBaseMap::citiesAreNamedByZoom()
     QVERIFY(!names().contains("Vichy"));
     look(46.8, 2.4, 8);
     QVERIFY(names().contains("Vichy"));
+}
+
+void TestPageBaseMap::theListsOfNamesAreWhole()
+{
+    // Kind, first and last zoom, latitude, longitude, English and French name, rank.
+    const QString wrong = "worldNames.filter(n => ['city', 'country', 'sea'].indexOf(n[0]) < 0 || !(n[1] < n[2])"
+                          " || !(Math.abs(n[3]) < 85) || !(Math.abs(n[4]) <= 180) || !n[5].trim() || !n[6].trim()"
+                          " || (n[0] === 'city') !== (n[7] >= 1 && n[7] <= 5)).map(n => n.join())";
+    QCOMPARE(window->run(wrong).toStringList(), QStringList());
+    const QString doubled = "var seen = {}; worldNames.map(n => n.slice(3, 6).join()).filter(key => {"
+                            "  const twice = seen[key]; seen[key] = true; return twice; })";
+    QCOMPARE(window->run(doubled).toStringList(), QStringList());
+    const auto count = [this](const QString& kind) {
+        return window->run("worldNames.filter(n => n[0] === '" + kind + "').length").toInt();
+    };
+    QVERIFY(count("city") > 700);
+    QVERIFY(count("country") > 120);
+    QVERIFY(count("sea") > 100);
+    const QStringList countries =
+        window->run("worldNames.filter(n => n[0] === 'country').map(n => n[6])").toStringList();
+    for (const char* name : {"France", "Allemagne", "États-Unis", "Russie", "RD Congo", "Nouvelle-Zélande"})
+        QVERIFY2(countries.contains(name), name);
 }
 
 void TestPageBaseMap::namesDoNotOverlap()

@@ -68,6 +68,7 @@ private slots:
     void withoutPicturesTheBaseMapShows();
     void theGraticuleLiesOverThePictures();
     void byNightTheyAreDimmed();
+    void noNamesShineThrough();
 
 private:
     PageCopy pages;
@@ -166,6 +167,19 @@ void TestPageTiles::byNightTheyAreDimmed()
     QTRY_VERIFY_WITH_TIMEOUT(window->colourAt(46.73, 2.27).lightness() < 150, 20000);
     window->run("page.setPalette('day')");
     QTRY_COMPARE_WITH_TIMEOUT(window->colourAt(46.73, 2.27), QColor(Qt::white), 20000);
+}
+
+void TestPageTiles::noNamesShineThrough()
+{
+    TileServer server(picture(Qt::white));
+    open({{"tileAddress", server.address()}}, 46.73, 2.27, 6);
+    window->run("page.setPalette('night')");
+    window->settle();
+    const QString cities = "map.base.names.placed.map(p => p.name.text).filter(n => n === 'Paris' || n === 'FRANCE')";
+    QCOMPARE(window->run(cities).toStringList(), QStringList());
+    window->run("map.setOptions({styles: null})");
+    window->settle();
+    QCOMPARE(window->run(cities).toStringList().size(), 2);
 }
 
 QTEST_MAIN(TestPageTiles)
