@@ -31,9 +31,10 @@
 
   /** One thing for each press: menu, pop-up, measure. The menu itself takes its keys before this is asked. */
   function escape() {
-    if (page.popupMarker())
+    if (page.popupMarker()) {
       page.closePopup();
-    else if (page.isMeasuring())
+      page.choose(null);
+    } else if (page.isMeasuring())
       page.endMeasure();
     else if (page.hasMeasure())
       page.clearMeasure();

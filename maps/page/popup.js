@@ -77,5 +77,6 @@
   google.maps.event.addListener(map, 'click', () => page.closePopup());
   google.maps.event.addListener(infoWindow, 'closeclick', () => {
     shown = null;
+    page.choose(null);
   });
 })();

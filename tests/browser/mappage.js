@@ -132,11 +132,11 @@ class MapPage {
   async menuAt(latitude, longitude) {
     await this.click(latitude, longitude, { button: 'right' });
     await this.tab.waitForSelector('#menu', { state: 'visible' });
-    return this.tab.$$eval('.menu-entry', all => all.map(entry => entry.textContent));
+    return this.tab.$$eval('.menu-label', all => all.map(entry => entry.textContent));
   }
 
   choose(text) {
-    return this.tab.click(`.menu-entry:text-is("${text}")`);
+    return this.tab.click(`.menu-label:text-is("${text}")`);
   }
 
   /** What shows around a position, as the bytes of a picture. */

@@ -31,6 +31,7 @@ private slots:
     void theMapOfASingleObjectIsASubmenu();
     void aCrowdIsCounted();
     void aHiddenLayerIsNotOffered();
+    void aPointOfThePlanIsOfferedWithoutItsLayer();
     void aGreyedEntryDoesNothing();
     void anEntryWithoutAKeyInItsTitleIsGreyed();
     void theArrowsWalkTheMenu();
@@ -236,6 +237,19 @@ void TestPageMenu::aHiddenLayerIsNotOffered()
     window->run("WPTRteMgr.clearMarkers()");
     QCOMPARE(menuAt(*window, vorAndWaypoint).value(0), "Ajouter au plan de vol");
     QCOMPARE(texts(*window, "#menu .menu-head"), QStringList{"VOR-DME CGO"});
+}
+
+void TestPageMenu::aPointOfThePlanIsOfferedWithoutItsLayer()
+{
+    window->run("NDBTermMgr.clearMarkers();clearFP();addPointToFp(new google.maps.LatLng(46.40000,2.60000),\"MT\");"
+                "addPointToFp(new google.maps.LatLng(46.00000,2.60000),\"WPT001\");pushFP();");
+    window->settle();
+    QVERIFY(menuAt(*window, ndb).contains("Effacer le navaid…"));
+    QCOMPARE(texts(*window, "#menu .menu-head"), QStringList{"NDB terminal MT"});
+    window->closeMenu();
+    window->run("clearFP();pushFP();");
+    window->settle();
+    QVERIFY(!menuAt(*window, ndb).contains("Effacer le navaid…"));
 }
 
 void TestPageMenu::aGreyedEntryDoesNothing()
