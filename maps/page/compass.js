@@ -84,18 +84,22 @@
   function apart(markers, zoom) {
     const pixelsPerDegree = 256 * Math.pow(2, zoom) / 360;
     const least = 2 * radius + 8;
-    /** @type {Place[]} */
-    const kept = [];
-    /** @param {Place} place */
-    const isFree = place => kept.every(other => {
-      const north = (place.lat() - other.lat()) / Math.cos(place.lat() * Math.PI / 180);
-      return Math.hypot(north, place.lng() - other.lng()) * pixelsPerDegree >= least;
+    // By rows of latitude as high as a rose at the equator, where they are highest: only the next ones need a look.
+    const rowDegrees = least / pixelsPerDegree;
+    /** @type {Map<number, Place[]>} */
+    const rows = new Map();
+    /** @type {(a: Place, b: Place) => boolean} */
+    const areApart = (a, b) => {
+      const north = (a.lat() - b.lat()) / Math.max(0.01, Math.cos(a.lat() * Math.PI / 180));
+      return Math.hypot(north, a.lng() - b.lng()) * pixelsPerDegree >= least;
+    };
+    return markers.map(marker => marker.position).filter(place => {
+      const row = Math.floor(place.lat() / rowDegrees);
+      const isFree = [row - 1, row, row + 1].every(near => (rows.get(near) || []).every(other => areApart(place, other)));
+      if (isFree)
+        rows.set(row, (rows.get(row) || []).concat(place));
+      return isFree;
     });
-    markers.forEach(marker => {
-      if (isFree(marker.position))
-        kept.push(marker.position);
-    });
-    return kept;
   }
 
   let drawn = '';

@@ -10,10 +10,10 @@
    * From which zoom on a symbol is a dot, a small sign, drawn in full, has its identifier beside it, and its name too. So
    * many markers of the kind leave the map as open as it should be; four times as many want a zoom more.
    */
-  const navaid = { dot: 3.5, sign: 4.6, symbol: 6.6, ident: 5.8, name: 10, many: 250 };
+  const navaid = { dot: 3.5, sign: 5.4, symbol: 6.6, ident: 5.8, name: 10, many: 250 };
   /** @type {Record<string, Stage>} */
   const stages = {
-    airport: { dot: 3, sign: 5, symbol: 6.8, ident: 6.8, name: 10, many: 250 },
+    airport: { dot: 3, sign: 5.4, symbol: 6.8, ident: 6.8, name: 10, many: 250 },
     vor: navaid,
     vorDme: navaid,
     vortac: navaid,

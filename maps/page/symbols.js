@@ -29,7 +29,7 @@
     return dots.join(' ');
   }
 
-  const dot = circle(0, 0, 0.6);
+  const point = circle(0, 0, 0.6);
   const nearRing = `${circle(0, 0, 1.5)} ${dotRing(4.4, 10)}`;
   const ticks = lines([0, -5.2, 0, -8.4], [0, 5.2, 0, 8.4], [-5.2, 0, -8.4, 0], [5.2, 0, 8.4, 0]);
   const aerodrome = `${circle(0, 0, 5.2)} ${ticks}`;
@@ -53,11 +53,11 @@
    */
   const designs = {
     airport: { path: aerodrome, stroke: 'airport', weight: 1.7, fill: 'airportFill', zIndex: 40 },
-    vor: { path: `${hexagon} ${dot}`, stroke: 'navaid', weight: 1.5, fill: 'navaidFill', zIndex: 30 },
-    vorDme: { path: `${box(7.6, 6.8)} ${hexagon} ${dot}`, stroke: 'navaid', weight: 1.4, fill: 'navaidFill', zIndex: 31 },
-    vortac: { path: `${hexagon} ${blocks} ${dot}`, stroke: 'navaid', weight: 1.4, fill: 'navaidFill', zIndex: 31 },
-    tacan: { path: `${threeArms} ${dot}`, stroke: 'navaid', weight: 1.4, fill: 'navaidFill', zIndex: 29 },
-    dme: { path: `${box(5.6, 5.6)} ${dot}`, stroke: 'navaid', weight: 1.5, fill: 'navaidFill', zIndex: 28 },
+    vor: { path: `${hexagon} ${point}`, stroke: 'navaid', weight: 1.5, fill: 'navaidFill', zIndex: 30 },
+    vorDme: { path: `${box(7.6, 6.8)} ${hexagon} ${point}`, stroke: 'navaid', weight: 1.4, fill: 'navaidFill', zIndex: 31 },
+    vortac: { path: `${hexagon} ${blocks} ${point}`, stroke: 'navaid', weight: 1.4, fill: 'navaidFill', zIndex: 31 },
+    tacan: { path: `${threeArms} ${point}`, stroke: 'navaid', weight: 1.4, fill: 'navaidFill', zIndex: 29 },
+    dme: { path: `${box(5.6, 5.6)} ${point}`, stroke: 'navaid', weight: 1.5, fill: 'navaidFill', zIndex: 28 },
     dmeNdb: { path: box(9.4, 9.4), stroke: 'navaid', weight: 1.4, zIndex: 28 },
     ndbRoute: { path: `${nearRing} ${dotRing(7.2, 16)}`, stroke: 'ndb', weight: 1, fill: 'ndb', zIndex: 25 },
     ndbTerminal: { path: nearRing, stroke: 'ndb', weight: 1, fill: 'ndb', zIndex: 24 },
@@ -82,8 +82,15 @@
     airport: { path: circle(0, 0, 2.6), weight: 1.4, isOpen: true },
     navaid: { path: smallHexagon, weight: 0.8, isOpen: false },
   };
-  /** @type {Record<string, number>} */
-  const dots = { airport: 1.3, navaid: 1.7, ndb: 1.3, waypoint: 1, waypointVfr: 1, waypointTerminal: 1 };
+  /** @type {Record<string, {radius: number, opacity: number}>} */
+  const dots = {
+    airport: { radius: 1.5, opacity: 1 },
+    navaid: { radius: 1.8, opacity: 1 },
+    ndb: { radius: 1.3, opacity: 0.8 },
+    waypoint: { radius: 1, opacity: 0.7 },
+    waypointVfr: { radius: 1, opacity: 0.7 },
+    waypointTerminal: { radius: 1, opacity: 0.7 },
+  };
 
   /**
    * A `google.maps.Symbol`.
@@ -105,7 +112,8 @@
   const forms = {
     dot: design => {
       const colour = page.palette[design.stroke];
-      return page.symbol(circle(0, 0, dots[design.stroke]), colour, 0, colour, { fillOpacity: 0.7 });
+      const dot = dots[design.stroke];
+      return page.symbol(circle(0, 0, dot.radius), colour, 0, colour, { fillOpacity: dot.opacity });
     },
     sign: (design, scale, path) => {
       const sign = signs[design.stroke];

@@ -118,7 +118,7 @@ void TestPageFeed::titlesAreTextAsSent()
     window->run("addWptMgr();WPTRteMgr.addMarkers(listWptRte)");
     window->settle();
     QCOMPARE(window->menuAt(46.7, 2.3).isEmpty(), false);
-    QCOMPARE(window->run("document.querySelector('.menu-title').textContent").toString(), "<b>A</b>&amp;-KEYFR");
+    QCOMPARE(window->run("document.querySelector('.menu-title').textContent").toString(), "Waypoint <b>A</b>&amp;");
 }
 
 void TestPageFeed::noManagerStandsBeforeItsScript()
