@@ -48,8 +48,8 @@ private:
         for (int row = 0; row < rows; ++row)
             for (int column = 0; column < columns; ++column)
                 batch << QString("addWPTMarker(new google.maps.LatLng(%1,%2),\"W%3X%4-K\",1,\"x\")")
-                             .arg(latitude + (row - rows / 2) * step * 0.7)
-                             .arg(longitude + (column - columns / 2) * step)
+                             .arg(latitude + (row - (rows - 1) / 2.0) * step * 0.7)
+                             .arg(longitude + (column - (columns - 1) / 2.0) * step)
                              .arg(row)
                              .arg(column);
         batch << "addWptMgr();WPTRteMgr.addMarkers(listWptRte)";
