@@ -202,7 +202,8 @@ function makeLevel(level, modules) {
     cell: level.cell,
     overlap: overlap,
     unitsPerDegree: unitsPerDegree,
-    cells: Array.from(cells.byIndex.values()),
+    // As text, which is read when the scale is drawn for the first time.
+    cells: JSON.stringify(Array.from(cells.byIndex.values())),
   };
 }
 

@@ -11,7 +11,7 @@
   /** How many canvases around the view are made ready. */
   const ring = 1;
   /** What may go to them of one frame, milliseconds. One is painted in any case. */
-  const spareTime = 3;
+  const spareTime = 2;
 
   engine.BaseTiles = L.Layer.extend({
     /**

@@ -38,11 +38,20 @@
       this.columns = 360 / data.cell;
       this.overlap = Math.round(data.overlap * data.unitsPerDegree);
       this.units = data.unitsPerDegree;
-      this.cells = new Map(data.cells.map(cell => [cell.row * this.columns + cell.column, cell]));
+      this.text = data.cells;
+      this.cells = null;
+    }
+
+    /** The finest scale is large: its text is read when it is drawn for the first time. */
+    read() {
+      this.cells = new Map(JSON.parse(this.text).map(cell => [cell.row * this.columns + cell.column, cell]));
+      this.text = '';
     }
 
     /** @return {?{land: Array, lakes: Array, borders: Array, rivers: Array}} lines as `line` makes them */
     cellAt(column, row) {
+      if (!this.cells)
+        this.read();
       const cell = this.cells.get(row * this.columns + column);
       if (cell && !cell.lines) {
         cell.lines = {
