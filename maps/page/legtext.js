@@ -20,6 +20,9 @@
   /** Where else on its leg a text may stand than in the middle, the better first. */
   const parts = [0.38, 0.62, 0.25, 0.75];
 
+  /** Degrees of latitude in the view from which on the chart's symbols are too many to be spared. */
+  const mostSpared = 12;
+
   /** So many legs have their arrow or text at a time. */
   const mostShown = 150;
 
@@ -102,7 +105,9 @@
       this.legs = [];
       /** @type {Array<{position: Place, width: number}>} */
       this.points = [];
+      /** What a text may not cover, and what it covers only where it must. */
       this.room = new Room();
+      this.symbols = new Room();
       /** @type {?HTMLElement} */
       this.element = null;
       this.pending = 0;
@@ -165,6 +170,7 @@
       if (!this.projection)
         return;
       this.keepPointsFree();
+      this.spareSymbols();
       const shown = this.legs.map(leg => ({ leg: leg, spot: this.firstSpot(leg) })).filter(entry => entry.spot);
       // Of a heap of legs in one view the longest.
       if (shown.length > mostShown)
@@ -180,6 +186,19 @@
         this.room.take([at]);
         this.room.take(discsAlong(at.x + 8 + point.width / 2, at.y, point.width, 0));
       });
+    }
+
+    /** The symbols of the chart in the view; of a whole country's none. */
+    spareSymbols() {
+      this.symbols = new Room();
+      const size = this.size();
+      const reach = 2 * size.y / this.pixelsPerMile(this.laidOut.lat()) / milesPerDegree;
+      if (reach > mostSpared)
+        return;
+      page.layers.map(layer => layer.manager()).forEach(manager => manager.markers().forEach(marker => {
+        if (Math.abs(marker.position.lat() - this.laidOut.lat()) < reach && manager.draws(marker))
+          this.symbols.take([this.projection.fromLatLngToDivPixel(marker.position)]);
+      }));
     }
 
     /** @param {number} latitude */
@@ -232,10 +251,12 @@
     }
 
     /**
-     * The first spot with room for the text above or below the line; null when there is none.
+     * The spot with room for the text above or below the line where it covers least; null when there is none.
      * @type {(leg: Leg, first: LegSpot) => ?LegSpot}
      */
     freePlace(leg, first) {
+      let best = null;
+      let least = Infinity;
       for (let i = -1; i < parts.length; ++i) {
         const spot = i < 0 ? first : this.spotAt(leg, parts[i], first.length);
         if (!this.isInView(spot))
@@ -245,13 +266,18 @@
           const x = spot.x - offset * Math.sin(upright);
           const y = spot.y + offset * Math.cos(upright);
           const discs = discsAlong(x, y, leg.width, upright);
-          if (discs.every(disc => this.room.isFree(disc))) {
-            this.room.take(discs);
-            return Object.assign({ offset: offset }, spot);
+          const covered = discs.filter(disc => !this.symbols.isFree(disc)).length;
+          if (covered < least && discs.every(disc => this.room.isFree(disc))) {
+            least = covered;
+            best = { spot: Object.assign({ offset: offset }, spot), discs: discs };
           }
         }
+        if (least === 0)
+          break;
       }
-      return null;
+      if (best)
+        this.room.take(best.discs);
+      return best && best.spot;
     }
 
     /**
@@ -316,7 +342,7 @@
     context.textAlign = 'center';
     context.textBaseline = 'middle';
     context.lineJoin = 'round';
-    context.lineWidth = 3.5;
+    context.lineWidth = 4;
     context.strokeStyle = colours.rim;
     context.strokeText(text, 0, offset);
     context.fillStyle = colours.text;

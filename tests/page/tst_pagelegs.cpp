@@ -25,6 +25,7 @@ private slots:
     void aProcedureHasNoTexts();
     void aTextStandsUprightAboveItsLeg_data();
     void aTextStandsUprightAboveItsLeg();
+    void aTextSparesTheSymbolsOfTheChart();
     void thereAndBackHaveATextEach();
     void manyLegsAtOnePlaceHaveNoHeapOfTexts();
     void aLegFarBeyondTheViewKeepsItsTextInIt();
@@ -183,6 +184,21 @@ void TestPageLegs::aTextStandsUprightAboveItsLeg()
     // The line runs through the middle of the view. A text that stands on its head would be below it.
     QVERIFY(pixels(QRect(360, 280, 80, 12), QColor(routeColour)) > 10);
     QCOMPARE(pixels(QRect(360, 308, 80, 12), QColor(routeColour)), 0);
+}
+
+void TestPageLegs::aTextSparesTheSymbolsOfTheChart()
+{
+    // Symbols in a row 12 pixels above the line; below it there is room.
+    window->run("for (let i = 0; i <= 40; ++i)"
+                "addVORMarker(new google.maps.LatLng(46.54500, 1.9 + i * 0.03), 'V' + i + '-K', 17, '');"
+                "addNavMgr();VORMgr.addMarkers(listVOR);");
+    draw({{46.5, 1.9}, {46.5, 3.1}});
+    QCOMPARE(texts().size(), 1);
+    QVERIFY(pixels(QRect(360, 308, 80, 12), QColor(routeColour)) > 10);
+    // They are hidden: the text goes back.
+    window->run("VORMgr.clearMarkers()");
+    draw({{46.5, 1.9}, {46.5, 3.1}});
+    QVERIFY(pixels(QRect(360, 280, 80, 12), QColor(routeColour)) > 10);
 }
 
 void TestPageLegs::thereAndBackHaveATextEach()
