@@ -60,8 +60,9 @@ const lakeRoom = 1;
 const lakeStay = 3;
 
 function lakes() {
-  return waters.lakeNames().map(lake => ['sea', lake.zoom + lakeRoom, lake.zoom + lakeRoom + lakeStay,
-    rounded(lake.middle[0]), rounded(lake.middle[1]), ...namesOf(lake.names), 0]);
+  return waters.lakeNames().map(lake => ['sea', lake.zoom + lakeRoom,
+    Math.min(lake.last, lake.zoom + lakeRoom + lakeStay), rounded(lake.middle[0]), rounded(lake.middle[1]),
+    ...namesOf(lake.names), 0]);
 }
 
 /** Twice the area of a ring, in square degrees. */

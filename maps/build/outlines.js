@@ -122,8 +122,8 @@ class Cells {
     return this.byIndex.get(index);
   }
 
-  /** @param {string} kind land or lakes */
-  addRing(ring, kind) {
+  /** @param {function(Object, string)} put what to do with the cell and the written part of the ring in it */
+  addRing(ring, put) {
     const [firstColumn, lastColumn] = cellRange(bounds(ring, 0), -180, this.cell, this.columns);
     for (let column = firstColumn; column <= lastColumn; ++column) {
       const west = -180 + column * this.cell;
@@ -136,7 +136,7 @@ class Cells {
         const part = rounded(clipRing(strip, west - overlap, Math.max(-90, south - overlap), west + this.cell + overlap,
           Math.min(90, south + this.cell + overlap)));
         if (part.length >= 6)
-          this.at(column, row)[kind].push(encode(part));
+          put(this.at(column, row), encode(part));
       }
     }
   }
@@ -190,10 +190,11 @@ function makeLevel(level, modules) {
   for (const shape of shapes)
     for (const polygon of shape.type === 'Polygon' ? [shape.coordinates] : shape.coordinates)
       for (const points of polygon)
-        worldRings(points).forEach(ring => cells.addRing(ring, 'land'));
+        worldRings(points).forEach(ring => cells.addRing(ring, (cell, text) => cell.land.push(text)));
   const borders = topojson.mesh(world, world.objects.countries, (a, b) => a !== b);
   borders.coordinates.forEach(points => cells.addLine(points, (cell, text) => cell.borders.push(text)));
-  waters.lakeRings().forEach(points => worldRings(points).forEach(ring => cells.addRing(ring, 'lakes')));
+  waters.lakeRings().forEach(lake => worldRings(lake.ring).forEach(ring =>
+    cells.addRing(ring, (cell, text) => cell.lakes.push([lake.last, text]))));
   waters.rivers().filter(river => river.zoom < level.toZoom).forEach(river =>
     cells.addLine(river.points, (cell, text) => cell.rivers.push([river.zoom, text])));
   return {

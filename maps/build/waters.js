@@ -44,15 +44,28 @@ function linesOf(file) {
   return fs.readFileSync(path.join(__dirname, file), 'utf8').split('\n').filter(line => line && line[0] !== '#');
 }
 
-/** @return {Array<Array>} closed rings of [longitude, latitude], islands among them */
-exports.lakeRings = () => linesOf('lakes.txt').map(line => smooth(pointsOf(line.replace(/^(- |.*: )/, '')), true));
+/** Up to which zoom a lake is drawn: a small one follows the towns on its shore, of a large one only the shape is known. */
+const lastZooms = { small: 13, large: 9.5 };
+const smallFrom = 7;
 
-/** @return {Array<{zoom: number, names: string, middle: number[]}>} what names a lake, and where: [latitude, longitude] */
-exports.lakeNames = () => linesOf('lakes.txt').filter(line => line[0] !== '-').map(line => {
-  const [, zoom, names, places] = line.match(/^(\S+) (.*): (.*)$/);
-  const points = pointsOf(places);
-  const sum = axis => points.reduce((total, point) => total + point[axis], 0) / points.length;
-  return { zoom: Number(zoom), names: names, middle: [sum(1), sum(0)] };
+/** The lakes with what stands in front of their colon; an island has the zooms of its lake. */
+function lakes() {
+  let last = 0;
+  return linesOf('lakes.txt').map(line => {
+    const [, zoom, names, places] = line.match(/^(-|\S+) (?:(.*): )?(.*)$/);
+    if (zoom !== '-')
+      last = Number(zoom) < smallFrom ? lastZooms.large : lastZooms.small;
+    return { zoom: Number(zoom), last: last, names: names, points: pointsOf(places) };
+  });
+}
+
+/** @return {Array<{last: number, ring: Array}>} closed rings of [longitude, latitude], islands among them */
+exports.lakeRings = () => lakes().map(lake => ({ last: lake.last, ring: smooth(lake.points, true) }));
+
+/** @return {Array<{zoom: number, last: number, names: string, middle: number[]}>} middle is [latitude, longitude] */
+exports.lakeNames = () => lakes().filter(lake => lake.names).map(lake => {
+  const sum = axis => lake.points.reduce((total, point) => total + point[axis], 0) / lake.points.length;
+  return { zoom: lake.zoom, last: lake.last, names: lake.names, middle: [sum(1), sum(0)] };
 });
 
 /** @return {Array<{zoom: number, points: Array}>} from which zoom a river is drawn, and its course */

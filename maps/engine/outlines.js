@@ -147,7 +147,7 @@
       return {
         left: cell.left,
         land: pick(cell.lines.land),
-        lakes: pick(cell.lines.lakes),
+        lakes: pick(cell.lines.lakes.filter(lake => frame.zoom < lake.last)),
         borders: pick(cell.lines.borders),
         rivers: pick(cell.lines.rivers.filter(river => river.zoom <= frame.zoom && frame.zoom < riversEnd)),
       };

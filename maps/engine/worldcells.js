@@ -56,7 +56,7 @@
       if (cell && !cell.lines) {
         cell.lines = {
           land: cell.land.map(text => this.ring(text, cell)),
-          lakes: cell.lakes.map(text => this.ring(text, cell)),
+          lakes: cell.lakes.map(lake => Object.assign(this.ring(lake[1], cell), { last: lake[0] })),
           borders: cell.borders.map(text => this.line(decode(text))),
           rivers: cell.rivers.map(river => Object.assign(this.line(decode(river[1])), { zoom: river[0] })),
         };

@@ -193,6 +193,7 @@ void TestPageBaseMap::lakesAreWater_data()
     QTest::newRow("Superior, over the edges of cells") << 47.53 << -86.27 << 5.5 << true;
     QTest::newRow("Victoria, south of the equator") << -1.63 << 32.77 << 6.0 << true;
     QTest::newRow("Baikal") << 54.93 << 109.32 << 7.5 << true;
+    QTest::newRow("Victoria, too near for its shape") << -1.63 << 32.77 << 10.0 << false;
     QTest::newRow("beside Baikal") << 54.93 << 111.32 << 7.5 << false;
 }
 
