@@ -232,6 +232,37 @@ languages.forEach(({ file, lang, words }, which) => describe(file, () => {
     await page.run('eraseAcftMrkr();');
   });
 
+  once('walks the map with the arrows and zooms with plus and minus', async () => {
+    await page.click(...nothing);
+    await page.forget();
+    await page.tab.keyboard.press('ArrowRight');
+    await page.tab.waitForFunction(() => map.getCenter().lng() > 2.7);
+    const calls = await page.callsOf('doCenter');
+    assert.ok(calls[0][2] > 2.5);
+    await page.tab.keyboard.press('+');
+    await page.tab.waitForFunction(() => map.getZoom() === 10);
+    await page.tab.keyboard.press('-');
+    await page.tab.waitForFunction(() => map.getZoom() === 9);
+    assert.deepStrictEqual((await page.callsOf('doZoom')).map(call => call[1]), [10, 9]);
+  });
+
+  once('opens and closes the menu with keys', async () => {
+    await page.click(...nothing);
+    await page.tab.keyboard.press('Shift+F10');
+    await page.tab.waitForSelector('#menu', { state: 'visible' });
+    await page.tab.keyboard.press('Escape');
+    await page.tab.waitForSelector('#menu', { state: 'hidden' });
+  });
+
+  once('tells beside the pointer what it rests on', async () => {
+    await feed();
+    const at = await page.pixelOf(46.7, 2.5);
+    await page.tab.mouse.move(at.x + 60, at.y + 60);
+    await page.tab.mouse.move(at.x, at.y);
+    const tip = await page.tab.waitForSelector('#tooltip', { state: 'visible' });
+    assert.match(await tip.innerText(), /RBT[^]*RAMBOUILLET[^]*114[.,]7/);
+  });
+
   once('goes from day to night and back', async () => {
     const day = await page.pictureAt(...nothing);
     await page.tab.click('#palette-switch');
