@@ -12,8 +12,11 @@
   /** How far beyond the canvas a line is still painted, pixels: wider than any line. */
   const edge = 60;
 
-  /** An opaque line is painted in paths of so many pieces: the canvas takes many short paths better than a long one. */
-  const pathPieces = 12;
+  /**
+   * A path of so many pieces ends at the next corner of an opaque line: the canvas takes many short paths far better
+   * than one that crosses itself. In a straight stretch the ends of two paths would be seen.
+   */
+  const pathPieces = 8;
 
   /** Straight pieces of one piece of a great circle at the most. */
   const mostPieces = 500;
@@ -135,8 +138,14 @@
       const context = frame.context;
       let endX = NaN;
       let endY = NaN;
+      let wayX = 0;
+      let wayY = 0;
       let pieces = 0;
       emitRun(frame, run, geodesic, (x1, y1, x2, y2) => {
+        if (pieces >= most && isCorner(wayX, wayY, x2 - x1, y2 - y1)) {
+          context.stroke();
+          pieces = 0;
+        }
         if (pieces === 0)
           context.beginPath();
         if (pieces === 0 || x1 !== endX || y1 !== endY)
@@ -144,14 +153,18 @@
         context.lineTo(x2, y2);
         endX = x2;
         endY = y2;
-        if (++pieces < most)
-          return;
-        context.stroke();
-        pieces = 0;
+        wayX = x2 - x1;
+        wayY = y2 - y1;
+        ++pieces;
       });
       if (pieces > 0)
         context.stroke();
     }
+  }
+
+  /** Whether a line turns by more than some ten degrees between two pieces, of which x and y are given. */
+  function isCorner(x1, y1, x2, y2) {
+    return x1 * x2 + y1 * y2 < 0.98 * Math.sqrt((x1 * x1 + y1 * y1) * (x2 * x2 + y2 * y2));
   }
 
   /**
