@@ -181,7 +181,7 @@
    * @type {(markers: ChartMarker[], place: Place, at?: Spot) => void}
    */
   function openForSeveral(markers, place, at) {
-    const shown = markers.slice(0, mostMarkers);
+    const shown = page.shorten(markers, mostMarkers);
     const rest = markers.length - shown.length;
     const more = rest ? [{ text: pageWords.moreHere.replace('%1', String(rest)), reason: pageWords.zoomIn }] : [];
     const title = { head: pageWords.severalHere.replace('%1', String(markers.length)), lines: [page.positionText(place)] };

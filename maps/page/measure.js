@@ -11,9 +11,10 @@
   /** @type {google.maps.Symbol} */
   let point = null;
 
-  const lineOptions = { strokeOpacity: 1, geodesic: true, clickable: false, zIndex: zIndex };
-  const line = new google.maps.Polyline(Object.assign({ strokeWeight: 2.5 }, lineOptions));
-  const rubber = new google.maps.Polyline(Object.assign({ strokeWeight: 1.5 }, lineOptions));
+  const lineOptions = { strokeOpacity: 1, geodesic: true, clickable: false };
+  const line = new google.maps.Polyline(Object.assign({ strokeWeight: 2.5, zIndex: zIndex }, lineOptions));
+  // Below everything else: it changes with every frame, and nothing but itself has to be painted for it there.
+  const rubber = new google.maps.Polyline(Object.assign({ strokeWeight: 1.5, zIndex: -1 }, lineOptions));
 
   /** The corners and the labels of the legs; made anew with each of them. */
   /** @type {?google.maps.Data} */

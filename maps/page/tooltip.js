@@ -32,13 +32,14 @@
   /** @param {ChartMarker[]} markers */
   function fill(markers) {
     element.innerHTML = '';
-    markers.slice(0, most).forEach(marker => {
+    const shown = page.shorten(markers, most);
+    shown.forEach(marker => {
       const words = page.describe(marker);
       addLine(words.head, 'tooltip-head');
       words.lines.forEach(line => addLine(line, 'tooltip-line'));
     });
-    if (markers.length > most)
-      addLine(pageWords.moreHere.replace('%1', String(markers.length - most)), 'tooltip-line');
+    if (shown.length < markers.length)
+      addLine(pageWords.moreHere.replace('%1', String(markers.length - shown.length)), 'tooltip-line');
   }
 
   function show() {

@@ -60,9 +60,11 @@
   page.markersAt = function (place, first) {
     /** @type {{marker: ChartMarker, rank: number, order: number}[]} */
     const found = [];
+    const latitude = place.lat();
+    // A pixel is nowhere more degrees of latitude than this; most markers are farther away.
+    const farthest = (reach + 1) * 360 / (worldPixels * Math.pow(2, map.getZoom()));
     page.layers.forEach(layer => layer.list.forEach(marker => {
-      // Most are far away: the cheapest question first.
-      if (Math.abs(marker.position.lat() - place.lat()) > 10)
+      if (marker !== first && Math.abs(marker.position.lat() - latitude) > farthest)
         return;
       const pixels = page.pixelsBetween(marker.position, place);
       if (marker === first || (pixels <= reach && layer.manager().draws(marker)))
@@ -70,6 +72,9 @@
     }));
     return found.sort((a, b) => a.rank - b.rank || a.order - b.order).map(item => item.marker);
   };
+
+  /** The first of many markers; a single one more is not worth a line that counts it. */
+  page.shorten = (markers, most) => (markers.length > most + 1 ? markers.slice(0, most) : markers);
 
   /** The program's texts begin with one of these words, which the page says in its own language. */
   const leadingWord = /^(Airport|VOR|NDB|Waypoint) /;

@@ -274,6 +274,7 @@ interface Page {
   pixelsBetween(a: Place, b: Place): number;
   pixelOf(place: Place): Spot;
   markersAt(place: Place, first: ChartMarker | null): ChartMarker[];
+  shorten(markers: ChartMarker[], most: number): ChartMarker[];
   describe(marker: ChartMarker): Title;
   putBeside(element: HTMLElement, x: number, y: number, distance?: number): void;
 
