@@ -309,10 +309,14 @@
     }
   }
 
-  /** The direction of a text along a line that a reader need not stand on his head for. @param {number} angle */
+  /**
+   * The direction of a text along a line that a reader need not stand on his head for; on a meridian it goes up.
+   * @param {number} angle
+   */
   function uprightOf(angle) {
-    const turned = angle > Math.PI / 2 ? angle - Math.PI : angle;
-    return turned <= -Math.PI / 2 ? turned + Math.PI : turned;
+    const upwards = -Math.PI / 2 - 0.01;
+    const turned = angle >= upwards + Math.PI ? angle - Math.PI : angle;
+    return turned < upwards ? turned + Math.PI : turned;
   }
 
   /** @type {(context: CanvasRenderingContext2D, angle: number, colours: {text: string, rim: string}) => void} */

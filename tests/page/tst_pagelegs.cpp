@@ -25,6 +25,8 @@ private slots:
     void aProcedureHasNoTexts();
     void aTextStandsUprightAboveItsLeg_data();
     void aTextStandsUprightAboveItsLeg();
+    void aTextOnAMeridianGoesUp_data();
+    void aTextOnAMeridianGoesUp();
     void aTextSparesTheSymbolsOfTheChart();
     void thereAndBackHaveATextEach();
     void manyLegsAtOnePlaceHaveNoHeapOfTexts();
@@ -184,6 +186,26 @@ void TestPageLegs::aTextStandsUprightAboveItsLeg()
     // The line runs through the middle of the view. A text that stands on its head would be below it.
     QVERIFY(pixels(QRect(360, 280, 80, 12), QColor(routeColour)) > 10);
     QCOMPARE(pixels(QRect(360, 308, 80, 12), QColor(routeColour)), 0);
+}
+
+void TestPageLegs::aTextOnAMeridianGoesUp_data()
+{
+    QTest::addColumn<double>("from");
+    QTest::addColumn<double>("to");
+
+    QTest::newRow("to the north") << 46.1 << 46.9;
+    QTest::newRow("to the south") << 46.9 << 46.1;
+}
+
+void TestPageLegs::aTextOnAMeridianGoesUp()
+{
+    QFETCH(double, from);
+    QFETCH(double, to);
+    draw({{from, 2.5}, {to, 2.5}});
+    QCOMPARE(texts().size(), 1);
+    // Above a text that goes up is left of its line.
+    QVERIFY(pixels(QRect(380, 260, 12, 80), QColor(routeColour)) > 10);
+    QCOMPARE(pixels(QRect(408, 260, 12, 80), QColor(routeColour)), 0);
 }
 
 void TestPageLegs::aTextSparesTheSymbolsOfTheChart()
