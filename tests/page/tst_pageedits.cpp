@@ -33,6 +33,8 @@ private slots:
     void deletingTwiceRemovesOne();
     void aDeletedMarkerDoesNotComeBackWithItsLayer();
     void aDamagedSingleMarkerIsLeftOut();
+    void editsAreFoundFromNear_data();
+    void editsAreFoundFromNear();
 
 private:
     QScopedPointer<ProgramSide> program;
@@ -264,6 +266,35 @@ void TestPageEdits::aDamagedSingleMarkerIsLeftOut()
     QCOMPARE(titles("listWptRte"), QStringList());
     QCOMPARE(titles("listNDBRte"), QStringList{"B-B5FR"});
     QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageEdits::editsAreFoundFromNear_data()
+{
+    QTest::addColumn<double>("zoom");
+    for (double zoom : {8.0, 14.0})
+        QTest::addRow("zoom %g", zoom) << zoom;
+}
+
+void TestPageEdits::editsAreFoundFromNear()
+{
+    QFETCH(double, zoom);
+    window->run(QString("map.setZoom(%1)").arg(zoom));
+    window->run("addWPTMarker2(new google.maps.LatLng(46.50000, 2.50000),\"A-A1\",1,\"first\")");
+    window->settle();
+    window->click(46.5, 2.5);
+    QCOMPARE(window->popupText(), "first");
+    // What comes and goes after the pointer has looked for something is found, or no more, like the rest.
+    const double beside = zoom > 10 ? 2.51 : 2.9;
+    window->run(QString("addWPTMarker2(new google.maps.LatLng(46.50000, %1),\"B-B1\",1,\"second\")").arg(beside));
+    window->settle();
+    window->click(46.5, beside);
+    QCOMPARE(window->popupText(), "second");
+    window->run("delWaypoint();theLast == null;");
+    window->settle();
+    window->click(46.5, beside);
+    QCOMPARE(window->popupText(), "");
+    window->click(46.5, 2.5);
+    QCOMPARE(window->popupText(), "first");
 }
 
 QTEST_MAIN(TestPageEdits)
