@@ -28,6 +28,34 @@
   const baseLevel = 1;
   const level = height => Math.max(baseLevel + 1, Math.min(highest, Math.floor(height) + 2));
 
+  /**
+   * Where more points of one height or above share a square of so many pixels, no label fits between them: it is not even
+   * tried.
+   */
+  const crowd = { points: 8, pixels: 32 };
+
+  /** How many points of the heights so far lie in each square of the world. */
+  class Crowd {
+    constructor(frame, margin) {
+      this.left = Math.floor((frame.left - margin) / crowd.pixels);
+      this.top = Math.floor((frame.top - margin) / crowd.pixels);
+      this.columns = Math.ceil((frame.width + 2 * margin) / crowd.pixels) + 2;
+      this.counts = new Uint16Array(this.columns * (Math.ceil((frame.height + 2 * margin) / crowd.pixels) + 2));
+    }
+
+    at(x, y) {
+      return (Math.floor(y / crowd.pixels) - this.top) * this.columns + Math.floor(x / crowd.pixels) - this.left;
+    }
+
+    add(x, y) {
+      ++this.counts[this.at(x, y)];
+    }
+
+    isDense(x, y) {
+      return this.counts[this.at(x, y)] > crowd.points;
+    }
+  }
+
   /** The cells of a picture: for each the height of the symbol and whether a label stands there. */
   class Room {
     constructor(left, top, width, height) {
@@ -110,6 +138,7 @@
       this.before = sameView ? this.kept : new Map();
       this.kept = new Map();
       this.placed = [];
+      this.crowd = new Crowd(frame, margin);
       this.putNames();
       levels.forEach(each => this.putSymbols(each));
       const order = levels.slice().reverse();
@@ -117,6 +146,8 @@
       if (this.isSame)
         order.forEach(each => this.placeLevel(each, true));
       order.forEach(each => {
+        for (let i = 0; i < each.points.length; ++i)
+          this.crowd.add(each.xs[i] + frame.left, each.ys[i] + frame.top);
         this.placeLevel(each, true);
         this.placeLevel(each, false);
       });
@@ -151,10 +182,10 @@
       const height = level(each.height);
       for (let i = 0; i < each.points.length; ++i) {
         const point = each.points[i];
-        if (!point.look.label || this.kept.has(point))
-          continue;
         const side = former ? this.before.get(point) : -1;
-        if (side !== undefined)
+        if (side === undefined || !point.look.label || this.kept.has(point))
+          continue;
+        if (former || !this.crowd.isDense(each.xs[i] + this.frame.left, each.ys[i] + this.frame.top))
           this.placePoint(point, each.xs[i], each.ys[i], height, side);
       }
     }

@@ -12,6 +12,12 @@
   /** Points so many pixels beside the canvas count too: their labels and symbols reach into it. */
   const margin = 160;
 
+  /**
+   * Of so many points at one height hardly one can be told from its neighbours: of those in a square of so many pixels one
+   * is drawn.
+   */
+  const crowd = { points: 5000, pixels: 4 };
+
   class Points {
     /** @param {?Object} names what the base map writes, as Declutter takes it */
     constructor(names) {
@@ -70,8 +76,8 @@
             this.put(point, x, y);
         }
       };
-      layer.grid.visitBox((left - margin) / scale, (top - margin) / scale, (left + right) / scale, (top + bottom) / scale,
-        visit);
+      layer.grid.visitBox((left - margin) / scale, (top - margin) / scale,
+        (left + right) / scale, (top + bottom) / scale, visit);
     }
 
     put(point, x, y) {
@@ -97,12 +103,14 @@
       if (!level)
         return;
       const context = frame.context;
+      const hidden = level.points.length > crowd.points ? hiddenIn(frame, level) : null;
       for (let i = 0; i < level.points.length; ++i) {
         const sprite = level.points[i].sprite;
         const middle = sprite.middle;
         const x = level.xs[i];
         const y = level.ys[i];
-        if (x > -middle && y > -middle && x < frame.width + middle && y < frame.height + middle)
+        const isInside = x > -middle && y > -middle && x < frame.width + middle && y < frame.height + middle;
+        if (isInside && !(hidden && hidden[i]))
           context.drawImage(sprite.canvas, x - middle, y - middle, sprite.size, sprite.size);
       }
     }
@@ -132,6 +140,23 @@
       });
       return best.point;
     }
+  }
+
+  /** For each point whether one that is drawn later stands in its square; squares are counted from the world's corner. */
+  function hiddenIn(frame, level) {
+    const hidden = new Uint8Array(level.points.length);
+    const columns = Math.ceil((frame.width + 2 * margin) / crowd.pixels) + 2;
+    const rows = Math.ceil((frame.height + 2 * margin) / crowd.pixels) + 2;
+    const firstColumn = Math.floor((frame.left - margin) / crowd.pixels);
+    const firstRow = Math.floor((frame.top - margin) / crowd.pixels);
+    const taken = new Uint8Array(columns * rows);
+    for (let i = level.points.length - 1; i >= 0; --i) {
+      const column = Math.floor((level.xs[i] + frame.left) / crowd.pixels) - firstColumn;
+      const row = Math.floor((level.ys[i] + frame.top) / crowd.pixels) - firstRow;
+      hidden[i] = taken[row * columns + column];
+      taken[row * columns + column] = 1;
+    }
+    return hidden;
   }
 
   engine.Points = Points;

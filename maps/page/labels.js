@@ -11,6 +11,18 @@
     return marker.lines;
   }
 
+  /**
+   * The first line. Thousands of labels are made at once, and in all texts of the program it is the bold part: to cut that
+   * out takes a tenth of the time of reading the whole text.
+   * @param {ChartMarker} marker
+   */
+  function headOf(marker) {
+    const from = marker.html.indexOf('<b>') + 3;
+    const to = marker.html.indexOf('</b>', from);
+    const head = from > 2 && to > from ? marker.html.slice(from, to) : '<';
+    return head.indexOf('<') < 0 ? head : linesOf(marker)[0];
+  }
+
   /** The title without its key. @param {ChartMarker} marker */
   function nameInTitle(marker) {
     const tail = marker.tail();
@@ -19,7 +31,7 @@
 
   /** The identifier: what follows the kind in the text's first line, else the title without its key. */
   page.identOf = function (marker) {
-    const first = linesOf(marker)[0];
+    const first = headOf(marker);
     const blank = first.indexOf(' ');
     return (blank > 0 && first.slice(blank + 1).trim()) || nameInTitle(marker);
   };

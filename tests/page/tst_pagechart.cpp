@@ -38,6 +38,7 @@ private slots:
     void aDeletedMarkerLeavesItsPointInThePlan();
     void theClickedMarkerIsNamedFromAfar();
     void onePointOfALayerHasOptionsOfItsOwn();
+    void aCrowdIsDrawnWithoutHoles();
 
 private:
     QScopedPointer<ProgramSide> program;
@@ -390,6 +391,21 @@ void TestPageChart::onePointOfALayerHasOptionsOfItsOwn()
                 "layer.revertStyle()");
     QVERIFY(ink(46.7, 2.3, "#00ff00") > 50);
     QVERIFY(ink(46.4, 2.3, "#00ff00") > 50);
+}
+
+void TestPageChart::aCrowdIsDrawnWithoutHoles()
+{
+    // Squares of 10 pixels, 2 apart in both directions: most of them are under others, which are drawn for them.
+    window->run("var crowd = new google.maps.Data({ map: map });"
+                "crowd.setStyle({ icon: page.symbol('M -5 -5 L 5 -5 L 5 5 L -5 5 Z', '#00ff00', 0, '#00ff00') });"
+                "var degrees = 2 * 360 / 256 / Math.pow(2, map.getZoom());"
+                "for (var row = 0; row < 80; ++row) for (var column = 0; column < 80; ++column)"
+                "crowd.add({ geometry: new google.maps.LatLng(46.5 + (row - 40) * degrees * 0.688, 2.5 + (column - 40) "
+                "* degrees) });"
+                // And one of the same crowd on its own.
+                "crowd.add({ geometry: new google.maps.LatLng(46.9, 1.6) });");
+    QCOMPARE(ink(46.5, 2.5, "#00ff00", 70), 141 * 141);
+    QVERIFY(ink(46.9, 1.6, "#00ff00", 10) > 80);
 }
 
 QTEST_MAIN(TestPageChart)

@@ -21,6 +21,7 @@ private slots:
     void theLabelOfMoreImportanceHasTheRoom();
     void thePlansLabelComesFirst();
     void noTwoLabelsOverlap();
+    void aCrowdHasNoLabelsButThoseOfMoreImportance();
     void labelsStayWhileTheMapIsPanned();
     void labelsGiveWayToTheNamesOfTheBaseMap();
     void aLabelTellsMoreFromNear();
@@ -153,6 +154,18 @@ void TestPageLabels::noTwoLabelsOverlap()
                   " bad.push(a.text.lines[0] + ' ' + b.text.lines[0]); })); boxes.length + ':' + bad.join()")
             .toString();
     QVERIFY2(overlaps.endsWith(':') && overlaps.section(':', 0, 0).toInt() > 20, qPrintable(overlaps));
+}
+
+void TestPageLabels::aCrowdHasNoLabelsButThoseOfMoreImportance()
+{
+    // 6 pixels apart.
+    addWaypoints(60, 60, 0.0165, 46.5, 2.5);
+    QVERIFY(labels().size() < 40);
+    addAirport("LFXX", 46.5, 2.5);
+    window->run("pushAPT();map.setZoom(11)");
+    window->settle();
+    const QStringList near = labels();
+    QVERIFY(near.contains("LFXX") || near.contains("LFXX\nFIELD"));
 }
 
 void TestPageLabels::labelsStayWhileTheMapIsPanned()
