@@ -130,7 +130,8 @@ void PageWindow::click(double latitude, double longitude)
 
 void PageWindow::pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    activateWindow();
+    // Without a window manager nobody else makes a window the active one.
+    QApplication::setActiveWindow(this);
     view->setFocus();
     QTest::keyClick(view, key, modifiers);
 }

@@ -175,7 +175,8 @@ void TestPageBase::bothPagesHaveTheSameWords()
 void TestPageBase::everyWordIsTranslated()
 {
     // What pilots of both languages say.
-    const QStringList shared{"VOR", "VOR-DME", "TACAN", "VORTAC", "DME", "NDB", "Navaid", "Waypoint", "Total"};
+    const QStringList shared{"VOR", "VOR-DME", "VORTAC", "TACAN",    "VORTAC",
+                             "DME", "NDB",     "Navaid", "Waypoint", "Total"};
     open("gm_trajector_fr.html");
     const QVariantMap french = window->run("pageWords").toMap();
     open("gm_trajector_en.html");
