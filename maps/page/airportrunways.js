@@ -75,5 +75,6 @@
     known.set(key, [highEnd, lowEnd].map(end => between(airport.position, end)));
     airport.path = pathOf(Array.from(known.values()));
     page.dressLayers();
+    page.dressPlan();
   };
 })();

@@ -75,10 +75,11 @@
     return made;
   }
 
-  function dress() {
+  /** Draws the points anew where the looks of their markers have changed. */
+  page.dressPlan = function () {
     if (layer)
       layer.setStyle(lookOf);
-  }
+  };
 
   /** @return {boolean} whether a marker is drawn as a point of the plan */
   page.isPlanned = marker => planned.has(marker);
@@ -117,6 +118,6 @@
     page.matchPlan();
   };
 
-  page.onPalette(dress);
-  google.maps.event.addListener(map, 'zoom_changed', dress);
+  page.onPalette(page.dressPlan);
+  google.maps.event.addListener(map, 'zoom_changed', page.dressPlan);
 })();

@@ -249,6 +249,7 @@ interface Page {
 
   setPlanPoints(points: TrackPoint[]): void;
   matchPlan(): void;
+  dressPlan(): void;
   isPlanned(marker: ChartMarker): boolean;
 
   layers: ChartLayer[];

@@ -25,6 +25,7 @@ private slots:
     void thousandsLookFartherAway();
     void aPaletteColoursTheSymbols();
     void runwaysShowInTheSymbolOfTheirAirport();
+    void runwaysShowInAnAirportOfThePlan();
     void aRunwayFarFromAllAirportsChangesNone();
     void aRoseStandsAroundAVorFromNear();
     void ofTwoRosesThatOverlapOneIsDrawn();
@@ -208,6 +209,15 @@ void TestPageChart::runwaysShowInTheSymbolOfTheirAirport()
     QCOMPARE(pictureAround(46.4, 2.3, 10), other);
     // Told again.
     QVERIFY(!changes(runway, 46.7, 2.3));
+}
+
+void TestPageChart::runwaysShowInAnAirportOfThePlan()
+{
+    window->run("addAPTMarker(new google.maps.LatLng(46.70000, 2.30000),\"LFXX\",1,\"x\");pushAPT();");
+    plan("LFXX", 46.7, 2.3);
+    QVERIFY(changes(
+        "drawRwy(new google.maps.LatLng(46.70000, 2.28000),new google.maps.LatLng(46.70000, 2.32000));clearRunway();",
+        46.7, 2.3));
 }
 
 void TestPageChart::aRunwayFarFromAllAirportsChangesNone()
