@@ -159,7 +159,9 @@ private:
 
     struct ProcedureKind;
     static const ProcedureKind sidKind, starKind;
+    int airportRow(const ProcedureKind& kind) const;
     void createProcedure(const ProcedureKind& kind);
+    void deleteProcedure(const ProcedureKind& kind);
     void addProcedureToPlan(const ProcedureKind& kind);
     QTreeWidgetItem* selectedProcedure(const ProcedureKind& kind) const; ///< null unless one item alone is selected
 

@@ -16,6 +16,7 @@
 #include <QIcon>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPersistentModelIndex>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
@@ -105,30 +106,36 @@ const MainWindow::ProcedureKind MainWindow::starKind{
     QT_TRANSLATE_NOOP("MainWindow", "Le STAR %1 a été enregistré"),
 };
 
+// The line that the procedure belongs to: the plan's first or last one. -1 in an empty plan.
+int MainWindow::airportRow(const ProcedureKind& kind) const
+{
+    const int last = flightPlan->lines.size() - 1;
+    return kind.departs ? qMin(0, last) : last;
+}
+
 void MainWindow::createProcedure(const ProcedureKind& kind)
 {
-    const QList<CFpLinePtr>& lines = flightPlan->lines;
-    if (lines.isEmpty()) {
+    if (flightPlan->lines.isEmpty()) {
         return;
     }
-    const int airportRow = kind.departs ? 0 : lines.size() - 1;
-    const CFpLinePtr airport = planLine(airportRow);
-    if (airport->usage != QLatin1String("airp")) {
+    if (planLine(airportRow(kind))->usage != QLatin1String("airp")) {
         QMessageBox::warning(this, tr(kind.creationTitle), tr(kind.noAirport));
         return;
     }
     bool accepted = false;
     const QString name =
         QInputDialog::getText(this, tr(kind.nameTitle), tr(kind.nameLabel), QLineEdit::Normal, QString(), &accepted);
-    if (!accepted || name.isEmpty()) {
+    // The page may have changed the plan while the dialog was open: the plan as it is now is stored.
+    if (!accepted || name.isEmpty() || flightPlan->lines.isEmpty()) {
         return;
     }
+    const int row = airportRow(kind);
     QSqlQuery query(QSqlDatabase::database(settings->dbRTE));
-    const QStringList statements = procedureStatements(lines, {name, airport->dbKey, kind.type});
+    const QStringList statements = procedureStatements(flightPlan->lines, {name, planLine(row)->dbKey, kind.type});
     for (const QString& statement : statements) {
         query.exec(statement); // one that fails goes unnoticed: the message is the same
     }
-    on_fltplnGrid_cellClicked(airportRow, 1);
+    on_fltplnGrid_cellClicked(row, 1);
     QMessageBox::information(this, tr(kind.storedTitle), tr(kind.stored).arg(name));
 }
 
@@ -233,6 +240,10 @@ void MainWindow::on_btnAddStar_clicked()
 void MainWindow::delSIDSTAR(QTreeWidgetItem* sidstar, bool sid)
 {
     Q_UNUSED(sid)
+    if (sidstar == nullptr) {
+        return;
+    }
+    // Only the text is kept: the item may be gone when the question is answered.
     const QString name = sidstar->text(0);
     const int answer = askDeleteData(tr("Effacer un SID/STAR"), tr("Voulez vous effacer le SID/STAR %1 ?").arg(name));
     carryOut({settings->dbRTE, &SqlMgr::delSIDSTARname, name, mapscript::clearSs(), name,
@@ -257,23 +268,30 @@ void MainWindow::delAllSIDSTAR(const QString& aptKey)
 }
 
 // The item goes whatever the answer: after a cancel the procedure is back with the next click on its airport.
+void MainWindow::deleteProcedure(const ProcedureKind& kind)
+{
+    QTreeWidgetItem* item = selectedProcedure(kind);
+    if (item == nullptr) {
+        return;
+    }
+    QTreeWidget* tree = ui.get()->*kind.tree;
+    QTreeWidgetItem* procedure = procedureOf(item);
+    // While the boxes are open the page may have both trees filled anew, and the item is then gone already.
+    const QPersistentModelIndex place = tree->model()->index(tree->indexOfTopLevelItem(procedure), 0);
+    delSIDSTAR(procedure, kind.type == ProcedureType::Sid);
+    if (place.isValid()) {
+        delete tree->topLevelItem(place.row());
+    }
+}
 
 void MainWindow::on_pbDelSID_clicked()
 {
-    if (QTreeWidgetItem* item = selectedProcedure(sidKind)) {
-        QTreeWidgetItem* procedure = procedureOf(item);
-        delSIDSTAR(procedure, true);
-        delete procedure;
-    }
+    deleteProcedure(sidKind);
 }
 
 void MainWindow::on_pbDelSTAR_clicked()
 {
-    if (QTreeWidgetItem* item = selectedProcedure(starKind)) {
-        QTreeWidgetItem* procedure = procedureOf(item);
-        delSIDSTAR(procedure, false);
-        delete procedure;
-    }
+    deleteProcedure(starKind);
 }
 
 // Whatever their buttons say, these two take the one selected procedure out of its tree, and out of nothing else.

@@ -6,7 +6,6 @@
 
 #include "mainwindow.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QInputDialog>
 #include <QtTest>
@@ -15,7 +14,6 @@ namespace {
 
 const QString listTitle = QStringLiteral("Voie aérienne");
 const QString noneTitle = QStringLiteral("Voies aériennes");
-const QString entry = QStringLiteral("Voies aériennes passant par ce point…");
 
 QString listLabel(const QString& point)
 {
@@ -57,18 +55,10 @@ private slots:
     void aQuoteInAnAirwayReadsAsVanished();
     void anAirwayThatVanishedIsTold();
     void aFailedStatementIsNotReported();
-    void thePageAsksForAWaypoint();
-    void thePageAsksForANavaidAlone();
-    void thePageAsksForBothTitlesOfOnePoint_data();
-    void thePageAsksForBothTitlesOfOnePoint();
-    void thePageIsThereAgainBehindTheList();
 
 private:
     /// A segment of an airway between two points.
     void segment(const QString& name, const QString& from, const QString& to) const;
-    void load();
-    /// The mouse on the map: the entry of the menu of the marker at a position (degrees).
-    void askOnMap(double latitude, double longitude);
 
     QScopedPointer<BoxResponder> boxes;
     QScopedPointer<Sandbox> sandbox;
@@ -101,7 +91,7 @@ void TestAirways::theIdentityOfATitleIsLookedUp()
     boxes->expectInputRejected(listTitle, listLabel("BALAN"));
     session->window().sATS("BALAN-BALANFR", "");
     QVERIFY(boxes->allUsed());
-    QCOMPARE(boxes->seen().first().choices, QStringList{"UT1"});
+    QCOMPARE(boxes->seen().value(0).choices, QStringList{"UT1"});
 }
 
 void TestAirways::bothEndsOfASegmentCount()
@@ -111,7 +101,7 @@ void TestAirways::bothEndsOfASegmentCount()
     segment("UT3", "AMB", "LMG");
     boxes->expectInputRejected(listTitle, listLabel("BALAN"));
     session->window().sATS("BALAN", "");
-    QCOMPARE(boxes->seen().first().choices, (QStringList{"UT1", "UT2"}));
+    QCOMPARE(boxes->seen().value(0).choices, (QStringList{"UT1", "UT2"}));
 }
 
 void TestAirways::anAirwayIsOfferedOnceForAllItsSegments()
@@ -120,7 +110,7 @@ void TestAirways::anAirwayIsOfferedOnceForAllItsSegments()
         segment("UT1", "BALAN", neighbour);
     boxes->expectInputRejected(listTitle, listLabel("BALAN"));
     session->window().sATS("BALAN-BALANFR", "");
-    QCOMPARE(boxes->seen().first().choices, QStringList{"UT1"});
+    QCOMPARE(boxes->seen().value(0).choices, QStringList{"UT1"});
 }
 
 void TestAirways::theListKeepsTheOrderOfFirstAppearance()
@@ -129,7 +119,7 @@ void TestAirways::theListKeepsTheOrderOfFirstAppearance()
         segment(name, "BALAN", "LMG");
     boxes->expectInputRejected(listTitle, listLabel("BALAN"));
     session->window().sATS("BALAN-BALANFR", "");
-    QCOMPARE(boxes->seen().first().choices, (QStringList{"Z9", "A1", "M5"}));
+    QCOMPARE(boxes->seen().value(0).choices, (QStringList{"Z9", "A1", "M5"}));
 }
 
 void TestAirways::theListIsAChoiceOverTheWindow()
@@ -147,14 +137,15 @@ void TestAirways::theListIsAChoiceOverTheWindow()
     session->window().sATS("BALAN-BALANFR", "");
     QVERIFY(!editable);
     QCOMPARE(preset, 0);
-    QCOMPARE(boxes->seen().first().parentClass, QString("MainWindow"));
+    QCOMPARE(boxes->seen().value(0).parentClass, QString("MainWindow"));
 }
 
 void TestAirways::theChoiceIsLoggedAndNothingIsDrawn()
 {
     segment("UT1", "BALAN", "LMG");
     segment("UT2", "BALAN", "LMG");
-    load();
+    QVERIFY(session->load());
+    session->page().clear();
     boxes->expectInput(listTitle, listLabel("BALAN"), "UT2");
     MessageLog log;
     session->window().sATS("BALAN-BALANFR", "");
@@ -184,7 +175,7 @@ void TestAirways::anAirwayWithoutANameEndsTheCommand()
     session->window().sATS("BALAN-BALANFR", "");
     QVERIFY(boxes->allUsed());
     QCOMPARE(boxes->seen().size(), 1);
-    QCOMPARE(boxes->seen().first().choices, QStringList{""});
+    QCOMPARE(boxes->seen().value(0).choices, QStringList{""});
     QCOMPARE(log.messages(QtDebugMsg), QStringList());
 }
 
@@ -211,7 +202,7 @@ void TestAirways::theNavaidIsAskedOnlyWhereTheWaypointHasNone()
     boxes->expectInputRejected(listTitle, listLabel("BALAN"));
     session->window().sATS("BALAN-BALANFR", "AMB-AMB4FR");
     QVERIFY(boxes->allUsed());
-    QCOMPARE(boxes->seen().first().choices, QStringList{"UT1"});
+    QCOMPARE(boxes->seen().value(0).choices, QStringList{"UT1"});
 }
 
 void TestAirways::theNavaidStandsInForTheWaypoint()
@@ -229,9 +220,9 @@ void TestAirways::neitherOnAnAirwayIsTold()
     boxes->expectMessage(noneTitle, noneText("AMB"));
     session->window().sATS("BALAN-BALANFR", "AMB-AMB4FR");
     QVERIFY(boxes->allUsed());
-    QCOMPARE(boxes->seen().first().icon, QMessageBox::Information);
-    QCOMPARE(boxes->seen().first().parentClass, QString("MainWindow"));
-    QCOMPARE(boxes->seen().first().choices.size(), 1);
+    QCOMPARE(boxes->seen().value(0).icon, QMessageBox::Information);
+    QCOMPARE(boxes->seen().value(0).parentClass, QString("MainWindow"));
+    QCOMPARE(boxes->seen().value(0).choices.size(), 1);
 }
 
 void TestAirways::aTitleIsTrimmedBeforeItIsSplit_data()
@@ -261,7 +252,7 @@ void TestAirways::aTitleIsTrimmedBeforeItIsSplit()
     boxes->expectInputRejected(listTitle, listLabel(point));
     session->window().sATS(title, "");
     QVERIFY(boxes->allUsed());
-    QCOMPARE(boxes->seen().first().choices, QStringList{"UT1"});
+    QCOMPARE(boxes->seen().value(0).choices, QStringList{"UT1"});
 }
 
 void TestAirways::smallLettersAreAnotherPoint()
@@ -309,98 +300,6 @@ void TestAirways::aFailedStatementIsNotReported()
     QVERIFY(boxes->seen().isEmpty());
     boxes->expectMessage(noneTitle, noneText("AMB"));
     session->window().sATS("BALAN-BALANFR", "AMB-AMB4FR");
-    QVERIFY(boxes->allUsed());
-}
-
-void TestAirways::load()
-{
-    QVERIFY(session->load());
-    QApplication::setActiveWindow(&session->window());
-    session->page().evaluate("map.setCenter(new google.maps.LatLng(46.5, 2.5));map.setZoom(8)");
-    session->page().clear();
-}
-
-void TestAirways::askOnMap(double latitude, double longitude)
-{
-    session->page().contextMenu(session->page().pointOf(latitude, longitude));
-    QVERIFY2(session->page().chooseEntry(entry), qPrintable(session->page().menuEntries().join(", ")));
-}
-
-void TestAirways::thePageAsksForAWaypoint()
-{
-    sandbox->addWaypoint({{"ukey", "BLETOFR"},
-                          {"iden", "BLET"},
-                          {"name", "BLETO"},
-                          {"wlat", arcSeconds(46, 45)},
-                          {"wlon", arcSeconds(2, 15)}});
-    segment("UT1", "BLETO", "LMG");
-    load();
-    boxes->expectInput(listTitle, listLabel("BLETO"), "UT1");
-    askOnMap(46.75, 2.25);
-    QVERIFY(boxes->allUsed());
-}
-
-void TestAirways::thePageAsksForANavaidAlone()
-{
-    sandbox->addNavaid(
-        {{"ukey", "CGO4FR"}, {"iden", "CGO"}, {"nlat", arcSeconds(46, 15)}, {"nlon", arcSeconds(2, 45)}});
-    segment("UT1", "CGO", "LMG");
-    load();
-    boxes->expectInput(listTitle, listLabel("CGO"), "UT1");
-    askOnMap(46.25, 2.75);
-    QVERIFY(boxes->allUsed());
-}
-
-void TestAirways::thePageAsksForBothTitlesOfOnePoint_data()
-{
-    QTest::addColumn<QString>("onAirway");
-    QTest::newRow("the waypoint is on an airway") << "BLETO";
-    QTest::newRow("the navaid is on an airway") << "CGO";
-    QTest::newRow("both are") << "BLETO CGO";
-    QTest::newRow("neither is") << "";
-}
-
-void TestAirways::thePageAsksForBothTitlesOfOnePoint()
-{
-    QFETCH(QString, onAirway);
-    sandbox->addWaypoint({{"ukey", "BLETOFR"},
-                          {"iden", "BLET"},
-                          {"name", "BLETO"},
-                          {"wlat", arcSeconds(46, 15)},
-                          {"wlon", arcSeconds(2, 45)}});
-    sandbox->addNavaid(
-        {{"ukey", "CGO4FR"}, {"iden", "CGO"}, {"nlat", arcSeconds(46, 15)}, {"nlon", arcSeconds(2, 45)}});
-    segment("UT0", "AMB", "LMG");
-    for (const QString& point : onAirway.split(' '))
-        segment("U" + point, point.isEmpty() ? "PON" : point, "LMG");
-    load();
-    const QString shown = onAirway.section(' ', 0, 0);
-    if (shown.isEmpty())
-        boxes->expectMessage(noneTitle, noneText("CGO"));
-    else
-        boxes->expectInput(listTitle, listLabel(shown), "U" + shown);
-    askOnMap(46.25, 2.75);
-    QVERIFY(boxes->allUsed());
-    QCOMPARE(boxes->seen().size(), 1);
-    QCOMPARE(session->page().calls(), QStringList());
-}
-
-void TestAirways::thePageIsThereAgainBehindTheList()
-{
-    sandbox->addNavaid(
-        {{"ukey", "CGO4FR"}, {"iden", "CGO"}, {"nlat", arcSeconds(46, 15)}, {"nlon", arcSeconds(2, 45)}});
-    segment("UT1", "CGO", "LMG");
-    load();
-    double zoom = 0;
-    boxes->expectDialog("QInputDialog", [&](QDialog* dialog) {
-        zoom = session->page().evaluate("map.getZoom()").toDouble(); // while the page waits for its slot
-        dialog->reject();
-    });
-    askOnMap(46.25, 2.75);
-    QCOMPARE(zoom, 8.0);
-    QCOMPARE(session->page().menuEntries(), QStringList());
-    boxes->expectInputRejected(listTitle, listLabel("CGO"));
-    askOnMap(46.25, 2.75);
     QVERIFY(boxes->allUsed());
 }
 

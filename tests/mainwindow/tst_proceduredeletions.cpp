@@ -18,7 +18,6 @@ namespace {
 const QString heading = QStringLiteral("Effacer un SID/STAR");
 const QString doneTitle = QStringLiteral("Effacement STAR");
 const QString exportTitle = QStringLiteral("Suppression/export d'un SIDSTAR");
-const QString allHeading = QStringLiteral("Effacer les SID/STAR");
 const QString erase = QStringLiteral("Effacer");
 const QString eraseAndExport = QStringLiteral("Effacer\n& Exporter");
 const QString keep = QStringLiteral("Annuler");
@@ -43,7 +42,7 @@ private slots:
     void init()
     {
         boxes.reset(new BoxResponder);
-        data.reset(new DataFolder({"OUT", "IN", "FR001"}));
+        data.reset(new DataFolder({"OUT", "IN"}));
         rows->clear();
         rows->addProcedure("OUT", 2, {"LFPO", "BAMES"});
         rows->addProcedure("OUT2", 2, {"ETAMP"});
@@ -90,7 +89,7 @@ private slots:
         boxes->expectMessage(doneTitle, "La STAR OUT a été effacé");
         win->click("pbDelSID");
         QVERIFY(boxes->allUsed());
-        QCOMPARE(boxes->seen().last().icon, QMessageBox::Information);
+        QCOMPARE(boxes->seen().value(1).icon, QMessageBox::Information);
         QCOMPARE(rows->names(), QString("AWAY IN IN2 OUT2"));
         QCOMPARE(outline(*tree("treeWSid")), QString("OUT2[ETAMP]"));
         QCOMPARE(outline(*tree("treeWStar")), QString("IN[PGS LFPO] IN2[CGN]"));
@@ -173,7 +172,7 @@ private slots:
                                               data->shownName(name));
         win->click(button);
         QVERIFY(boxes->allUsed());
-        QCOMPARE(boxes->seen().last().icon, QMessageBox::Information);
+        QCOMPARE(boxes->seen().value(1).icon, QMessageBox::Information);
         QVERIFY(!rows->names().split(' ').contains(name));
         QCOMPARE(tree(treeName)->topLevelItemCount(), 1);
         QCOMPARE(win->told(), QString("clearSS()"));
@@ -287,7 +286,7 @@ private slots:
         win->click("pbDelSID");
         win->sandbox.sql(dbfile::route, "DROP TRIGGER locked");
         QVERIFY(boxes->allUsed());
-        QCOMPARE(boxes->seen().at(1).title, QString("SQL Error"));
+        QCOMPARE(boxes->seen().value(1).title, QString("SQL Error"));
         QCOMPARE(win->told(), QString("clearSS()"));
         QCOMPARE(rows->names(), QString("AWAY IN IN2 OUT OUT2"));
     }
@@ -353,61 +352,6 @@ private slots:
         QVERIFY(boxes->seen().isEmpty());
         QCOMPARE(tree("treeWSid")->topLevelItemCount(), 2);
         QCOMPARE(tree("treeWStar")->topLevelItemCount(), 2);
-    }
-
-    void allOfAnAirportAreDeleted()
-    {
-        boxes->expectMessage("", allHeading, erase);
-        boxes->expectMessage("Effacement SID/STAR", "Les SID/STAR de FR001 ont été effacé");
-        win->window->delAllSIDSTAR("FR001");
-        QVERIFY(boxes->allUsed());
-        QCOMPARE(rows->names(), QString("AWAY"));
-        QCOMPARE(win->told(), QString("clearSS()"));
-        QVERIFY(!data->has("FR001"));
-        QCOMPARE(tree("treeWSid")->topLevelItemCount(), 2); // the trees are nobody's business here
-    }
-
-    void theQuestionForAllNamesTheAirport()
-    {
-        QString question;
-        boxes->expectDialog("QMessageBox", [&](QDialog* dialog) {
-            question = qobject_cast<QMessageBox*>(dialog)->informativeText();
-            dialog->reject();
-        });
-        win->window->delAllSIDSTAR("FR001");
-        QCOMPARE(question, QString("Voulez vous effacer tous les SID/STAR de FR001 ?"));
-    }
-
-    void allOfAnAirportAreExportedWithoutItsKey()
-    {
-        boxes->expectMessage("", allHeading, eraseAndExport);
-        boxes->expectMessage(exportTitle, "Les SIDSTAR de FR001 ont été effacé et enregistrer pour export \ndans " +
-                                              data->shownName("FR001"));
-        win->window->delAllSIDSTAR("FR001");
-        QVERIFY(boxes->allUsed());
-        QCOMPARE(rows->names(), QString("AWAY"));
-        QCOMPARE(win->told(), QString("clearSS()"));
-        QCOMPARE(data->bytes("FR001"), QByteArray("ROUTE;SIDSTAR;-;sapt"));
-    }
-
-    void theFileOfAllThatCannotBeWrittenIsTold()
-    {
-        data->block("FR001");
-        boxes->expectMessage("", allHeading, eraseAndExport);
-        boxes->expectMessage(exportTitle, "Le SIDSTAR FR001 a été effacé mais l'export à échoué");
-        win->window->delAllSIDSTAR("FR001");
-        QVERIFY(boxes->allUsed());
-        QCOMPARE(rows->names(), QString("AWAY"));
-    }
-
-    void allOfAnAirportAreKept()
-    {
-        boxes->expectMessage("", allHeading, keep);
-        win->window->delAllSIDSTAR("FR001");
-        QVERIFY(boxes->allUsed());
-        QCOMPARE(boxes->seen().size(), 1);
-        QCOMPARE(rows->names(), QString("AWAY IN IN2 OUT OUT2"));
-        QCOMPARE(win->told(), QString());
     }
 
 private:

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QMetaType>
+#include <QtTest>
+
+/// How a plan is stored as a SID or as a STAR: the button, and the words of the boxes.
+struct ProcedureKind
+{
+    const char* button;
+    const char* nameTitle;
+    const char* nameLabel;
+    const char* storedTitle;
+    const char* storedText; ///< %1 the name
+};
+
+Q_DECLARE_METATYPE(ProcedureKind)
+
+const ProcedureKind sid{"btnCreateSID", "Nouveau SID", "Nom du SID", "Enregistrement SID",
+                        "Le SID %1 a été enregistré"};
+const ProcedureKind star{"btnCreateSTAR", "Nouveau STAR", "Nom du STAR", "Enregistrement STAR",
+                         "Le STAR %1 a été enregistré"};
+
+/// A data row for each of the two.
+inline void addBothKinds()
+{
+    QTest::addColumn<ProcedureKind>("kind");
+    QTest::newRow("SID") << sid;
+    QTest::newRow("STAR") << star;
+}

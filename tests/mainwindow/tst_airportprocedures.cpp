@@ -1,0 +1,118 @@
+// All stored procedures of an airport deleted at once, with and without an update file. No button does it.
+#include "boxresponder.h"
+#include "editingworld.h"
+#include "mainwindow.h"
+#include "planwindow.h"
+#include "storedprocedures.h"
+
+#include <QTableWidget>
+#include <QtTest>
+
+namespace {
+
+const QString heading = QStringLiteral("Effacer les SID/STAR");
+const QString exportTitle = QStringLiteral("Suppression/export d'un SIDSTAR");
+const QString erase = QStringLiteral("Effacer");
+const QString eraseAndExport = QStringLiteral("Effacer\n& Exporter");
+const QString keep = QStringLiteral("Annuler");
+
+} // namespace
+
+class TestAirportProcedures : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        win.reset(new PlanWindow);
+        rows.reset(new StoredProcedures(win->sandbox));
+        win->add({"LFPO"});
+    }
+    void cleanupTestCase()
+    {
+        win.reset();
+    }
+    void init()
+    {
+        boxes.reset(new BoxResponder);
+        data.reset(new DataFolder({"FR001"}));
+        rows->clear();
+        rows->addProcedure("OUT", 2, {"LFPO", "BAMES"});
+        rows->addProcedure("OUT2", 2, {"ETAMP"});
+        rows->addProcedure("IN", 1, {"PGS", "LFPO"});
+        rows->addProcedure("IN2", 1, {"CGN"});
+        rows->add({{"sapt", "FR002"}, {"strm", "AWAY"}, {"sqnm", 10}, {"styp", 2}});
+        emit win->grid()->cellClicked(0, 1);
+        win->clearCalls();
+    }
+    void cleanup()
+    {
+        data.reset();
+        boxes.reset();
+    }
+
+    void allOfAnAirportAreDeleted()
+    {
+        boxes->expectMessage("", heading, erase);
+        boxes->expectMessage("Effacement SID/STAR", "Les SID/STAR de FR001 ont été effacé");
+        win->window->delAllSIDSTAR("FR001");
+        QVERIFY(boxes->allUsed());
+        QCOMPARE(rows->names(), QString("AWAY"));
+        QCOMPARE(win->told(), QString("clearSS()"));
+        QVERIFY(!data->has("FR001"));
+        QCOMPARE(outline(*win->window->findChild<QTreeWidget*>("treeWSid")), QString("OUT[LFPO BAMES] OUT2[ETAMP]"));
+    }
+
+    void theQuestionForAllNamesTheAirport()
+    {
+        QString question;
+        boxes->expectDialog("QMessageBox", [&](QDialog* dialog) {
+            question = qobject_cast<QMessageBox*>(dialog)->informativeText();
+            dialog->reject();
+        });
+        win->window->delAllSIDSTAR("FR001");
+        QCOMPARE(question, QString("Voulez vous effacer tous les SID/STAR de FR001 ?"));
+    }
+
+    void allOfAnAirportAreExportedWithoutItsKey()
+    {
+        boxes->expectMessage("", heading, eraseAndExport);
+        boxes->expectMessage(exportTitle, "Les SIDSTAR de FR001 ont été effacé et enregistrer pour export \ndans " +
+                                              data->shownName("FR001"));
+        win->window->delAllSIDSTAR("FR001");
+        QVERIFY(boxes->allUsed());
+        QCOMPARE(rows->names(), QString("AWAY"));
+        QCOMPARE(win->told(), QString("clearSS()"));
+        QCOMPARE(data->bytes("FR001"), QByteArray("ROUTE;SIDSTAR;-;sapt"));
+    }
+
+    void theFileOfAllThatCannotBeWrittenIsTold()
+    {
+        data->block("FR001");
+        boxes->expectMessage("", heading, eraseAndExport);
+        boxes->expectMessage(exportTitle, "Le SIDSTAR FR001 a été effacé mais l'export à échoué");
+        win->window->delAllSIDSTAR("FR001");
+        QVERIFY(boxes->allUsed());
+        QCOMPARE(rows->names(), QString("AWAY"));
+    }
+
+    void allOfAnAirportAreKept()
+    {
+        boxes->expectMessage("", heading, keep);
+        win->window->delAllSIDSTAR("FR001");
+        QVERIFY(boxes->allUsed());
+        QCOMPARE(boxes->seen().size(), 1);
+        QCOMPARE(rows->names(), QString("AWAY IN IN2 OUT OUT2"));
+        QCOMPARE(win->told(), QString());
+    }
+
+private:
+    QScopedPointer<BoxResponder> boxes;
+    QScopedPointer<PlanWindow> win;
+    QScopedPointer<StoredProcedures> rows;
+    QScopedPointer<DataFolder> data;
+};
+
+QTEST_MAIN(TestAirportProcedures)
+#include "tst_airportprocedures.moc"

@@ -1,0 +1,116 @@
+// Unusual names of stored procedures. A name goes into the statements as it is, and what follows from that stays.
+#include "boxresponder.h"
+#include "mainwindow.h"
+#include "planwindow.h"
+#include "procedurekind.h"
+#include "storedprocedures.h"
+
+#include <QPushButton>
+#include <QTableWidget>
+
+class TestProcedureNames : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        win.reset(new PlanWindow);
+        rows.reset(new StoredProcedures(win->sandbox));
+        win->add({"LFPO"});
+    }
+    void cleanupTestCase()
+    {
+        win.reset();
+    }
+    void init()
+    {
+        boxes.reset(new BoxResponder);
+        rows->clear();
+    }
+    void cleanup()
+    {
+        boxes.reset();
+    }
+
+    void blanksAreAName_data()
+    {
+        addBothKinds();
+    }
+    void blanksAreAName()
+    {
+        QFETCH(ProcedureKind, kind);
+        store(kind, "   ");
+        QCOMPARE(rows->stored().size(), 1);
+        QCOMPARE(rows->stored().value(0).section(';', 1, 4), QString("   10;FR001;   ;10"));
+    }
+
+    void aNameWithAnApostropheIsNotStoredAndSaidToBe_data()
+    {
+        addBothKinds();
+    }
+    void aNameWithAnApostropheIsNotStoredAndSaidToBe()
+    {
+        QFETCH(ProcedureKind, kind);
+        rows->addProcedure("ABC1", 2, {"BAMES"});
+        store(kind, "L'Est");
+        QCOMPARE(rows->names(), QString("ABC1"));
+        QCOMPARE(boxes->seen().size(), 2);
+    }
+
+    void aNameWithAPlaceNumberStaysAsItIs()
+    {
+        store(sid, "%2%1");
+        QCOMPARE(rows->names(), QString("%2%1"));
+        QVERIFY(rows->stored().value(0).startsWith("0;%2%110;"));
+    }
+
+    void aDeletionTakesANameBetweenDoubleQuotes_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("isRefused");
+        QTest::addColumn<QString>("left");
+        // Between double quotes the name of a column is the column.
+        QTest::newRow("a column that holds something else") << "tile" << false << "OTHER tile";
+        QTest::newRow("the column of the names") << "strm" << false << "";
+        QTest::newRow("a double quote") << "a\"B" << true << "OTHER a\"B";
+    }
+    void aDeletionTakesANameBetweenDoubleQuotes()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, isRefused);
+        QFETCH(QString, left);
+        rows->addProcedure(name, 2, {"LFPO", "BAMES"});
+        rows->addProcedure("OTHER", 1, {"PGS"});
+        emit win->grid()->cellClicked(0, 1);
+        auto* tree = win->window->findChild<QTreeWidget*>("treeWSid");
+        tree->setCurrentItem(tree->topLevelItem(0));
+        boxes->expectMessage("", "Effacer un SID/STAR", "Effacer");
+        if (isRefused)
+            boxes->expectAnyMessage();
+        boxes->expectMessage("Effacement STAR", "La STAR " + name + " a été effacé");
+        win->click("pbDelSID");
+        QVERIFY(boxes->allUsed());
+        if (isRefused)
+            QCOMPARE(boxes->seen().value(1).title, QString("SQL Error"));
+        QCOMPARE(rows->names(), left);
+        QCOMPARE(outline(*tree), QString());
+    }
+
+private:
+    /// Stores the plan, which is said to have worked out.
+    void store(const ProcedureKind& kind, const QString& name)
+    {
+        boxes->expectInput(kind.nameTitle, kind.nameLabel, name);
+        boxes->expectMessage(kind.storedTitle, QString(kind.storedText).replace("%1", name));
+        win->click(kind.button);
+        QVERIFY(boxes->allUsed());
+    }
+
+    QScopedPointer<BoxResponder> boxes;
+    QScopedPointer<PlanWindow> win;
+    QScopedPointer<StoredProcedures> rows;
+};
+
+QTEST_MAIN(TestProcedureNames)
+#include "tst_procedurenames.moc"
