@@ -57,7 +57,7 @@ private slots:
         CNavGlobalVar& navVar = located();
         QVERIFY(responder.allUsed());
         // The question starts at the program's own folder; the answer need not hold the simulator.
-        QCOMPARE(responder.seen().first().value, QCoreApplication::applicationDirPath());
+        QCOMPARE(responder.seen().value(0).value, QCoreApplication::applicationDirPath());
         QCOMPARE(navVar.dirZephan.path(), sandbox.path("Flightplan"));
         QCOMPARE(log.startingWith("dirZephan"), (QStringList{quoted("dirZephan", sandbox.root()), "dirZephan not found",
                                                              quoted("dirZephan", sandbox.path("Flightplan"))}));
@@ -88,7 +88,7 @@ private slots:
         MessageLog log;
         CNavGlobalVar& navVar = located();
         QVERIFY(responder.allUsed());
-        QCOMPARE(responder.seen().first().value, QCoreApplication::applicationDirPath());
+        QCOMPARE(responder.seen().value(0).value, QCoreApplication::applicationDirPath());
         QCOMPARE(navVar.dirWork.path(), sandbox.path("Work"));
         QCOMPARE(log.startingWith("dirWork"),
                  (QStringList{"dirWork not found", quoted("dirWork", sandbox.path("Work"))}));

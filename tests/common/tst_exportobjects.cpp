@@ -74,7 +74,7 @@ void TestExportObjects::anObjectWithItsTexture()
                         "M3D;MOD;+;TOWER.SMF;1;0;TOWER.TGA;90.5;-1.25;0;2;3;01ff;0a;0b;0c\n"
                         "M3D;TEXTURE;-;xname;TOWER.TGA;\n"
                         "M3D;TEXTURE;+;TOWER.TGA;1;1;0a0b0c0d\n"));
-    QCOMPARE(world.boxes.seen().first().icon, QMessageBox::Information);
+    QCOMPARE(world.boxes.seen().value(0).icon, QMessageBox::Information);
 }
 
 void TestExportObjects::anObjectWithItsCompanion()
@@ -164,7 +164,7 @@ void TestExportObjects::anObjectThatIsNotThere()
     world.sandbox.writeFile("t.CSV", "old");
     world.boxes.expectMessage("Erreur SQL", "Impossible de trouver l'objet T.SMF dans la base de donnée M3D.db");
     QVERIFY(!world.exchange.exportM3D(dbfile::m3d, "T.SMF", world.sandbox.path("t.CSV")));
-    QCOMPARE(world.boxes.seen().first().icon, QMessageBox::Warning);
+    QCOMPARE(world.boxes.seen().value(0).icon, QMessageBox::Warning);
     QCOMPARE(world.logged(QtWarningMsg),
              QStringList{"MainWindow::on_btn3DObjectExport_clicked Object \"T.SMF\" \"M3D.db\" not found"});
     QCOMPARE(world.sandbox.readFile("t.CSV"), QByteArray("old"));
@@ -191,7 +191,7 @@ void TestExportObjects::anObjectsExistingFileIsKeptOnNo()
     world.boxes.expectMessage("Attention", existsText(path), QMessageBox::No);
     QVERIFY(!world.exchange.exportM3D(dbfile::m3d, "T.SMF", path));
     QCOMPARE(world.sandbox.readFile("t.CSV"), QByteArray("old"));
-    QCOMPARE(world.boxes.seen().first().icon, QMessageBox::Question);
+    QCOMPARE(world.boxes.seen().value(0).icon, QMessageBox::Question);
 }
 
 void TestExportObjects::anObjectsFileThatCannotBeOpenedIsASuccess()
@@ -227,7 +227,7 @@ void TestExportObjects::aProjectWithItsObjects()
                                                             "OBJ;OBJ;+;7;;;;;;;;;;;;;;;;;;MAST;;5;;\n"
                                                             "OBJ;OBJ;-;scn;7;\n"
                                                             "OBJ;OBJ;+;7;;;;;;;;;;;;;;;;;;TOWER;;7;;\n"));
-    QCOMPARE(world.boxes.seen().first().icon, QMessageBox::Information);
+    QCOMPARE(world.boxes.seen().value(0).icon, QMessageBox::Information);
 }
 
 void TestExportObjects::aProjectsFolderIsMade()
@@ -259,7 +259,7 @@ void TestExportObjects::aProjectThatIsNotThere()
     world.boxes.expectMessage("Erreur SQL", "Impossible de trouver le projet Orly dans la base de donnée OBJ.db");
     QVERIFY(!world.exchange.exportOBJ(dbfile::obj, QDir(world.sandbox.path("Work")), "Orly",
                                       world.sandbox.path("orly.CSV")));
-    QCOMPARE(world.boxes.seen().first().icon, QMessageBox::Warning);
+    QCOMPARE(world.boxes.seen().value(0).icon, QMessageBox::Warning);
     QCOMPARE(world.logged(QtWarningMsg), QStringList{"CIODataBase::exportOBJ Project \"Orly\" \"OBJ.db\" not found"});
     QVERIFY(!QDir(world.sandbox.path("Work/Orly")).exists());
     QVERIFY(!world.sandbox.hasFile("orly.CSV"));

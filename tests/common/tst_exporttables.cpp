@@ -46,7 +46,7 @@ void TestExportTables::allNavaids()
     QVERIFY(world.exchange.exportAllNAV(dbfile::gen, path));
     QCOMPARE(world.sandbox.readFile("nav.CSV"),
              QByteArray(oneNavaid + "GEN;NAV;+;;B1;;a;b;110.123456789;;;;;;;;;;;;;;\n"));
-    QCOMPARE(world.boxes.seen().last().icon, QMessageBox::Information);
+    QCOMPARE(world.boxes.seen().value(1).icon, QMessageBox::Information);
 }
 
 void TestExportTables::allWaypoints()
@@ -101,8 +101,8 @@ void TestExportTables::anExistingFileIsKeptOnNo()
     world.boxes.expectMessage("Attention", existsText(path), QMessageBox::No);
     QVERIFY(!world.exchange.exportAllWPT(dbfile::wpt, path));
     QCOMPARE(world.sandbox.readFile("old.CSV"), QByteArray("old"));
-    QCOMPARE(world.boxes.seen().first().icon, QMessageBox::Question);
-    QCOMPARE(world.boxes.seen().first().choices.size(), 2);
+    QCOMPARE(world.boxes.seen().value(0).icon, QMessageBox::Question);
+    QCOMPARE(world.boxes.seen().value(0).choices.size(), 2);
 }
 
 void TestExportTables::anExistingFileIsWrittenOverOnYes()
@@ -125,7 +125,7 @@ void TestExportTables::aFileOfAllNavaidsThatCannotBeOpened()
     const QString text = "exportNAV: Impossible d'ouvrir le fichier " + path;
     world.boxes.expectMessage("Erreur CSV", text);
     QVERIFY(!world.exchange.exportAllNAV(dbfile::gen, path));
-    QCOMPARE(world.boxes.seen().first().icon, QMessageBox::Warning);
+    QCOMPARE(world.boxes.seen().value(0).icon, QMessageBox::Warning);
     QCOMPARE(world.logged(QtWarningMsg), QStringList{"CIODataBase::exportNAV \"" + text + '"'});
 }
 

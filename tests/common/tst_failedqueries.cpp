@@ -153,8 +153,8 @@ private slots:
         responder.expectMessage(errorTitle, errorStart + "SELECT * from MISSING; no such table: MISSING "
                                                          "Unable to execute statement");
         QVERIFY(!sqlMgr.selectAll(query, "MISSING"));
-        QCOMPARE(responder.seen().first().icon, QMessageBox::Information);
-        QCOMPARE(responder.seen().first().choices.size(), 1);
+        QCOMPARE(responder.seen().value(0).icon, QMessageBox::Information);
+        QCOMPARE(responder.seen().value(0).choices.size(), 1);
     }
 
     void aQuoteInTheKeyBreaksTheStatement()
@@ -167,8 +167,8 @@ private slots:
         responder.expectAnyMessage();
         QVERIFY(!sqlMgr.getRWY("LF\"PO", true, query));
         QVERIFY(responder.allUsed());
-        QCOMPARE(responder.seen().first().title, errorTitle);
-        QVERIFY(responder.seen().first().text.startsWith(errorStart + "SELECT * FROM RWY WHERE rapt = \"LF\"PO\" "));
+        QCOMPARE(responder.seen().value(0).title, errorTitle);
+        QVERIFY(responder.seen().value(0).text.startsWith(errorStart + "SELECT * FROM RWY WHERE rapt = \"LF\"PO\" "));
     }
 
     void aBoundaryLookupFailsTwiceInTheRouteDatabase()

@@ -140,8 +140,8 @@ void TestImportDeletes::anAcceptedWholeTableMeetsTheStrayParenthesis()
     QVERIFY(world.importToTheEnd("GEN;NAV;-;ukey;;\n" + navaidLine("B1") + '\n'));
     QCOMPARE(world.titles(), (QStringList{"Attention", "SQL Error", "Importation"}));
     QVERIFY(world.sqlErrors().value(0).startsWith("DELETE FROM NAV ) "));
-    QCOMPARE(world.boxes.seen().first().icon, QMessageBox::Warning);
-    QCOMPARE(world.boxes.seen().first().choices.size(), 2);
+    QCOMPARE(world.boxes.seen().value(0).icon, QMessageBox::Warning);
+    QCOMPARE(world.boxes.seen().value(0).choices.size(), 2);
     QCOMPARE(world.column(dbfile::gen, navKeys), QString("B1 RBT"));
 }
 
@@ -152,7 +152,7 @@ void TestImportDeletes::aCancelledWholeTableGoesOnWithTheNextLine()
     world.boxes.expectMessage("Attention", wholeTable, QMessageBox::Cancel);
     world.boxes.expectMessage("Import", "L'import a été annulé.");
     QVERIFY(world.importToTheEnd("GEN;NAV;-;ukey;\n" + navaidLine("B1") + '\n'));
-    QCOMPARE(world.boxes.seen().at(1).icon, QMessageBox::Information);
+    QCOMPARE(world.boxes.seen().value(1).icon, QMessageBox::Information);
     QCOMPARE(world.column(dbfile::gen, navKeys), QString("B1 RBT"));
 }
 

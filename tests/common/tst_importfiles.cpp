@@ -60,7 +60,7 @@ void TestImportFiles::theDialogAsksForUpdateFiles()
         dialog->reject();
     });
     world.exchange.importFiles(world.variables.get());
-    const SeenBox& dialog = world.boxes.seen().first();
+    const SeenBox dialog = world.boxes.seen().value(0);
     QCOMPARE(dialog.title, dialogTitle);
     QCOMPARE(dialog.choices, (QStringList{"Fichier Zephan Export (*.CSV)", "Tous (*.*)"}));
     QCOMPARE(mode, QFileDialog::ExistingFiles);

@@ -114,7 +114,7 @@ void TestImportRefusals::unknownDatabase()
     UpdateWorld world;
     world.boxes.expectMessage("Erreur SQL", text);
     QVERIFY(!world.import(world.write(navaidLine("A1") + '\n' + line + "\r\n" + navaidLine("B1") + '\n')));
-    QCOMPARE(world.boxes.seen().first().icon, QMessageBox::Warning);
+    QCOMPARE(world.boxes.seen().value(0).icon, QMessageBox::Warning);
     QCOMPARE(world.column(dbfile::gen, navKeys), QString("A1"));
     const QStringList warnings = world.logged(QtWarningMsg);
     QCOMPARE(warnings.size(), 1);
@@ -148,7 +148,7 @@ void TestImportRefusals::unknownTable()
     UpdateWorld world;
     world.boxes.expectMessage("Erreur SQL", text);
     QVERIFY(!world.import(world.write(navaidLine("A1") + '\n' + line + '\n' + navaidLine("B1") + '\n')));
-    QCOMPARE(world.boxes.seen().first().icon, QMessageBox::Warning);
+    QCOMPARE(world.boxes.seen().value(0).icon, QMessageBox::Warning);
     QCOMPARE(world.column(dbfile::gen, navKeys), QString("A1"));
     const QStringList warnings = world.logged(QtWarningMsg);
     QCOMPARE(warnings.size(), 1);
@@ -234,7 +234,7 @@ void TestImportRefusals::theEndBoxFollowsAlsoWhereEveryRowFailed()
     world.expectSqlError();
     QVERIFY(world.importToTheEnd(navaidLine("A1") + '\n' + navaidLine("B1") + '\n'));
     QCOMPARE(world.titles(), (QStringList{"SQL Error", "SQL Error", "Importation"}));
-    QCOMPARE(world.boxes.seen().last().icon, QMessageBox::Information);
+    QCOMPARE(world.boxes.seen().value(2).icon, QMessageBox::Information);
 }
 
 void TestImportRefusals::errorsOfAnEarlierFileAreForgotten()
@@ -257,7 +257,7 @@ void TestImportRefusals::errorsGatheredInAFileAreShownAtItsEnd()
     world.boxes.expectMessage("Import", "L'import a été annulé.");
     world.boxes.expectMessage("Erreur SQL", "Il y a eu des erreurs à l'importation\none\ntwo");
     QVERIFY(!world.import(world.write("GEN;NAV;-;ukey;\n" + navaidLine("A1"))));
-    QCOMPARE(world.boxes.seen().last().icon, QMessageBox::Warning);
+    QCOMPARE(world.boxes.seen().value(2).icon, QMessageBox::Warning);
     QCOMPARE(world.logged(QtWarningMsg), QStringList{"\"Il y a eu des erreurs à l'importation\\none\\ntwo\""});
     QCOMPARE(world.column(dbfile::gen, navKeys), QString("A1"));
 }

@@ -178,7 +178,7 @@ private slots:
         responder.expectAnyMessage();
         method(sqlMgr, "12", query);
         QCOMPARE(responder.seen().size(), 1);
-        QTEST(statementOf(responder.seen().first()), "statement");
+        QTEST(statementOf(responder.seen().value(0)), "statement");
     }
 
     void selectAllReadsATable()

@@ -69,8 +69,8 @@ private slots:
         MessageLog log;
         sqlMgr.addDB("GEN.db", sandbox.path("nowhere"));
         QVERIFY(responder.allUsed());
-        QCOMPARE(responder.seen().first().icon, QMessageBox::Critical);
-        QCOMPARE(responder.seen().first().choices.size(), 1);
+        QCOMPARE(responder.seen().value(0).icon, QMessageBox::Critical);
+        QCOMPARE(responder.seen().value(0).choices.size(), 1);
         QCOMPARE(log.startingWith("Database not found"),
                  QStringList{QString("Database not found \"GEN.db\" \"%1\"").arg(sandbox.path("nowhere"))});
         QVERIFY(QSqlDatabase::contains("GEN.db"));

@@ -491,8 +491,8 @@ void TestCDialogNav::aQuoteInTheIdentifierIsReported()
     openNew();
     boxes->expectAnyMessage();
     typeInto(*dialog, "leIden", "\"");
-    QCOMPARE(boxes->seen().first().title, QString("SQL Error"));
-    QVERIFY(boxes->seen().first().text.startsWith("One of the query failed to execute.Error detail: "
+    QCOMPARE(boxes->seen().value(0).title, QString("SQL Error"));
+    QVERIFY(boxes->seen().value(0).text.startsWith("One of the query failed to execute.Error detail: "
                                                   "SELECT COUNT(ukey) FROM NAV WHERE ukey LIKE \"\"1%\"; "));
     QCOMPARE(textOf(*dialog, "leUkey"), QString("\"1FR"));
 }

@@ -411,8 +411,8 @@ void TestNavSaving::aRefusedRowIsReportedAndTheRestIsDone()
                          "Le fichier d'export pour NAVSAVING'\na été enregistré dans " + data->shownName("NAVSAVING'"));
     press(*dialog, "pbOK");
     QVERIFY(boxes->allUsed());
-    QCOMPARE(boxes->seen().first().title, QString("SQL Error"));
-    QVERIFY(boxes->seen().first().text.startsWith(
+    QCOMPARE(boxes->seen().value(0).title, QString("SQL Error"));
+    QVERIFY(boxes->seen().value(0).text.startsWith(
         "One of the query failed to execute.Error detail: REPLACE INTO NAV VALUES "
         "('65702','ABB1FR','ABB','NAVSAVING'','108','0','0','FR','','1','0','1','172800.00','7200.00','0','0','0') "));
     QCOMPARE(world->count(dbfile::gen, "NAV"), 0);

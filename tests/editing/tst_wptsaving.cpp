@@ -292,8 +292,8 @@ void TestWptSaving::aRefusedRowIsReportedAndTheRestIsDone()
                          "Le fichier d'export pour WPTSAVING'\na été enregistré dans " + data->shownName("WPTSAVING'"));
     press(*dialog, "pbOK");
     QVERIFY(boxes->allUsed());
-    QCOMPARE(boxes->seen().first().title, QString("SQL Error"));
-    QVERIFY(boxes->seen().first().text.startsWith(
+    QCOMPARE(boxes->seen().value(0).title, QString("SQL Error"));
+    QVERIFY(boxes->seen().value(0).text.startsWith(
         "One of the query failed to execute.Error detail: REPLACE INTO WPT VALUES "
         "('65702','WPTS','KEY','WPTSAVING'','FR','','78','0','1','172800.00','7200.00','0','0','0','0','') "));
     QCOMPARE(world->count(dbfile::wpt, "WPT"), 0);
@@ -307,7 +307,7 @@ void TestWptSaving::aMissingTableIsReportedAndTheRestIsDone()
     world->sandbox.sql(dbfile::wpt, "DROP TABLE WPT");
     boxes->expectAnyMessage();
     press(*dialog, "pbOK");
-    QCOMPARE(boxes->seen().first().title, QString("SQL Error"));
+    QCOMPARE(boxes->seen().value(0).title, QString("SQL Error"));
     QCOMPARE(dialog->result(), 1);
     QVERIFY(!dialog->script.isEmpty());
 }

@@ -200,8 +200,8 @@ private slots:
         boxes.expectAnyMessage();
         const CFpLine start = on.plan.startOfAirport("LFXX");
         QCOMPARE(boxes.seen().size(), 1);
-        QCOMPARE(boxes.seen().first().title, QString("SQL Error"));
-        QVERIFY(boxes.seen().first().text.contains("rapt = \"LFXX\""));
+        QCOMPARE(boxes.seen().value(0).title, QString("SQL Error"));
+        QVERIFY(boxes.seen().value(0).text.contains("rapt = \"LFXX\""));
         QCOMPARE(start.latS, 0.0);
         QCOMPARE(start.lonS, 0.0);
         QCOMPARE(start.elev, 0);

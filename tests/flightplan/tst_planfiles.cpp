@@ -133,8 +133,8 @@ private slots:
         QVERIFY(on.plan.lines.first()->dist > 10.0);
         QCOMPARE(on.plan.currentLine, on.plan.lines.last());
         QCOMPARE(boxes.seen().size(), 1);
-        QCOMPARE(boxes.seen().first().choices, QStringList{"Fichier plan de vol (*.fpl)"});
-        QCOMPARE(boxes.seen().first().value, on.sandbox.path("Flightplan"));
+        QCOMPARE(boxes.seen().value(0).choices, QStringList{"Fichier plan de vol (*.fpl)"});
+        QCOMPARE(boxes.seen().value(0).value, on.sandbox.path("Flightplan"));
     }
 
     void loadedLinesTakeTheSpeedOfTheAircraft()

@@ -135,7 +135,7 @@ private slots:
         }
         QVERIFY(findWaypoints(on.plan, "BAMES", true).isEmpty());
         QVERIFY(boxes.allUsed());
-        QCOMPARE(boxes.seen().first().title, QString("SQL Error"));
+        QCOMPARE(boxes.seen().value(0).title, QString("SQL Error"));
     }
 };
 

@@ -214,7 +214,7 @@ private slots:
         BoxResponder boxes;
         boxes.expectAnyMessage();
         QVERIFY(on.plan.saveSit("X.SIT"));
-        QCOMPARE(boxes.seen().first().title, QString("SQL Error"));
+        QCOMPARE(boxes.seen().value(0).title, QString("SQL Error"));
         QVERIFY(on.sandbox.readFile("Saved Simulations/X.SIT")
                     .contains("\n\t\t00 00' 00.00\" N\n\t\t000 00' 00.00\" E\n\t\t0\n"));
     }

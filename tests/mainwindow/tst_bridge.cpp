@@ -227,7 +227,7 @@ void TestBridge::boxInsideASlotOfThePageBlocksItsScript()
     boxes.expectAnyMessage();
     evaluate("mainWindow.doData('before the box'); mainWindow.sAddAptToFp('LFPO'); mainWindow.doData('after the box')");
     QVERIFY(boxes.allUsed());
-    QCOMPARE(boxes.seen().first().title, QString("SQL Error"));
+    QCOMPARE(boxes.seen().value(0).title, QString("SQL Error"));
     QCOMPARE(session->find<QLabel>("lblData")->text(), QString("after the box"));
     QCOMPARE(session->find<QTableWidget>("fltplnGrid")->rowCount(), 1);
 }

@@ -453,7 +453,7 @@ void TestNavdataEdits::withoutDatabasesTheLookUpIsReported()
     session->window().sAddWptToDB("ABLAN-ABLANFR", 0, 0);
     QVERIFY(boxes->allUsed());
     for (int step = 0; step < 3; ++step)
-        QCOMPARE(boxes->seen().at(step).title, QString("SQL Error"));
+        QCOMPARE(boxes->seen().value(step).title, QString("SQL Error"));
 }
 
 void TestNavdataEdits::withoutDatabasesANewRowIsReported()
@@ -472,8 +472,8 @@ void TestNavdataEdits::withoutDatabasesANewRowIsReported()
     });
     session->window().sAddNavToDB("", 46.5, 2.5);
     QVERIFY(boxes->allUsed());
-    QCOMPARE(boxes->seen().at(1).title, QString("SQL Error"));
-    QCOMPARE(boxes->seen().at(2).title, QString("SQL Error"));
+    QCOMPARE(boxes->seen().value(1).title, QString("SQL Error"));
+    QCOMPARE(boxes->seen().value(2).title, QString("SQL Error"));
 }
 
 QTEST_MAIN(TestNavdataEdits)

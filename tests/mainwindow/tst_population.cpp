@@ -348,9 +348,9 @@ void TestPopulation::failedStageLeavesTheOthers()
     boxes.expectAnyMessage();
     load();
     QCOMPARE(boxes.seen().size(), 1);
-    QCOMPARE(boxes.seen().first().title, QString("SQL Error"));
+    QCOMPARE(boxes.seen().value(0).title, QString("SQL Error"));
     QVERIFY(
-        boxes.seen().first().text.startsWith("One of the query failed to execute.Error detail: SELECT * from APT; "));
+        boxes.seen().value(0).text.startsWith("One of the query failed to execute.Error detail: SELECT * from APT; "));
     QCOMPARE(session->debugLines(), (QStringList{"Navaid: 1 éléments chargés", "Waypoint: 1 élément chargés",
                                                  "ATS: 0 élément chargés", "Chargement terminé"}));
 }

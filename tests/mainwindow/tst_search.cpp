@@ -305,8 +305,8 @@ void TestSearch::doubleQuoteShowsTheErrorAndGoesOn()
     QCOMPARE(boxes.seen().size(), 9);
     for (const SeenBox& box : boxes.seen())
         QCOMPARE(box.title, QString("SQL Error"));
-    QVERIFY(boxes.seen().first().text.contains("SELECT * FROM APT WHERE ukey = \"A\"B\""));
-    QVERIFY(boxes.seen().last().text.contains("SELECT * FROM WPT WHERE name = \"A\"B\""));
+    QVERIFY(boxes.seen().value(0).text.contains("SELECT * FROM APT WHERE ukey = \"A\"B\""));
+    QVERIFY(boxes.seen().value(8).text.contains("SELECT * FROM WPT WHERE name = \"A\"B\""));
 }
 
 void TestSearch::foundLinesTakeSpeedAndAltitudeFromTheDock()

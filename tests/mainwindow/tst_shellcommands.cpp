@@ -107,8 +107,8 @@ void TestShellCommands::aboutBox()
     boxes.expectAnyMessage();
     session->action("actionAbout")->trigger();
     QCOMPARE(boxes.seen().size(), 1);
-    QCOMPARE(boxes.seen().first().title, QString("A propos de Zephan Trajector"));
-    const QStringList lines = boxes.seen().first().text.split(QRegularExpression("\n|<br */?>"));
+    QCOMPARE(boxes.seen().value(0).title, QString("A propos de Zephan Trajector"));
+    const QStringList lines = boxes.seen().value(0).text.split(QRegularExpression("\n|<br */?>"));
     QVERIFY(lines.size() >= 2);
     QVERIFY(lines.first().contains("Zephan Trajector"));
     QVERIFY(lines.last().contains("version 0.22 novembre 2013"));
@@ -120,7 +120,7 @@ void TestShellCommands::aboutQtBox()
     boxes.expectAnyMessage();
     session->action("actionAboutQt")->trigger();
     QCOMPARE(boxes.seen().size(), 1);
-    QVERIFY(boxes.seen().first().text.contains("Qt"));
+    QVERIFY(boxes.seen().value(0).text.contains("Qt"));
 }
 
 void TestShellCommands::ctrlNAsksForANewPlan()

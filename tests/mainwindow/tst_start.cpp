@@ -98,7 +98,7 @@ void TestStart::firstStartAsksForTheWorkFolderAndKeepsIt()
     boxes.expectFiles("Sélectionner le répertoire de travail", {sandbox.path("Work")});
     WindowSession session;
     QVERIFY(boxes.allUsed());
-    QCOMPARE(boxes.seen().first().value, QCoreApplication::applicationDirPath());
+    QCOMPARE(boxes.seen().value(0).value, QCoreApplication::applicationDirPath());
     QCOMPARE(labels(log.messages(QtDebugMsg)).mid(3, 2), (QStringList{"dirWork not found", "dirWork"}));
     QCOMPARE(CNavGlobalVar::instance()->dirWork.path(), sandbox.path("Work"));
     session.close();
@@ -133,7 +133,7 @@ void TestStart::missingRootIsAskedFor()
     boxes.expectFiles("Sélectionner le répertoire de Aeo Zephan", {sandbox.root()});
     WindowSession session;
     QVERIFY(boxes.allUsed());
-    QCOMPARE(boxes.seen().first().value, QCoreApplication::applicationDirPath());
+    QCOMPARE(boxes.seen().value(0).value, QCoreApplication::applicationDirPath());
     QCOMPARE(labels(log.messages(QtDebugMsg)).mid(2, 3),
              (QStringList{"dirZephan", "dirZephan not found", "dirZephan"}));
     QCOMPARE(CNavGlobalVar::instance()->dirZephan.path(), sandbox.root());

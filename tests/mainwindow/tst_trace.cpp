@@ -229,9 +229,9 @@ void TestTrace::aRefusedBlockIsToldAndLeavesTheButtonChecked()
              (QStringList{"Error CreateFileMapping", "Trace failed", "NAVIGATION: Disconnect"}));
     QVERIFY(trace->traceButton()->isChecked());
     QCOMPARE(trace->boxes.seen().size(), 1);
-    QCOMPARE(trace->boxes.seen().at(0).icon, QMessageBox::Warning);
-    QCOMPARE(trace->boxes.seen().at(0).choices, QStringList{"OK"});
-    QCOMPARE(trace->boxes.seen().at(0).parentClass, QString("MainWindow"));
+    QCOMPARE(trace->boxes.seen().value(0).icon, QMessageBox::Warning);
+    QCOMPARE(trace->boxes.seen().value(0).choices, QStringList{"OK"});
+    QCOMPARE(trace->boxes.seen().value(0).parentClass, QString("MainWindow"));
     QCOMPARE(trace->tick(), QStringList());
 }
 

@@ -20,7 +20,7 @@ private slots:
         QCOMPARE(QMessageBox::question(nullptr, "Titre", "Texte"), QMessageBox::No);
         QVERIFY(boxes.allUsed());
         QCOMPARE(boxes.seen().size(), 1);
-        QCOMPARE(boxes.seen().first().icon, QMessageBox::Question);
+        QCOMPARE(boxes.seen().value(0).icon, QMessageBox::Question);
     }
 
     void tellsWhatABoxStandsOver()
@@ -31,8 +31,8 @@ private slots:
         QDialog window;
         QMessageBox::information(&window, "Titre", "Texte");
         QMessageBox::information(nullptr, "Titre", "Texte");
-        QCOMPARE(boxes.seen().at(0).parentClass, QString("QDialog"));
-        QCOMPARE(boxes.seen().at(1).parentClass, QString());
+        QCOMPARE(boxes.seen().value(0).parentClass, QString("QDialog"));
+        QCOMPARE(boxes.seen().value(1).parentClass, QString());
     }
 
     void pressesAButtonOfItsOwn()
@@ -44,7 +44,7 @@ private slots:
         QAbstractButton* erase = box.addButton("Effacer", QMessageBox::AcceptRole);
         box.exec();
         QCOMPARE(box.clickedButton(), erase);
-        QCOMPARE(boxes.seen().first().choices.size(), 2);
+        QCOMPARE(boxes.seen().value(0).choices.size(), 2);
     }
 
     void reportsABoxThatNobodyExpected()
@@ -109,7 +109,7 @@ private slots:
         bool accepted = true;
         QInputDialog::getText(nullptr, "Titre", "Nom", QLineEdit::Normal, "x", &accepted);
         QVERIFY(!accepted);
-        QCOMPARE(boxes.seen().at(1).choices, (QStringList{"A", "B", "C"}));
+        QCOMPARE(boxes.seen().value(1).choices, (QStringList{"A", "B", "C"}));
     }
 
     void reportsAnItemThatIsNotInTheList()
@@ -139,8 +139,8 @@ private slots:
         QCOMPARE(QFileDialog::getExistingDirectory(nullptr, "Dossier"), folder.path());
         QCOMPARE(QFileDialog::getSaveFileName(nullptr, "Enregistrer"), folder.filePath("neu.CSV"));
         QCOMPARE(QFileDialog::getOpenFileName(nullptr, "Ouvrir", folder.path()), QString());
-        QCOMPARE(boxes.seen().first().choices, QStringList{"CSV (*.CSV)"});
-        QCOMPARE(boxes.seen().last().value, folder.path());
+        QCOMPARE(boxes.seen().value(0).choices, QStringList{"CSV (*.CSV)"});
+        QCOMPARE(boxes.seen().value(4).value, folder.path());
     }
 
     void drivesADialogThatOpensABox()
