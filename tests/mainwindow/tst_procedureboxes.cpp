@@ -106,16 +106,16 @@ private slots:
         QCOMPARE(rows->names(), QString("A1"));
     }
 
-    void aPlanThatIsEmptyBehindTheNameIsNotStored_data()
+    void aPlanEmptiedWhileTheNameIsAskedForIsNotStored_data()
     {
         addBothKinds();
     }
-    void aPlanThatIsEmptyBehindTheNameIsNotStored()
+    void aPlanEmptiedWhileTheNameIsAskedForIsNotStored()
     {
         QFETCH(ProcedureKind, kind);
         rows->addProcedure("A1", 2, {"BAMES"});
         win->add({"LFPO"});
-        deleteLineBehindName(0);
+        deleteLineBeforeName(0);
         win->click(kind.button);
         QVERIFY(boxes->allUsed());
         QCOMPARE(boxes->seen().size(), 1);
@@ -123,38 +123,38 @@ private slots:
         QCOMPARE(rows->stored().size(), 1); // the older one of that name
     }
 
-    void thePlanBehindTheNameIsStored_data()
+    void thePlanIsStoredAsItIsAfterTheName_data()
     {
         bothLines();
         // Whether it is still an airport is not asked again.
         QTest::newRow("SID, no airport") << sid << "LFPO PGS-N1" << 0 << "0;A110;N1;A1;10;2;PGS;1;300;175800;9000";
         QTest::newRow("STAR, no airport") << star << "PGS-N1 LFPO" << 1 << "0;A110;N1;A1;10;1;PGS;1;300;175800;9000";
     }
-    void thePlanBehindTheNameIsStored()
+    void thePlanIsStoredAsItIsAfterTheName()
     {
         QFETCH(ProcedureKind, kind);
         QFETCH(QString, points);
         QFETCH(int, deleted);
         QFETCH(QString, stored);
         win->add(points.split(' '));
-        deleteLineBehindName(deleted);
+        deleteLineBeforeName(deleted);
         boxes->expectMessage(kind.storedTitle, QString(kind.storedText).replace("%1", "A1"));
         win->click(kind.button);
         QVERIFY(boxes->allUsed());
         QCOMPARE(rows->stored(), QStringList{stored});
     }
 
-    void theTreesAreThoseOfTheAirportBehindTheName_data()
+    void theTreesAreThoseOfTheAirportAfterTheName_data()
     {
         bothLines();
     }
-    void theTreesAreThoseOfTheAirportBehindTheName()
+    void theTreesAreThoseOfTheAirportAfterTheName()
     {
         QFETCH(ProcedureKind, kind);
         QFETCH(QString, points);
         QFETCH(int, deleted);
         win->add(points.split(' '));
-        deleteLineBehindName(deleted);
+        deleteLineBeforeName(deleted);
         boxes->expectAnyMessage();
         win->click(kind.button);
         const QString airport = points.split(' ').value(1 - deleted);
@@ -211,7 +211,7 @@ private:
     }
 
     /// The name A1 is given after the page has taken a line out of the plan.
-    void deleteLineBehindName(int row)
+    void deleteLineBeforeName(int row)
     {
         win->setCurrent(row);
         boxes->expectDialog("QInputDialog", [this](QDialog* dialog) {
