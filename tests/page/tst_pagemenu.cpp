@@ -1,4 +1,4 @@
-// The context menu as such: submenus, greyed entries, keys, roles, and its place in the window.
+// The context menu under the mouse: submenus, greyed entries, roles, and its place in the window.
 #include "samplechart.h"
 
 #include <QtTest>
@@ -34,15 +34,6 @@ private slots:
     void aPointOfThePlanIsOfferedWithoutItsLayer();
     void aGreyedEntryDoesNothing();
     void anEntryWithoutAKeyInItsTitleIsGreyed();
-    void theArrowsWalkTheMenu();
-    void theArrowsEnterAndLeaveASubmenu();
-    void escapeClosesOnePanelAtATime();
-    void enterOnAGreyedEntryDoesNothing();
-    void theMapDoesNotMoveBelowTheMenu();
-    void theMenuKeyOpensTheMenuInTheMiddle_data();
-    void theMenuKeyOpensTheMenuInTheMiddle();
-    void theMenuKeyOpensTheMenuOfThePopUp();
-    void theSystemsOwnRequestDoesNotMoveTheMenu();
     void theRolesAreSet();
     void theMenuFollowsThePalette();
 
@@ -273,139 +264,6 @@ void TestPageMenu::anEntryWithoutAKeyInItsTitleIsGreyed()
     // What needs no key is there.
     QVERIFY(window->chooseEntry("Voies aériennes passant par ce point…"));
     QCOMPARE(commands(), QStringList{"sATS \"W-X-WXFR\" \"\""});
-}
-
-void TestPageMenu::theArrowsWalkTheMenu()
-{
-    menuAt(*window, ndb);
-    QCOMPARE(chosen(), QStringList());
-    window->pressKey(Qt::Key_Down);
-    QCOMPARE(chosen(), QStringList{"Ajouter au plan de vol"});
-    QCOMPARE(window->run("document.activeElement.textContent").toString(), "Ajouter au plan de vol");
-    window->pressKey(Qt::Key_Up);
-    QCOMPARE(chosen(), QStringList{"Carte ici"});
-    window->pressKey(Qt::Key_Down);
-    window->pressKey(Qt::Key_Down);
-    window->pressKey(Qt::Key_Down);
-    QCOMPARE(chosen(), QStringList{"Modifier le navaid…"});
-    window->pressKey(Qt::Key_End);
-    QCOMPARE(chosen(), QStringList{"Carte ici"});
-    window->pressKey(Qt::Key_Home);
-    window->pressKey(Qt::Key_Return);
-    QCOMPARE(commands(), QStringList{"sAddNavToFp \"MT-MT5FR\""});
-    QCOMPARE(panels(), 0);
-}
-
-void TestPageMenu::theArrowsEnterAndLeaveASubmenu()
-{
-    menuAt(*window, vorAndWaypoint);
-    window->pressKey(Qt::Key_Down);
-    window->pressKey(Qt::Key_Down);
-    window->pressKey(Qt::Key_Right);
-    QCOMPARE(panels(), 2);
-    QCOMPARE(chosen(), (QStringList{"Waypoint CGO", "Ajouter au plan de vol"}));
-    window->pressKey(Qt::Key_Left);
-    QCOMPARE(panels(), 1);
-    QCOMPARE(chosen(), QStringList{"Waypoint CGO"});
-    window->pressKey(Qt::Key_Left);
-    QCOMPARE(panels(), 1);
-    window->pressKey(Qt::Key_Return);
-    QCOMPARE(panels(), 2);
-    window->pressKey(Qt::Key_Return);
-    QCOMPARE(commands(), QStringList{"sAddWptToFp \"CGO-CGOFR\""});
-}
-
-void TestPageMenu::escapeClosesOnePanelAtATime()
-{
-    menuAt(*window, vorAndWaypoint);
-    window->pressKey(Qt::Key_Down);
-    window->pressKey(Qt::Key_Right);
-    QCOMPARE(panels(), 2);
-    window->pressKey(Qt::Key_Escape);
-    QCOMPARE(panels(), 1);
-    window->pressKey(Qt::Key_Escape);
-    QCOMPARE(panels(), 0);
-    QCOMPARE(window->run("document.activeElement.id").toString(), "chart");
-}
-
-void TestPageMenu::enterOnAGreyedEntryDoesNothing()
-{
-    menuAt(*window, oddWaypoint);
-    window->pressKey(Qt::Key_Down);
-    QCOMPARE(chosen(), QStringList{"Ajouter au plan de vol"});
-    window->pressKey(Qt::Key_Return);
-    QCOMPARE(panels(), 1);
-    QCOMPARE(commands(), QStringList());
-}
-
-void TestPageMenu::theMapDoesNotMoveBelowTheMenu()
-{
-    menuAt(*window, ndb);
-    for (Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Plus, Qt::Key_Minus, Qt::Key_PageDown})
-        window->pressKey(key);
-    window->settle();
-    QCOMPARE(window->run("map.getZoom()").toDouble(), 8.0);
-    QCOMPARE(window->run("map.getCenter().lat()").toDouble(), 46.7);
-    QCOMPARE(window->run("map.getCenter().lng()").toDouble(), 2.3);
-    QCOMPARE(panels(), 1);
-}
-
-void TestPageMenu::theMenuKeyOpensTheMenuInTheMiddle_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("modifiers");
-    QTest::newRow("Menu") << int(Qt::Key_Menu) << int(Qt::NoModifier);
-    QTest::newRow("Shift+F10") << int(Qt::Key_F10) << int(Qt::ShiftModifier);
-    QTest::newRow("Enter") << int(Qt::Key_Return) << int(Qt::NoModifier);
-}
-
-void TestPageMenu::theMenuKeyOpensTheMenuInTheMiddle()
-{
-    QFETCH(int, key);
-    QFETCH(int, modifiers);
-    window->run("map.setCenter(new google.maps.LatLng(46.40000, 2.60000));document.getElementById('chart').focus()");
-    window->mouse->moveTo({20, 20});
-    window->pressKey(Qt::Key(key), Qt::KeyboardModifiers(modifiers));
-    QCOMPARE(texts(*window, "#menu .menu-head"), QStringList{"NDB terminal MT"});
-    QCOMPARE(chosen(), QStringList{"Ajouter au plan de vol"});
-    const QRectF menu = box(*window, "#menu");
-    QVERIFY((menu.topLeft() - QPointF(400, 300)).manhattanLength() < 10);
-    window->pressKey(Qt::Key_Return);
-    QCOMPARE(commands(), QStringList{"sAddNavToFp \"MT-MT5FR\""});
-}
-
-void TestPageMenu::theMenuKeyOpensTheMenuOfThePopUp()
-{
-    window->click(airport.latitude, airport.longitude);
-    QVERIFY(window->popupText().startsWith("Airport LFLX"));
-    window->pressKey(Qt::Key_Menu);
-    QCOMPARE(texts(*window, "#menu .menu-head"), QStringList{"Aéroport LFLX"});
-    // Out of the view it is not what the user looks at.
-    window->pressKey(Qt::Key_Escape);
-    window->run("map.setCenter(new google.maps.LatLng(44.00000, 2.60000));");
-    window->pressKey(Qt::Key_Menu);
-    QCOMPARE(texts(*window, "#menu .menu-head"), QStringList{"Carte ici"});
-}
-
-void TestPageMenu::theSystemsOwnRequestDoesNotMoveTheMenu()
-{
-    // Systems send a request for a menu beside the key, some before it and some after it, at any place.
-    const QPoint anywhere(60, 500);
-    QContextMenuEvent request(QContextMenuEvent::Keyboard, anywhere, window->view->mapToGlobal(anywhere));
-    for (bool before : {true, false}) {
-        window->closeMenu();
-        window->mouse->moveTo({20, 20});
-        if (before)
-            QApplication::sendEvent(window->view, &request);
-        window->pressKey(Qt::Key_Menu);
-        if (!before)
-            QApplication::sendEvent(window->view, &request);
-        QCOMPARE(panels(), 1);
-        QVERIFY(qAbs(box(*window, "#menu").left() - 400) < 10);
-    }
-    // The mouse's next one counts.
-    window->mouse->contextMenu(anywhere);
-    QVERIFY(qAbs(box(*window, "#menu").left() - anywhere.x()) < 10);
 }
 
 void TestPageMenu::theRolesAreSet()
