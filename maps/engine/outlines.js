@@ -17,9 +17,7 @@
    * change its tone towards the shore. Rivers end in their lakes, the others lie over the fills in this order.
    */
   const shallows = { kind: 'land', colour: 'coast', width: 9, strength: 0.16, step: 3, fromZoom: 4.5 };
-  /** Nearer they would be too far from where they are: their courses are those of a map of a country. */
-  const riversEnd = 8.5;
-  const rivers = { kind: 'rivers', colour: 'coast', width: 1, strength: 0.6, step: leastStep, fromZoom: 0 };
+  const rivers = { kind: 'rivers', colour: 'coast', width: 1, strength: 0.8, step: leastStep, fromZoom: 0 };
   const lines = [
     { kind: 'borders', colour: 'border', width: 1.2, strength: 1, step: leastStep, fromZoom: 0 },
     { kind: 'lakes', colour: 'coast', width: 0.8, strength: 1, step: leastStep, fromZoom: 0 },
@@ -149,7 +147,7 @@
         land: pick(cell.lines.land),
         lakes: pick(cell.lines.lakes.filter(lake => frame.zoom < lake.last)),
         borders: pick(cell.lines.borders),
-        rivers: pick(cell.lines.rivers.filter(river => river.zoom <= frame.zoom && frame.zoom < riversEnd)),
+        rivers: pick(cell.lines.rivers.filter(river => frame.zoom < river.last)),
       };
     }
 

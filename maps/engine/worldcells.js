@@ -1,6 +1,6 @@
 /**
- * The world's coasts, borders, lakes and rivers out of `window.worldOutlines`, made when the project is built: cells of several
- * scales, each read when it comes into view for the first time.
+ * The world's coasts, borders, lakes and rivers out of `window.worldOutlines`, made when the project is built: cells of
+ * several scales, each read when it comes into view for the first time.
  */
 (function () {
   'use strict';
@@ -58,7 +58,7 @@
           land: cell.land.map(text => this.ring(text, cell)),
           lakes: cell.lakes.map(lake => Object.assign(this.ring(lake[1], cell), { last: lake[0] })),
           borders: cell.borders.map(text => this.line(decode(text))),
-          rivers: cell.rivers.map(river => Object.assign(this.line(decode(river[1])), { zoom: river[0] })),
+          rivers: cell.rivers.map(river => Object.assign(this.line(decode(river[1])), { last: river[0] })),
         };
       }
       return cell ? cell.lines : null;
