@@ -35,12 +35,15 @@
       page.continueTrail(position);
   };
 
-  /** Moves the aircraft; the picture is drawn again only when it turns. A tick with a value that is none is no tick. */
+  /**
+   * Moves the aircraft; the picture is drawn again only when it turns. A tick without a place is no tick, for a map that
+   * follows stands still then as well. Without a heading the aircraft keeps its last one, and goes where the map goes.
+   */
   page.moveAircraft = function (position, heading) {
-    if (!marker || !page.isPlace(position) || !isFinite(heading))
+    if (!marker || !page.isPlace(position))
       return;
     marker.setPosition(position);
-    if (page.heading(heading) !== drawn)
+    if (isFinite(heading) && page.heading(heading) !== drawn)
       marker.setIcon(iconFor(page.heading(heading)));
     page.continueTrail(position);
   };

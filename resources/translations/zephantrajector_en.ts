@@ -474,7 +474,7 @@ Do you want to continue?</translation>
     </message>
     <message>
         <source>Trace</source>
-        <translation>Track</translation>
+        <translation>Trace</translation>
     </message>
     <message>
         <source>Centre avion</source>

@@ -65,6 +65,11 @@ void MainWindow::sTraceAircraft()
     if (navPlug == nullptr || !navPlug->connected) {
         return;
     }
+    // While the block is cut short the marker stands still. What is left is a cut in the instant between this look and
+    // the reading.
+    if (!navPlug->mapping.holdsView()) {
+        return;
+    }
     const volatile AeoZephanNavRecord& record = *navPlug->record;
     const auto script = ui->pbCenterAcft->isChecked() ? mapscript::followAircraft : mapscript::moveAircraft;
     runMapScript(script(placeOf(record), record.heading));

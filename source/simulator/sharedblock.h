@@ -20,11 +20,16 @@ public:
     SharedBlock(const SharedBlock&) = delete;
     SharedBlock& operator=(const SharedBlock&) = delete;
 
-    /// Opens the block, or makes it. False when the system refuses, true also when already attached.
+    /// Opens the block, or makes it. True also when already attached: a block that somebody has cut short is then
+    /// brought to its size again. When the system refuses, false and not attached.
     bool attach();
     /// The block's first bytes, readable and writable; the same address until `release`. Null when not attached or when
     /// the system refuses.
     void* map();
+    /// Whether the attached block still has all bytes of the view. On POSIX any process of the user may cut it short
+    /// under a view, and an access to a byte that is gone ends the process; `attach` brings them back. On Windows a
+    /// block never shrinks. Cheap enough to be asked before each look. False when not attached.
+    bool holdsView() const;
     /// Gives the view back: its address is invalid from here on.
     void release();
     /// Leaves the block. A view that is still mapped stays valid.

@@ -34,20 +34,14 @@ SharedBlock::~SharedBlock()
 
 bool SharedBlock::attach()
 {
-    if (handle != none) {
-        return true;
+    if (handle == none) {
+        // The block is the logged-on user's own. A refusal is -1, which is `none`.
+        handle = shm_open(blockName, O_RDWR | O_CREAT, S_IRUSR | S_IWUSR);
     }
-    // The block is the logged-on user's own.
-    const int file = shm_open(blockName, O_RDWR | O_CREAT, S_IRUSR | S_IWUSR);
-    if (file < 0) {
-        return false;
+    if (handle != none && !reserve(static_cast<int>(handle))) {
+        detach();
     }
-    if (!reserve(file)) {
-        close(file);
-        return false;
-    }
-    handle = file;
-    return true;
+    return handle != none;
 }
 
 void* SharedBlock::map()
@@ -57,6 +51,13 @@ void* SharedBlock::map()
         view = address == MAP_FAILED ? nullptr : address;
     }
     return view;
+}
+
+bool SharedBlock::holdsView() const
+{
+    struct stat status = {};
+    return handle != none && fstat(static_cast<int>(handle), &status) == 0 &&
+           status.st_size >= static_cast<off_t>(viewSize);
 }
 
 void SharedBlock::release()

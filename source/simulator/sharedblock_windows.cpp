@@ -29,6 +29,11 @@ void* SharedBlock::map()
     return view;
 }
 
+bool SharedBlock::holdsView() const
+{
+    return handle != none;
+}
+
 void SharedBlock::release()
 {
     if (view != nullptr) {

@@ -21,6 +21,9 @@ private slots:
     void theAircraftTurnsOnOneCanvas();
     void anAircraftThatDoesNotTurnIsNotDrawnAgain();
     void anAircraftWithoutAPlaceStaysWhereItWas();
+    void anAircraftWithoutAHeadingGoesOnWithItsLast_data();
+    void anAircraftWithoutAHeadingGoesOnWithItsLast();
+    void anAircraftThatComesWithoutAHeadingLooksNorth();
     void theAircraftOfTheOtherSideShows();
     void thousandsOfTicksLeaveOneAircraft();
 
@@ -115,6 +118,41 @@ void TestPageAircraft::anAircraftWithoutAPlaceStaysWhereItWas()
     window->run("setAcftMrkr(new google.maps.LatLng(inf,-inf),nan);");
     QVERIFY(around(46.7, 2.3, aircraftColour) > 20);
     QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageAircraft::anAircraftWithoutAHeadingGoesOnWithItsLast_data()
+{
+    QTest::addColumn<QString>("heading");
+    for (const char* heading : {"nan", "inf", "-inf"})
+        QTest::newRow(heading) << heading;
+}
+
+void TestPageAircraft::anAircraftWithoutAHeadingGoesOnWithItsLast()
+{
+    QFETCH(const QString, heading);
+    window->run("addAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),\"\",0);");
+    window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),135);");
+    const QString place = "new google.maps.LatLng(46.20000, 2.80000)";
+    window->run(QString("setAcftMrkr(%1,%2);;map.setCenter(%1);").arg(place, heading));
+    QCOMPARE(around(46.7, 2.3, aircraftColour), 0);
+    QVERIFY(around(46.2, 2.8, aircraftColour) > 20);
+    const QImage picture = pictureAt(46.2, 2.8);
+    window->run(QString("setAcftMrkr(%1,135);").arg(place));
+    QCOMPARE(pictureAt(46.2, 2.8), picture);
+    window->run(QString("setAcftMrkr(%1,0);").arg(place));
+    QVERIFY(pictureAt(46.2, 2.8) != picture);
+    QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageAircraft::anAircraftThatComesWithoutAHeadingLooksNorth()
+{
+    window->run("addAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),\"\",nan);");
+    const QImage picture = pictureAt(46.7, 2.3);
+    QVERIFY(around(46.7, 2.3, aircraftColour) > 20);
+    window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),0);");
+    QCOMPARE(pictureAt(46.7, 2.3), picture);
+    window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),90);");
+    QVERIFY(pictureAt(46.7, 2.3) != picture);
 }
 
 void TestPageAircraft::theAircraftOfTheOtherSideShows()

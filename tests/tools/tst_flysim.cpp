@@ -2,6 +2,8 @@
 #include "aeozephannavrecord.h"
 #include "sharedblock.h"
 
+#include <QElapsedTimer>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -35,6 +37,10 @@ private slots:
     void aPlanIsFlownAgainWhenAsked();
     void pointsWithoutAPositionAreToldAndLeftOut();
     void theStatusIsPrinted();
+    void theStatusTellsTheLastPoint();
+    void speedAndFactorAreObeyed();
+    void theRateIsObeyed();
+    void aBlockThatIsCutShortIsMadeWholeAgain();
     void aMissingBlockIsMade();
     void itEndsCleanlyOnCtrlC();
     void itEndsCleanlyOnATerminationRequest();
@@ -253,6 +259,57 @@ void TestFlySim::theStatusIsPrinted()
     start({"--plan", plan, "--speed", "0"});
     TRY_VERIFY(flysim->canReadLine());
     QCOMPARE(QString(flysim->readLine()).trimmed(), QString("1.00000   -2.00000  heading   0.0  0.0 NM of 60.0 NM"));
+}
+
+void TestFlySim::theStatusTellsTheLastPoint()
+{
+    // There from the beginning.
+    const QString plan = planFile("here.FPL", point("ONE", "3600,-7200,0") + point("TWO", "3600,-7200,0"));
+    start({"--plan", plan});
+    TRY_VERIFY(flysim->canReadLine());
+    QCOMPARE(QString(flysim->readLine()).trimmed(),
+             QString("1.00000   -2.00000  heading   0.0  0.0 NM of 0.0 NM, at the last point"));
+}
+
+void TestFlySim::speedAndFactorAreObeyed()
+{
+    QElapsedTimer clock;
+    clock.start();
+    // 100 NM a second to the north.
+    start({"--start", "0,0", "--heading", "0", "--speed", "3600", "--factor", "100", "--rate", "100"});
+    const double miles = 200.0;
+    TRY_VERIFY(now(record->latS) >= miles * 60.0);
+    // In time, and however slow the machine is: not before it can be there.
+    QVERIFY2(clock.elapsed() >= 2000, QByteArray::number(clock.elapsed()).constData());
+}
+
+void TestFlySim::theRateIsObeyed()
+{
+    QElapsedTimer clock;
+    clock.start();
+    start({"--start", "1,2", "--speed", "0", "--rate", "0.1"});
+    record->heading = unseen;
+    QTest::qWait(500);
+    const bool published = now(record->heading) != unseen;
+    // Ten seconds from one record to the next: a machine that was away so long tells nothing.
+    QVERIFY(!published || clock.elapsed() >= 9000);
+    TRY_VERIFY(now(record->heading) != unseen);
+}
+
+void TestFlySim::aBlockThatIsCutShortIsMadeWholeAgain()
+{
+#ifdef Q_OS_UNIX
+    start({"--start", "1,2", "--heading", "45", "--speed", "0"});
+    const QString path = "/dev/shm/AeoZephanToNavigation";
+    QVERIFY(QFile::resize(path, 0));
+    // Not a look at the record before its bytes are there again: it would be the test's end.
+    TRY_VERIFY(QFileInfo(path).size() == 256);
+    TRY_VERIFY(isNear(now(record->heading), 45.0));
+    QVERIFY(isNear(now(record->latS), 3600.0));
+    QCOMPARE(flysim->state(), QProcess::Running);
+#else
+    QSKIP("on Windows a block never shrinks");
+#endif
 }
 
 void TestFlySim::aMissingBlockIsMade()

@@ -11,6 +11,8 @@ private slots:
     void optionsHaveTheirDefaults();
     void optionsAreTaken();
     void theLastOfTwoEqualOptionsCounts();
+    void aValueMayFollowAnEqualsSign();
+    void aPlusSignIsAsMuchAsNone();
     void wrongCommandLines_data();
     void wrongCommandLines();
     void theHelpNamesEveryOption();
@@ -61,6 +63,34 @@ void TestFlySimOptions::theLastOfTwoEqualOptionsCounts()
     QCOMPARE(options.speed, 95.0);
 }
 
+void TestFlySimOptions::aValueMayFollowAnEqualsSign()
+{
+    Options options;
+    std::string error;
+    QVERIFY(readOptions({"--plan=A=B.FPL", "--speed=450", "--factor", "20"}, options, error));
+    QCOMPARE(options.plan, std::string("A=B.FPL"));
+    QCOMPARE(options.speed, 450.0);
+    QCOMPARE(options.factor, 20.0);
+    QVERIFY(readOptions({"--start=-48.5,2", "--heading=271"}, options, error));
+    QCOMPARE(options.start.latitude, -48.5);
+    QCOMPARE(options.start.longitude, 2.0);
+    QCOMPARE(options.course, 271.0);
+    // A file may have any name.
+    QVERIFY(readOptions({"--plan", "--speed=450"}, options, error));
+    QCOMPARE(options.plan, std::string("--speed=450"));
+    QCOMPARE(options.speed, 120.0);
+}
+
+void TestFlySimOptions::aPlusSignIsAsMuchAsNone()
+{
+    Options options;
+    std::string error;
+    QVERIFY(readOptions({"--start", "+48.5,+2.25", "--speed", "+90"}, options, error));
+    QCOMPARE(options.start.latitude, 48.5);
+    QCOMPARE(options.start.longitude, 2.25);
+    QCOMPARE(options.speed, 90.0);
+}
+
 void TestFlySimOptions::wrongCommandLines_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -88,10 +118,23 @@ void TestFlySimOptions::wrongCommandLines_data()
                             << "--rate wants a number from 0.1 to 1000, not \"0\"";
     QTest::newRow("heading 361") << QStringList{"--start", "1,2", "--heading", "361"}
                                  << "--heading wants a number from 0 to 360, not \"361\"";
-    for (const QString start : {"48.7", "48.7;2.3", "91,0", "0,361", "north,east", ""}) {
+    QTest::newRow("an equals sign behind a switch")
+        << QStringList{"--plan", "A", "--loop=1"} << "unknown option \"--loop=1\"";
+    QTest::newRow("an equals sign behind the unknown")
+        << QStringList{"--plan", "A", "--fast=1"} << "unknown option \"--fast=1\"";
+    QTest::newRow("nothing behind an equals sign")
+        << QStringList{"--start", "1,2", "--speed="} << "--speed wants a number from 0 to 10000, not \"\"";
+    QTest::newRow("no path behind an equals sign")
+        << QStringList{"--plan="} << "--plan wants the path of a flight plan";
+    for (const QString start :
+         {"48.7",  "48.7;2.3", "91,0",    "-90.001,0",  "0,361",       "0,-361", "north,east", "",
+          ",",     "1,",       ",2",      "48,73,2,36", "1,2,garbage", "1,2,",   "1,2,3",      "1,2garbage",
+          "nan,0", "0,inf",    "1e999,0", "+-1,2",      "++1,2",       "+,2"}) {
         QTest::newRow(qPrintable("start " + start))
             << QStringList{"--start", start}
-            << "--start wants LATITUDE,LONGITUDE in degrees, such as 48.7295,2.359, not \"" + start + "\"";
+            << "--start wants LATITUDE,LONGITUDE, two numbers of degrees with decimal points, such as "
+               "48.7295,2.359, not \"" +
+                   start + "\"";
     }
 }
 

@@ -33,6 +33,8 @@ private slots:
     void aFileIsRead();
     void whatIsNoReadablePlanIsSaid();
     void aFileWithoutEndIsNotRead();
+    void whatStandsBeyondTheGreatestSizeIsNotRead_data();
+    void whatStandsBeyondTheGreatestSizeIsNotRead();
     void numbers_data();
     void numbers();
 
@@ -276,6 +278,35 @@ void TestPlanPoints::aFileWithoutEndIsNotRead()
 #endif
 }
 
+void TestPlanPoints::whatStandsBeyondTheGreatestSizeIsNotRead_data()
+{
+    QTest::addColumn<int>("offset");
+    QTest::addColumn<int>("waypoints");
+    // 64 MB and the 26 bytes of a waypoint.
+    QTest::newRow("the last bytes") << -26 << 2;
+    QTest::newRow("beyond them") << 1 << 1;
+}
+
+void TestPlanPoints::whatStandsBeyondTheGreatestSizeIsNotRead()
+{
+    QFETCH(const int, offset);
+    QFETCH(const int, waypoints);
+    const QByteArray waypoint("\n<wpnt>\nairp\n<llps>\n0,0,0\n");
+    QCOMPARE(waypoint.size(), 26);
+    QFile file(folder.filePath("great.FPL"));
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(waypoint);
+    // Zeros that take no room on the disk.
+    QVERIFY(file.seek(67108864 + offset));
+    file.write(waypoint);
+    file.close();
+    std::string error;
+    const PlanPoints plan = readPlanFile(file.fileName().toStdString(), error);
+    QCOMPARE(plan.waypoints, waypoints);
+    QCOMPARE(plan.points.size(), std::size_t(waypoints));
+    QCOMPARE(error, std::string());
+}
+
 void TestPlanPoints::numbers_data()
 {
     QTest::addColumn<QByteArray>("text");
@@ -285,6 +316,10 @@ void TestPlanPoints::numbers_data()
     QTest::newRow("decimals") << QByteArray("-0.25") << true << -0.25;
     QTest::newRow("blanks around") << QByteArray(" 1.5\r") << true << 1.5;
     QTest::newRow("power") << QByteArray("1e3") << true << 1000.0;
+    QTest::newRow("a plus sign") << QByteArray("+1.5") << true << 1.5;
+    QTest::newRow("two signs") << QByteArray("+-1.5") << false << 0.0;
+    QTest::newRow("two plus signs") << QByteArray("++1.5") << false << 0.0;
+    QTest::newRow("a plus sign alone") << QByteArray("+") << false << 0.0;
     QTest::newRow("nothing") << QByteArray("") << false << 0.0;
     QTest::newRow("comma for the decimals") << QByteArray("1,5") << false << 0.0;
     QTest::newRow("a unit") << QByteArray("120kt") << false << 0.0;

@@ -4,12 +4,12 @@
 #include "aeozephannavrecord.h"
 #include "flight.h"
 #include "options.h"
+#include "pace.h"
 #include "planpoints.h"
 #include "sharedblock.h"
 #include "stoprequest.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <exception>
 
@@ -26,8 +26,7 @@ enum ExitCode
 };
 
 constexpr double arcSecondsPerDegree = 3600.0;
-constexpr double secondsPerHour = 3600.0;
-constexpr Seconds statusInterval(5.0);
+constexpr std::chrono::seconds statusInterval(5);
 
 int complain(const std::string& what, ExitCode code)
 {
@@ -67,38 +66,32 @@ void publish(const Fix& fix, AeoZephanNavRecord& record)
     record.heading = fix.heading;
 }
 
-void printStatus(const Fix& fix, double flown, double length)
+/// Flies until somebody asks it to stop. False when the block is gone.
+bool fly(const Route& route, const Options& options, SharedBlock& block)
 {
-    std::printf("%9.5f %10.5f  heading %5.1f  %.1f NM", fix.place.latitude, fix.place.longitude, fix.heading, flown);
-    if (std::isfinite(length)) {
-        std::printf(" of %.1f NM", length);
-    }
-    std::printf("%s\n", flown >= length ? ", at the last point" : "");
-    std::fflush(stdout);
-}
-
-/// Flies until somebody asks it to stop.
-void fly(const Route& route, const Options& options, AeoZephanNavRecord& record)
-{
+    auto& record = *static_cast<AeoZephanNavRecord*>(block.map());
     const double length = route.length();
-    const double milesPerSecond = options.speed * options.factor / secondsPerHour;
-    const bool again = options.loop && length > 0.0;
-    const auto period = std::chrono::duration_cast<Clock::duration>(Seconds(1.0 / options.rate));
+    const Clock::duration period = periodOf(options.rate);
     const Clock::time_point start = Clock::now();
     Clock::time_point nextStatus = start;
     for (Clock::time_point next = start; !stopAskedBefore(next);) {
         const Clock::time_point now = Clock::now();
-        const double way = milesPerSecond * Seconds(now - start).count();
-        const double flown = again ? std::fmod(way, length) : std::fmin(way, length);
+        const double flown = flownAfter(Seconds(now - start).count(), length, options);
         const Fix fix = route.fixAfter(flown);
+        // A block that somebody has cut short is made whole again.
+        if (!block.holdsView() && !block.attach()) {
+            return false;
+        }
         publish(fix, record);
         if (now >= nextStatus) {
-            printStatus(fix, flown, length);
-            nextStatus = now + std::chrono::duration_cast<Clock::duration>(statusInterval);
+            std::puts(statusText(fix, flown, length).c_str());
+            std::fflush(stdout);
+            nextStatus = now + statusInterval;
         }
         // After a pause of the machine no burst of records follows.
         next = std::max(next + period, now);
     }
+    return true;
 }
 
 int run(const std::vector<std::string>& arguments)
@@ -120,13 +113,11 @@ int run(const std::vector<std::string>& arguments)
         }
     }
     SharedBlock block;
-    void* const view = block.attach() ? block.map() : nullptr;
-    if (view == nullptr) {
+    listenForStop();
+    if (!block.attach() || block.map() == nullptr ||
+        !fly(points.empty() ? Route(options.start, options.course) : Route(points), options, block)) {
         return complain("the system refuses the shared block", nothingToFly);
     }
-    listenForStop();
-    fly(points.empty() ? Route(options.start, options.course) : Route(points), options,
-        *static_cast<AeoZephanNavRecord*>(view));
     return stopped;
 }
 

@@ -2,6 +2,7 @@
 
 #include "planpoints.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -62,12 +63,20 @@ std::string takeNumber(const NumberOption& option, const std::string& value, Opt
 std::string takeStart(const std::string& value, Options& options)
 {
     GeoPoint start{};
-    if (!readPair(value, start.latitude, start.longitude) || std::abs(start.latitude) > poleDegrees ||
-        std::abs(start.longitude) > circleDegrees) {
-        return "--start wants LATITUDE,LONGITUDE in degrees, such as 48.7295,2.359, not \"" + value + "\"";
+    // A plan's third number is passed over; here it is a decimal comma or a slip.
+    if (std::count(value.begin(), value.end(), ',') != 1 || !readPair(value, start.latitude, start.longitude) ||
+        std::abs(start.latitude) > poleDegrees || std::abs(start.longitude) > circleDegrees) {
+        return "--start wants LATITUDE,LONGITUDE, two numbers of degrees with decimal points, such as 48.7295,2.359, "
+               "not \"" +
+               value + "\"";
     }
     options.start = start;
     return {};
+}
+
+bool wantsValue(const std::string& name)
+{
+    return name == "--plan" || name == "--start" || numberOption(name) != nullptr;
 }
 
 /// What was given, for the options that go or do not go together.
@@ -115,15 +124,19 @@ bool readOptions(const std::vector<std::string>& arguments, Options& options, st
     error.clear();
     Given given;
     for (std::size_t i = 0; i < arguments.size() && error.empty(); ++i) {
-        const std::string& name = arguments[i];
-        if (name == "--help" || name == "-h") {
+        const std::string& argument = arguments[i];
+        if (argument == "--help" || argument == "-h") {
             options.help = true;
             return true;
         }
-        if (name == "--loop") {
+        const std::size_t sign = argument.find('=');
+        const std::string name = argument.substr(0, sign);
+        if (argument == "--loop") {
             options.loop = true;
-        } else if (name != "--plan" && name != "--start" && numberOption(name) == nullptr) {
-            error = "unknown option \"" + name + "\"";
+        } else if (!wantsValue(name)) {
+            error = "unknown option \"" + argument + "\"";
+        } else if (sign != std::string::npos) {
+            error = takeValue(name, argument.substr(sign + 1), options, given);
         } else if (i + 1 == arguments.size()) {
             error = name + " wants a value";
         } else {
@@ -153,6 +166,8 @@ Ctrl+C ends it; the block keeps the last position.
   --rate HZ        positions published a second, 0.1 to 1000 (25)
   --loop           begin the plan again at its end; without it the aircraft stays on the last point
   --help           this text
+
+A value may also follow an equals sign: --speed=450.
 
 Exit code: 0 ended by Ctrl+C or a termination request, 1 no plan to fly or no shared block, 2 wrong command line.
 )";

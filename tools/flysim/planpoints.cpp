@@ -119,7 +119,11 @@ std::vector<Waypoint> readWaypoints(std::istream& plan)
 
 bool readNumber(const std::string& text, double& number)
 {
-    const std::string digits = trimmed(text);
+    std::string digits = trimmed(text);
+    // from_chars knows no plus sign; one is as much as none, in front of another sign it is a slip.
+    if (digits.size() > 1 && digits[0] == '+' && digits[1] != '-') {
+        digits.erase(0, 1);
+    }
     const char* end = digits.data() + digits.size();
     const auto [stop, error] = std::from_chars(digits.data(), end, number);
     return error == std::errc() && stop == end && std::isfinite(number);

@@ -27,7 +27,8 @@ PlanPoints readPlanPoints(std::istream& plan);
 /// The same from a file. On failure `error` says why, in English: no such file, no file to read, no flight plan.
 PlanPoints readPlanFile(const std::string& path, std::string& error);
 
-/// A whole text as a number, with a point for the decimals in every locale. False when it is no finite number.
+/// A whole text as a number, with a point for the decimals in every locale, with a plus sign or without. False when it
+/// is no finite number.
 bool readNumber(const std::string& text, double& number);
 
 /// Splits "LATITUDE,LONGITUDE", with or without further parts behind a comma, into two finite numbers.
