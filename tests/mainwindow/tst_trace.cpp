@@ -1,10 +1,13 @@
 // The simulator's aircraft on the map: the two buttons, the ticks and what they send, tick by tick.
+#include "memorylimit.h"
 #include "messagelog.h"
 #include "tracewindow.h"
 
 #include "mainwindow.h"
 
+#include <QDialog>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QPushButton>
 #include <QtTest>
@@ -37,8 +40,12 @@ private slots:
     void theMapFollowsWhileTheButtonIsChecked();
     void followingDoesNothingWithoutATrace();
     void switchingOffErasesTheMarkerAndEndsTheTicks();
+    void theMarkerIsErasedBetweenTheTwoLinesOfTheEnd();
+    void aBlockThatIsCutShortStopsTheMarkerUntilItIsWhole();
     void twoTracesInARow();
     void aRefusedBlockIsToldAndLeavesTheButtonChecked();
+    void theBoxOfAFailureStandsBeforeTheDisconnection();
+    void aRefusedViewIsToldAsARefusedBlockIs();
     void theClickAfterAFailureSwitchesOff();
     void afterAFailureTheNextTraceWorks();
     void numbersThatAreNoneLeaveTheMarkerWhereItWas();
@@ -200,6 +207,38 @@ void TestTrace::switchingOffErasesTheMarkerAndEndsTheTicks()
     QVERIFY(QFileInfo::exists(NoBlock::path()));
 }
 
+void TestTrace::theMarkerIsErasedBetweenTheTwoLinesOfTheEnd()
+{
+    trace->clickTrace();
+    QStringList sent;
+    MessageLog log;
+    log.listen([&](const QString& message) { sent << message + ": " + trace->page().calls().join(' '); });
+    trace->clickTrace();
+    QCOMPARE(sent, (QStringList{"NAVIGATION: Disconnect: ", "Trace is OFF: eraseAcftMrkr()"}));
+}
+
+void TestTrace::aBlockThatIsCutShortStopsTheMarkerUntilItIsWhole()
+{
+    trace->setInterval(1);
+    BlockPeer simulator;
+    QVERIFY(simulator.publish("169200", "7200", "10"));
+    trace->centreButton()->click();
+    trace->clickTrace();
+    QVERIFY(trace->markerComesTo("47,2", "10"));
+    simulator.kill();
+    QVERIFY(QFile::resize(NoBlock::path(), 0));
+    QCOMPARE(trace->tick(), QStringList());
+    // The timer ticks on.
+    QTest::qWait(50);
+    QCOMPARE(trace->page().calls("setAcftMrkr"), QStringList());
+    QCOMPARE(trace->mapCentre(), QString("47 2"));
+    QVERIFY(simulator.publish("172800", "7200", "20"));
+    QVERIFY(trace->markerComesTo("48,2", "20"));
+    QVERIFY(QFile::resize(NoBlock::path(), 0));
+    QCOMPARE(trace->clickTrace(), QStringList{"eraseAcftMrkr()"});
+    QCOMPARE(trace->boxes.seen().size(), 0);
+}
+
 void TestTrace::twoTracesInARow()
 {
     trace->setInterval(1);
@@ -233,6 +272,47 @@ void TestTrace::aRefusedBlockIsToldAndLeavesTheButtonChecked()
     QCOMPARE(trace->boxes.seen().value(0).choices, QStringList{"OK"});
     QCOMPARE(trace->boxes.seen().value(0).parentClass, QString("MainWindow"));
     QCOMPARE(trace->tick(), QStringList());
+}
+
+void TestTrace::theBoxOfAFailureStandsBeforeTheDisconnection()
+{
+    QVERIFY(QDir().mkdir(NoBlock::path()));
+    MessageLog log;
+    QStringList before;
+    trace->boxes.expectDialog("QMessageBox", [&](QDialog* box) {
+        before = log.messages(QtDebugMsg);
+        box->accept();
+    });
+    trace->clickTrace();
+    QCOMPARE(before, (QStringList{"Error CreateFileMapping", "Trace failed"}));
+    QCOMPARE(log.messages(QtDebugMsg), before + QStringList{"NAVIGATION: Disconnect"});
+}
+
+void TestTrace::aRefusedViewIsToldAsARefusedBlockIs()
+{
+    trace->setInterval(1);
+    trace->boxes.expectMessage(boxTitle, boxText);
+    MessageLog log;
+    // No memory from the line in front of the mapping to the line behind it.
+    QScopedPointer<MemoryLimit> limit;
+    log.listen([&limit](const QString& message) {
+        if (message.isEmpty())
+            limit.reset(new MemoryLimit);
+        else if (message == "Error MapViewOfFile")
+            limit.reset();
+    });
+    QCOMPARE(trace->clickTrace(), QStringList());
+    QCOMPARE(log.messages(QtDebugMsg),
+             (QStringList{"", "Error MapViewOfFile", "Trace failed", "NAVIGATION: Disconnect"}));
+    log.listen(nullptr);
+    QVERIFY(trace->traceButton()->isChecked());
+    QCOMPARE(trace->boxes.seen().size(), 1);
+    // The link's timer, which ran, is stopped, and nothing hangs on it.
+    QTest::qWait(50);
+    QCOMPARE(trace->page().calls(), QStringList());
+    QCOMPARE(trace->tick(), QStringList());
+    QCOMPARE(trace->clickTrace(), QStringList{"eraseAcftMrkr()"});
+    QCOMPARE(trace->clickTrace(), QStringList{"addAcftMrkr(LatLng(0,0),\"\",0)"});
 }
 
 void TestTrace::theClickAfterAFailureSwitchesOff()

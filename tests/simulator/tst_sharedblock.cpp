@@ -40,6 +40,13 @@ bool isMapped(void* page)
     return msync(page, 1, MS_ASYNC) == 0;
 }
 
+/// The memory behind the block, whatever its length.
+long bytesTaken()
+{
+    struct stat status = {};
+    return stat(qPrintable(NoBlock::path()), &status) == 0 ? long(status.st_blocks) * 512 : -1;
+}
+
 /// A page of the test's own at an address that has become free.
 void* ownPageAt(void* address)
 {
@@ -285,6 +292,77 @@ private slots:
         block.detach();
         QVERIFY(block.attach());
         QVERIFY(block.map() != nullptr);
+    }
+
+    void theMemoryIsTaken_data()
+    {
+        QTest::addColumn<bool>("stands");
+        QTest::newRow("for a block that is made") << false;
+        QTest::newRow("for a block that stands there without any") << true;
+    }
+
+    void theMemoryIsTaken()
+    {
+        // A block that only has its length takes memory at the first access, and where there is none left that access
+        // ends the process.
+        QFETCH(bool, stands);
+        if (stands) {
+            makeFile(NoBlock::path(), QByteArray());
+            QVERIFY(QFile::resize(NoBlock::path(), 256));
+            QCOMPARE(bytesTaken(), 0L);
+        }
+        SharedBlock block;
+        QVERIFY(block.attach());
+        QVERIFY2(bytesTaken() >= 256, QByteArray::number(qlonglong(bytesTaken())).constData());
+    }
+
+    void aBlockThatIsCutShortHoldsNoView_data()
+    {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<bool>("holds");
+        QTest::newRow("to nothing") << 0 << false;
+        QTest::newRow("to a byte less than the view") << 79 << false;
+        QTest::newRow("to the view") << 80 << true;
+        QTest::newRow("not at all") << 256 << true;
+        QTest::newRow("made longer") << 5000 << true;
+    }
+
+    void aBlockThatIsCutShortHoldsNoView()
+    {
+        QFETCH(int, size);
+        QFETCH(bool, holds);
+        SharedBlock block;
+        QVERIFY(block.attach());
+        QVERIFY(block.map() != nullptr);
+        QVERIFY(block.holdsView());
+        QVERIFY(QFile::resize(NoBlock::path(), size));
+        QCOMPARE(block.holdsView(), holds);
+    }
+
+    void withoutABlockThereIsNoViewToHold()
+    {
+        SharedBlock block;
+        QVERIFY(!block.holdsView());
+        QVERIFY(block.attach());
+        block.detach();
+        QVERIFY(!block.holdsView());
+    }
+
+    void attachingMakesACutBlockWholeAgain()
+    {
+        SharedBlock block;
+        QVERIFY(block.attach());
+        Record* record = recordOf(block);
+        QVERIFY(QFile::resize(NoBlock::path(), 0));
+        QVERIFY(block.attach());
+        QVERIFY(block.holdsView());
+        QCOMPARE(QFileInfo(NoBlock::path()).size(), qint64(256));
+        // The view is the old one.
+        QCOMPARE(recordOf(block), record);
+        QCOMPARE(double(record->heading), 0.0);
+        BlockPeer peer;
+        QVERIFY(peer.publish("1", "2", "3"));
+        QCOMPARE(double(record->heading), 3.0);
     }
 
     void aFolderUnderTheNameIsRefused()

@@ -5,6 +5,11 @@
 
 /// Removes the shared block's name when it is made and when it dies, whatever stands under it, so that a test begins
 /// and ends with none. Tests that use the block hold CTest's resource "shared_block".
+///
+/// The block has one name for all programs of the user, and a test knows no other: a simulator or a trace of theirs
+/// that runs meanwhile goes on in the old block, apart from all that come later, until it is started anew; in tests of
+/// flysim, which leave the name alone, it shows the test's aircraft. So run no flight on the machine while the tests
+/// run.
 class NoBlock
 {
 public:

@@ -9,10 +9,13 @@ namespace {
 
 QVector<QPair<QtMsgType, QString>> kept;
 QtMessageHandler previous = nullptr;
+std::function<void(const QString&)> listening;
 
 void keep(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     kept.append({type, message});
+    if (listening)
+        listening(message);
     if (previous)
         previous(type, context, message);
 }
@@ -29,6 +32,7 @@ MessageLog::~MessageLog()
 {
     qInstallMessageHandler(previous);
     previous = nullptr;
+    listening = nullptr;
 }
 
 QStringList MessageLog::messages() const
@@ -62,4 +66,9 @@ QStringList MessageLog::startingWith(const QString& label) const
 void MessageLog::clear()
 {
     kept.clear();
+}
+
+void MessageLog::listen(const std::function<void(const QString&)>& listener)
+{
+    listening = listener;
 }

@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <QtGlobal>
 
+#include <functional>
+
 /// Keeps the debug, warning and critical messages written while it lives, and passes them on to the test's own log.
 /// One at a time.
 class MessageLog
@@ -20,4 +22,6 @@ public:
     /// Those that begin with a label.
     QStringList startingWith(const QString& label) const;
     void clear();
+    /// From here on `listener` is called with each message in the moment in which it is written.
+    void listen(const std::function<void(const QString&)>& listener);
 };
