@@ -7,9 +7,14 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QProcess>
 #include <QPushButton>
+#include <QVector3D>
+#include <QtMath>
 #include <QtTest>
+
+#include <limits>
 
 namespace {
 
@@ -26,15 +31,70 @@ bool fliesSouthOf(double latitude)
     return QTest::qWaitFor([&] { return record.latS < latitude * 3600.0; }, patience);
 }
 
+/// The saved plan. The working directory is the program's folder, two below the simulator's root.
+QString planPath()
+{
+    return QDir().absoluteFilePath("../../Flightplan/LFPO_LFBO.FPL");
+}
+
+/// The unit vector from the middle of the earth, for a place in degrees.
+QVector3D directionOf(double latitude, double longitude)
+{
+    const double north = qDegreesToRadians(latitude);
+    const double east = qDegreesToRadians(longitude);
+    return {static_cast<float>(qCos(north) * qCos(east)), static_cast<float>(qCos(north) * qSin(east)),
+            static_cast<float>(qSin(north))};
+}
+
+/// The plan's points by the positions in its file: not by what flysim makes of them, which is looked at here.
+QVector<QVector3D> plannedPoints()
+{
+    QFile file(planPath());
+    QVector<QVector3D> points;
+    if (!file.open(QIODevice::ReadOnly)) {
+        return points;
+    }
+    while (!file.atEnd()) {
+        if (file.readLine().trimmed().startsWith("<llps>")) {
+            const QList<QByteArray> arcSeconds = file.readLine().trimmed().split(',');
+            points << directionOf(arcSeconds.value(0).toDouble() / 3600.0, arcSeconds.value(1).toDouble() / 3600.0);
+        }
+    }
+    return points;
+}
+
+/// The distance, NM, of a place to the great circle between two others, or to the nearer of them when it is not between
+/// them.
+float distanceToLeg(const QVector3D& place, const QVector3D& from, const QVector3D& to)
+{
+    const QVector3D axis = QVector3D::crossProduct(from, to).normalized();
+    const bool between = QVector3D::dotProduct(QVector3D::crossProduct(from, place), axis) >= 0.0F &&
+                         QVector3D::dotProduct(QVector3D::crossProduct(place, to), axis) >= 0.0F;
+    // In radians; a short chord is as good as its arc.
+    const float angle =
+        between ? qAbs(QVector3D::dotProduct(place, axis)) : qMin((place - from).length(), (place - to).length());
+    return qRadiansToDegrees(angle) * 60.0F;
+}
+
+/// The distance, NM, to the nearest leg of the plan; infinite without one.
+float distanceToPlan(double latitude, double longitude)
+{
+    const QVector3D place = directionOf(latitude, longitude);
+    const QVector<QVector3D> points = plannedPoints();
+    float nearest = std::numeric_limits<float>::infinity();
+    for (int i = 0; i + 1 < points.size(); ++i) {
+        nearest = qMin(nearest, distanceToLeg(place, points[i], points[i + 1]));
+    }
+    return nearest;
+}
+
 } // namespace
 
 void Tour::startFlight()
 {
-    // The working directory is the program's folder, two below the simulator's root.
-    const QString plan = QDir().absoluteFilePath("../../Flightplan/LFPO_LFBO.FPL");
     simulator = std::make_unique<QProcess>();
     simulator->start(QCoreApplication::applicationDirPath() + "/flysim",
-                     {"--plan", plan, "--speed", "450", "--factor", "200"});
+                     {"--plan", planPath(), "--speed", "450", "--factor", "200"});
     // It tells its status once it has published: a block that an earlier simulator left says nothing.
     require(QTest::qWaitFor([this] { return simulator->canReadLine(); }, patience),
             "flysim does not fly: " + simulator->readAllStandardError());
@@ -54,6 +114,10 @@ void Tour::followFlight()
     require(fliesSouthOf(46.0), "the aircraft does not fly on");
     const double centre = session.page().evaluate("map.getCenter().lat()").toDouble();
     require(centre < 46.2, QString("the map is at %1 and does not follow").arg(centre));
+    // The map's middle is the aircraft.
+    const QVariantList middle = session.page().evaluate("[map.getCenter().lat(), map.getCenter().lng()]").toList();
+    const float astray = distanceToPlan(middle.value(0).toDouble(), middle.value(1).toDouble());
+    require(astray < 1.0F, QString("the aircraft is %1 NM from the plan").arg(static_cast<double>(astray)));
 }
 
 void Tour::endTrace()
