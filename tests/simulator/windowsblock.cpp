@@ -79,12 +79,14 @@ void theFirstMakesABlockOfZeros()
 {
     SharedBlock block;
     check(block.map() == nullptr, "nothing is mapped without a block");
+    check(!block.holdsView(), "and no view is held");
     check(!blockStands(name), "there is no block before the first attaches");
     check(block.attach(), "the first attaches");
     check(blockStands(name), "the block has the simulator's name");
     check(!blockStands(L"Local\\aeozephantonavigation"), "the name is case sensitive");
     void* const view = block.map();
     check(view != nullptr, "the view is mapped");
+    check(block.holdsView(), "and the block holds it");
     const char zeros[SharedBlock::viewSize] = {};
     check(view != nullptr && std::memcmp(view, zeros, sizeof zeros) == 0, "the record reads zeros");
     check(block.attach() && block.map() == view, "attaching and mapping again change nothing");

@@ -339,6 +339,8 @@ void TestFlySim::itEndsCleanlyOnCtrlC()
     QVERIFY(flysim->waitForFinished(patience));
     QCOMPARE(flysim->exitStatus(), QProcess::NormalExit);
     QCOMPARE(flysim->exitCode(), 0);
+    QCOMPARE(flysim->readAllStandardOutput().split('\n').value(1),
+             QByteArray("ended; the block keeps the last position"));
     QVERIFY(isNear(now(record->latS), 3600.0));
 #else
     QSKIP("no console to press the keys in");

@@ -282,20 +282,23 @@ void TestPlanPoints::whatStandsBeyondTheGreatestSizeIsNotRead_data()
 {
     QTest::addColumn<int>("offset");
     QTest::addColumn<int>("waypoints");
-    // 64 MB and the 26 bytes of a waypoint.
-    QTest::newRow("the last bytes") << -26 << 2;
-    QTest::newRow("beyond them") << 1 << 1;
+    QTest::addColumn<int>("points");
+    // 64 MB and the 23 bytes of a waypoint.
+    QTest::newRow("the last bytes") << -23 << 2 << 2;
+    QTest::newRow("the last byte too late") << -22 << 2 << 1;
+    QTest::newRow("beyond them") << 0 << 1 << 1;
 }
 
 void TestPlanPoints::whatStandsBeyondTheGreatestSizeIsNotRead()
 {
     QFETCH(const int, offset);
     QFETCH(const int, waypoints);
-    const QByteArray waypoint("\n<wpnt>\nairp\n<llps>\n0,0,0\n");
-    QCOMPARE(waypoint.size(), 26);
+    QFETCH(const int, points);
+    const QByteArray waypoint("\n<wpnt>\nairp\n<llps>\n0,0");
+    QCOMPARE(waypoint.size(), 23);
     QFile file(folder.filePath("great.FPL"));
     QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(waypoint);
+    file.write(waypoint + "\n");
     // Zeros that take no room on the disk.
     QVERIFY(file.seek(67108864 + offset));
     file.write(waypoint);
@@ -303,7 +306,7 @@ void TestPlanPoints::whatStandsBeyondTheGreatestSizeIsNotRead()
     std::string error;
     const PlanPoints plan = readPlanFile(file.fileName().toStdString(), error);
     QCOMPARE(plan.waypoints, waypoints);
-    QCOMPARE(plan.points.size(), std::size_t(waypoints));
+    QCOMPARE(plan.points.size(), std::size_t(points));
     QCOMPARE(error, std::string());
 }
 

@@ -118,6 +118,7 @@ int run(const std::vector<std::string>& arguments)
         !fly(points.empty() ? Route(options.start, options.course) : Route(points), options, block)) {
         return complain("the system refuses the shared block", nothingToFly);
     }
+    std::puts("ended; the block keeps the last position");
     return stopped;
 }
 
