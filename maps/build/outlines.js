@@ -4,7 +4,7 @@
  *
  * The land of three scales is cut into cells, so that the map reads and fills only what is in view. Rings that cross
  * 180 degrees are unrolled first and cut there; a ring around a pole is closed through the pole. Longitudes and
- * latitudes are thousandths of a degree, written as differences in the characters "?" to "~".
+ * latitudes are thousandths of a degree, written as differences in plain characters.
  */
 'use strict';
 const fs = require('fs');
@@ -74,6 +74,12 @@ function cellRange(range, origin, cell, count) {
   return [Math.max(0, from), Math.min(count - 1, to)];
 }
 
+/** From "?" to "~", but "!" for the backslash, which a script would have to double. */
+function letter(value) {
+  const code = value + 63;
+  return code === 92 ? '!' : String.fromCharCode(code);
+}
+
 function encode(flat) {
   let text = '';
   let lastX = 0;
@@ -81,8 +87,8 @@ function encode(flat) {
   const put = difference => {
     let value = difference < 0 ? ~(difference << 1) : difference << 1;
     for (; value >= 0x20; value >>= 5)
-      text += String.fromCharCode((0x20 | (value & 0x1f)) + 63);
-    text += String.fromCharCode(value + 63);
+      text += letter(0x20 | (value & 0x1f));
+    text += letter(value);
   };
   for (let i = 0; i < flat.length; i += 2) {
     put(flat[i] - lastX);
@@ -118,7 +124,7 @@ class Cells {
   at(column, row) {
     const index = row * this.columns + column;
     if (!this.byIndex.has(index))
-      this.byIndex.set(index, { column: column, row: row, land: [], lakes: [], borders: [], rivers: [] });
+      this.byIndex.set(index, { land: [], lakes: [], borders: [], rivers: [] });
     return this.byIndex.get(index);
   }
 
@@ -181,6 +187,11 @@ class Cells {
   }
 }
 
+/** A cell's number, then land, lakes, borders and rivers; before a colon the zoom at which something ends. */
+function cellText([index, cell]) {
+  return [index, ...[cell.land, cell.lakes, cell.borders, cell.rivers].map(lines => lines.join(','))].join(';');
+}
+
 function makeLevel(level, modules) {
   const topojson = require(path.join(modules, 'topojson-client'));
   const world = JSON.parse(fs.readFileSync(path.join(modules, 'world-atlas', `countries-${level.scale}.json`), 'utf8'));
@@ -194,17 +205,17 @@ function makeLevel(level, modules) {
   const borders = topojson.mesh(world, world.objects.countries, (a, b) => a !== b);
   borders.coordinates.forEach(points => cells.addLine(points, (cell, text) => cell.borders.push(text)));
   waters.lakes(modules, level.waters).forEach(lake => worldRings(lake.points).forEach(ring =>
-    cells.addRing(ring, (cell, text) => cell.lakes.push([lake.last, text]))));
+    cells.addRing(ring, (cell, text) => cell.lakes.push(`${lake.last}:${text}`))));
   waters.rivers(modules, level.waters).forEach(river =>
-    cells.addLine(river.points, (cell, text) => cell.rivers.push([river.last, text])));
+    cells.addLine(river.points, (cell, text) => cell.rivers.push(`${river.last}:${text}`)));
   return {
     scale: level.scale,
     fromZoom: level.fromZoom,
     cell: level.cell,
     overlap: overlap,
     unitsPerDegree: unitsPerDegree,
-    // As text, which is read when the scale is drawn for the first time.
-    cells: JSON.stringify(Array.from(cells.byIndex.values())),
+    // As one plain text: the map takes from it what comes into view, and reading a page with it is quick.
+    cells: Array.from(cells.byIndex.entries()).map(cellText).join('/'),
   };
 }
 

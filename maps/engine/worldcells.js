@@ -6,6 +6,10 @@
   'use strict';
   const engine = window.mapEngine;
 
+  /** "!" stands for the backslash. */
+  const standIn = 33;
+  const backslash = 92;
+
   /** Whole numbers out of differences, five bits a character. */
   function decode(text) {
     const values = [];
@@ -13,7 +17,8 @@
     let value = 0;
     let shift = 0;
     for (let i = 0; i < text.length; ++i) {
-      const bits = text.charCodeAt(i) - 63;
+      const code = text.charCodeAt(i);
+      const bits = (code === standIn ? backslash : code) - 63;
       value |= (bits & 0x1f) << shift;
       shift += 5;
       if (bits < 0x20) {
@@ -42,9 +47,9 @@
       this.cells = null;
     }
 
-    /** The finest scale is large: its text is read when it is drawn for the first time. */
+    /** The finest scale is large: its text is cut into cells when it is drawn for the first time. */
     read() {
-      this.cells = new Map(JSON.parse(this.text).map(cell => [cell.row * this.columns + cell.column, cell]));
+      this.cells = new Map(this.text.split('/').map(text => [parseInt(text, 10), { text: text, lines: null }]));
       this.text = '';
     }
 
@@ -54,20 +59,29 @@
         this.read();
       const cell = this.cells.get(row * this.columns + column);
       if (cell && !cell.lines) {
+        const [, land, lakes, borders, rivers] = cell.text.split(';');
+        const edges = this.edgesOf(column, row);
         cell.lines = {
-          land: cell.land.map(text => this.ring(text, cell)),
-          lakes: cell.lakes.map(lake => Object.assign(this.ring(lake[1], cell), { last: lake[0] })),
-          borders: cell.borders.map(text => this.line(decode(text))),
-          rivers: cell.rivers.map(river => Object.assign(this.line(decode(river[1])), { last: river[0] })),
+          land: this.linesOf(land, whole => this.ring(whole, edges)),
+          lakes: this.linesOf(lakes, whole => this.ring(whole, edges)),
+          borders: this.linesOf(borders, whole => this.line(whole)),
+          rivers: this.linesOf(rivers, whole => this.line(whole)),
         };
+        cell.text = '';
       }
       return cell ? cell.lines : null;
     }
 
+    /** Each with the zoom at which it ends, where one stands in front of it. */
+    linesOf(text, make) {
+      return text ? text.split(',').map(entry => {
+        const [points, last] = entry.split(':').reverse();
+        return Object.assign(make(decode(points)), { last: last ? Number(last) : Infinity });
+      }) : [];
+    }
+
     /** A ring also tells which of its edges are shore, and not made by the cutting into cells. */
-    ring(text, cell) {
-      const whole = decode(text);
-      const edges = this.edgesOf(cell);
+    ring(whole, edges) {
       const count = whole.length / 2;
       const shore = new Uint8Array(count);
       for (let i = 0; i < count; ++i) {
@@ -79,10 +93,10 @@
     }
 
     /** Where cutting has made edges: the cell's own, the closing at 180 degrees and at the poles. */
-    edgesOf(cell) {
+    edgesOf(column, row) {
       const size = this.cell * this.units;
-      const west = -180 * this.units + cell.column * size;
-      const south = -90 * this.units + cell.row * size;
+      const west = -180 * this.units + column * size;
+      const south = -90 * this.units + row * size;
       const half = 180 * this.units;
       return {
         x: [west - this.overlap, west + size + this.overlap, -half, half],
@@ -97,10 +111,14 @@
       for (let i = 0; i < whole.length; i += 2) {
         const x = points[i] = engine.unitX(whole[i] / this.units);
         const y = points[i + 1] = engine.unitY(whole[i + 1] / this.units);
-        box.left = Math.min(box.left, x);
-        box.right = Math.max(box.right, x);
-        box.top = Math.min(box.top, y);
-        box.bottom = Math.max(box.bottom, y);
+        if (x < box.left)
+          box.left = x;
+        if (x > box.right)
+          box.right = x;
+        if (y < box.top)
+          box.top = y;
+        if (y > box.bottom)
+          box.bottom = y;
       }
       return box;
     }
