@@ -58,7 +58,8 @@
     onAdd: function (leaflet) {
       this.leaflet = leaflet;
       this.canvas = L.DomUtil.create('canvas', 'chart-canvas', this.getPane());
-      this.paint();
+      // Not at once: the page has yet to say its colours, and the program its view.
+      this.invalidate();
     },
 
     getEvents: function () {

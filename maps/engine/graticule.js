@@ -90,28 +90,26 @@
   const mostPictures = 200;
   const ruler = document.createElement('canvas').getContext('2d');
 
-  /** @return {{canvas: HTMLCanvasElement, width: number}} CSS pixels, with the rim; as high as the strip */
-  function pictureOf(text, colours, ratio) {
+  /** @return {{canvas: HTMLCanvasElement, width: number, height: number}} CSS pixels, with the rim */
+  function pictureOf(text, colours) {
     ruler.font = font;
-    const width = Math.ceil(ruler.measureText(text).width) + 2 * rim;
-    const canvas = document.createElement('canvas');
-    canvas.width = Math.round(width * ratio);
-    canvas.height = Math.round(strip.height * ratio);
-    const context = canvas.getContext('2d');
-    context.setTransform(ratio, 0, 0, ratio, 0, 0);
+    const picture = {
+      canvas: document.createElement('canvas'),
+      width: Math.ceil(ruler.measureText(text).width) + 2 * rim,
+      height: strip.height,
+    };
+    const context = engine.clearPicture(picture.canvas, picture);
+    if (colours.placeRim)
+      engine.drawRim(context, picture, letters => write(letters, text, colours.placeRim));
+    write(context, text, colours.seaText);
+    return picture;
+  }
+
+  function write(context, text, colour) {
     context.font = font;
     context.textBaseline = 'middle';
-    context.lineJoin = 'round';
-    context.lineWidth = 3;
-    if (colours.placeRim) {
-      context.globalAlpha = 0.75;
-      context.strokeStyle = colours.placeRim;
-      context.strokeText(text, rim, strip.height / 2);
-      context.globalAlpha = 1;
-    }
-    context.fillStyle = colours.seaText;
+    context.fillStyle = colour;
     context.fillText(text, rim, strip.height / 2);
-    return { canvas: canvas, width: width };
   }
 
   /** The labels: longitudes along the upper edge of the view, latitudes along the left one. They do not move with it. */
@@ -125,10 +123,12 @@
       this.leaflet = leaflet;
       this.top = L.DomUtil.create('canvas', 'graticule-labels', leaflet.getContainer());
       this.side = L.DomUtil.create('canvas', 'graticule-labels', leaflet.getContainer());
-      this.write();
+      // Not at once: the page has yet to say its colours.
+      this.pending = window.requestAnimationFrame(() => this.write());
     },
 
     onRemove: function () {
+      window.cancelAnimationFrame(this.pending);
       this.top.remove();
       this.side.remove();
     },
@@ -138,6 +138,7 @@
     },
 
     write: function () {
+      window.cancelAnimationFrame(this.pending);
       const corner = this.leaflet.containerPointToLayerPoint([0, 0]).add(this.leaflet.getPixelOrigin());
       const size = this.leaflet.getSize();
       const scale = engine.tileSize * Math.pow(2, this.leaflet.getZoom());
@@ -170,7 +171,7 @@
         return;
       const picture = this.picture(text);
       const left = x - rim - part * (picture.width - 2 * rim);
-      context.drawImage(picture.canvas, Math.round(left), Math.round(y - strip.height / 2), picture.width, strip.height);
+      context.drawImage(picture.canvas, Math.round(left), Math.round(y - strip.height / 2), picture.width, picture.height);
     },
 
     /** A text with its rim is dear to draw, and a map that follows an aircraft moves all the time: drawn once. */
@@ -182,7 +183,7 @@
       this.drawnFor = ratio;
       let picture = this.pictures.get(text);
       if (!picture) {
-        picture = pictureOf(text, this.colours, ratio);
+        picture = pictureOf(text, this.colours);
         this.pictures.set(text, picture);
       }
       return picture;

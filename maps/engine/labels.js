@@ -7,6 +7,10 @@
   const lineStep = 1.15;
   const rimPixels = 3;
 
+  /** How far the copies of a text that make its rim lie beside it, pixels, and how dense each of them is. */
+  const rimSteps = [-1, 0, 1];
+  const rimDensity = 0.5;
+
   const texts = new WeakMap();
   /**
    * For each font its letters' widths, measured once, and their rims, drawn once: to measure a text costs more than to
@@ -14,6 +18,7 @@
    */
   const fonts = new Map();
   const ruler = document.createElement('canvas').getContext('2d');
+  const stamp = document.createElement('canvas');
 
   class LabelFont {
     constructor(name, size) {
@@ -88,6 +93,32 @@
     }
     return font;
   }
+
+  /** @return {CanvasRenderingContext2D} of the canvas, now empty and as large as the picture, in CSS pixels */
+  engine.clearPicture = function (canvas, picture) {
+    const ratio = window.devicePixelRatio || 1;
+    canvas.width = Math.round(picture.width * ratio);
+    canvas.height = Math.round(picture.height * ratio);
+    const context = canvas.getContext('2d');
+    context.setTransform(ratio, 0, 0, ratio, 0, 0);
+    return context;
+  };
+
+  /**
+   * Surrounds a text that is going to be written by copies of it: the outline of letters takes longer to draw than all
+   * of these.
+   * @param {{width: number, height: number}} picture the size of the context's canvas
+   * @param {function(CanvasRenderingContext2D)} write the text in the rim's colour
+   */
+  engine.drawRim = function (context, picture, write) {
+    write(engine.clearPicture(stamp, picture));
+    context.globalAlpha = rimDensity;
+    rimSteps.forEach(x => rimSteps.forEach(y => {
+      if (x || y)
+        context.drawImage(stamp, x, y, picture.width, picture.height);
+    }));
+    context.globalAlpha = 1;
+  };
 
   /**
    * @param {{text: string, color: string, fontSize: string, fontWeight: string, fontFamily: string}} label

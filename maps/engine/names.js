@@ -22,34 +22,47 @@
   /** Pixels of a city's letters and the radius of its dot, by rank. */
   const cities = [null, [12, 2.2], [11, 2], [10.5, 1.8], [10, 1.6], [10, 1.5]];
 
-  /** Boxes of pixels that no other may touch, found by squares of a hundred pixels. */
+  /** Boxes of pixels that no other may touch, found by squares. Hundreds are tried for each zoom. */
+  const square = 128;
+  /** More than there are squares along the world at the nearest zoom. */
+  const rowKeys = 0x100000;
+
   class Room {
     constructor() {
       this.squares = new Map();
     }
 
-    each(box, use) {
-      for (let row = Math.floor(box.top / 100); row <= Math.floor(box.bottom / 100); ++row)
-        for (let column = Math.floor(box.left / 100); column <= Math.floor(box.right / 100); ++column)
-          use(`${column} ${row}`);
-    }
-
     isFree(box) {
-      let free = true;
-      this.each(box, key => (this.squares.get(key) || []).forEach(other => {
-        if (other.left < box.right && other.right > box.left && other.top < box.bottom && other.bottom > box.top)
-          free = false;
-      }));
-      return free;
+      const last = Math.floor(box.right / square);
+      const bottom = Math.floor(box.bottom / square);
+      for (let row = Math.floor(box.top / square); row <= bottom; ++row) {
+        for (let column = Math.floor(box.left / square); column <= last; ++column) {
+          const others = this.squares.get(row * rowKeys + column);
+          if (others && others.some(other => touch(other, box)))
+            return false;
+        }
+      }
+      return true;
     }
 
     take(box) {
-      this.each(box, key => {
-        if (!this.squares.has(key))
-          this.squares.set(key, []);
-        this.squares.get(key).push(box);
-      });
+      const last = Math.floor(box.right / square);
+      const bottom = Math.floor(box.bottom / square);
+      for (let row = Math.floor(box.top / square); row <= bottom; ++row) {
+        for (let column = Math.floor(box.left / square); column <= last; ++column) {
+          const key = row * rowKeys + column;
+          const there = this.squares.get(key);
+          if (there)
+            there.push(box);
+          else
+            this.squares.set(key, [box]);
+        }
+      }
     }
+  }
+
+  function touch(a, b) {
+    return a.left < b.right && a.right > b.left && a.top < b.bottom && a.bottom > b.top;
   }
 
   class Name {
@@ -158,34 +171,26 @@
     pictureOf(name) {
       if (name.picture && name.picture.colours === this.colours)
         return name.picture;
-      const ratio = window.devicePixelRatio || 1;
       const picture = {
         colours: this.colours,
         canvas: document.createElement('canvas'),
         width: Math.ceil(name.width) + 2 * margin,
         height: 2 * (half + margin),
       };
-      picture.canvas.width = Math.round(picture.width * ratio);
-      picture.canvas.height = Math.round(picture.height * ratio);
-      const context = picture.canvas.getContext('2d');
-      context.scale(ratio, ratio);
-      this.draw(context, name);
+      const context = engine.clearPicture(picture.canvas, picture);
+      const rim = this.colours[name.kind.rim];
+      if (rim)
+        engine.drawRim(context, picture, letters => this.drawLetters(letters, name, rim));
+      this.drawLetters(context, name, this.colours[name.kind.colour]);
       name.picture = picture;
       return picture;
     }
 
-    draw(context, name) {
-      const y = half + margin;
-      const rim = this.colours[name.kind.rim];
-      if (rim) {
-        context.globalAlpha = 0.8;
-        this.letters(name, (text, x) => name.font.drawRim(context, text, x, y, rim));
-        context.globalAlpha = 1;
-      }
+    drawLetters(context, name, colour) {
       context.font = name.font.name;
       context.textBaseline = 'middle';
-      context.fillStyle = this.colours[name.kind.colour];
-      this.letters(name, (text, x) => context.fillText(text, x, y));
+      context.fillStyle = colour;
+      this.letters(name, (text, x) => context.fillText(text, x, half + margin));
     }
 
     /** A canvas knows no space between letters: spaced names are written one by one. */
