@@ -3,6 +3,7 @@
 #include "mainwindow.h"
 
 #include "cnavglobalvar.h"
+#include "markertitle.h"
 
 #include <QDebug>
 #include <QInputDialog>
@@ -14,10 +15,10 @@ namespace {
 
 constexpr int airwayName = 2; // column of ATSROUTE in SELECT *
 
-// A marker's title is its label, "-" and its key; segments end at labels.
+// Segments end at labels.
 QString labelOfTitle(const QString& title)
 {
-    return title.trimmed().split(QLatin1Char('-')).first();
+    return splitMarkerTitle(title.trimmed()).label;
 }
 
 // Each airway once, in the order of its first segment that ends at the point. A statement that fails finds none.

@@ -8,6 +8,7 @@
 #include "cnavglobalvar.h"
 #include "datadictionary.h"
 #include "mapscript.h"
+#include "markertitle.h"
 #include "positions.h"
 #include "rowdeletion.h"
 #include "updateline.h"
@@ -18,23 +19,6 @@
 #include <QSqlQuery>
 
 namespace {
-
-// A marker's title: a label, "-", the key of its row. A "-" in the label itself shifts the key away, and then there is
-// no such row.
-struct MarkerTitle
-{
-    explicit MarkerTitle(const QString& title)
-    {
-        const QStringList parts = title.trimmed().split(QLatin1Char('-'), Qt::KeepEmptyParts);
-        hasKey = parts.size() > 1;
-        label = parts.value(0);
-        key = parts.value(1);
-    }
-
-    bool hasKey; ///< a key may be empty: that of a row without a name
-    QString label;
-    QString key;
-};
 
 using Lookup = bool (SqlMgr::*)(const QString& key, bool exact, QSqlQuery& query);
 
@@ -81,7 +65,7 @@ Dialog* dialogFor(const EditCommand& command, const EditedTable& table, MainWind
     }
     // Gone before the dialog opens: a query that stands on a row keeps the table locked for the simulator.
     QSqlQuery query(QSqlDatabase::database(table.connection));
-    return standsOnRow(table, MarkerTitle(command.title), query) ? new Dialog(query, window) : nullptr;
+    return standsOnRow(table, splitMarkerTitle(command.title.trimmed()), query) ? new Dialog(query, window) : nullptr;
 }
 
 // The closed dialog stays with the window, which ends it.
@@ -155,7 +139,7 @@ void MainWindow::sDelNavFromDB(const QString& title)
         return;
     }
     const EditedTable table = navaids(*settings);
-    const MarkerTitle marker(title);
+    const MarkerTitle marker = splitMarkerTitle(title.trimmed());
     if (!rowIsThere(table, marker)) {
         QMessageBox::information(nullptr, tr("Suppression d'un navaid"),
                                  tr("Le point sélectionné n'existe pas dans la base"));
@@ -180,7 +164,7 @@ void MainWindow::sDelWptFromDB(const QString& title)
         return;
     }
     const EditedTable table = waypoints(*settings);
-    const MarkerTitle marker(title);
+    const MarkerTitle marker = splitMarkerTitle(title.trimmed());
     if (!rowIsThere(table, marker)) {
         QMessageBox::information(nullptr, tr("Suppression d'un waypoint"),
                                  tr("Le waypoint sélectionné n'existe pas dans la base"));

@@ -7,6 +7,7 @@
 #include "cnavglobalvar.h"
 #include "legs.h"
 #include "mapscript.h"
+#include "markertitle.h"
 #include "plangrid.h"
 #include "positions.h"
 
@@ -19,11 +20,10 @@ namespace {
 
 constexpr int altitudeColumn = 9;
 
-// A marker's title is its label, "-" and its key. A title without a key gives an empty one, which is looked up like
-// any other.
+// A title, here not trimmed, may have no key: the empty one is looked up like any other.
 QString keyOfTitle(const QString& title)
 {
-    return title.split(QLatin1Char('-')).value(1);
+    return splitMarkerTitle(title).key;
 }
 
 } // namespace
