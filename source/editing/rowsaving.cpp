@@ -3,6 +3,7 @@
 #include "sqlmgr.h"
 #include "textfile.h"
 #include "updateline.h"
+#include "valuesclause.h"
 
 #include <QCoreApplication>
 #include <QMessageBox>
@@ -11,9 +12,7 @@
 
 void storeRow(const SavedRow& row, QWidget* parent)
 {
-    // Joined and not filled in one by one: a value may hold what looks like a place to fill.
-    const QString statement = QStringLiteral("REPLACE INTO ") + row.table + QStringLiteral(" VALUES ('") +
-                              row.values.join(QStringLiteral("','")) + QStringLiteral("')");
+    const QString statement = QStringLiteral("REPLACE INTO ") + row.table + QLatin1Char(' ') + valuesClause(row.values);
     QSqlQuery query(QSqlDatabase::database(row.connection));
     if (query.exec(statement)) {
         QMessageBox::information(parent, row.title, row.storedText);

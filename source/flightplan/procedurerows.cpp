@@ -1,5 +1,7 @@
 #include "procedurerows.h"
 
+#include "valuesclause.h"
+
 namespace {
 
 int pointType(const CFpLine& line)
@@ -15,12 +17,11 @@ QString storedArcSeconds(double arcSeconds)
     return QString::number(arcSeconds, 'f', 3);
 }
 
-// Joined and not filled in one by one: a value may hold what looks like a place to fill.
+// A STAR's statement never had the semicolon.
 QString insertion(const QStringList& values, ProcedureType type)
 {
-    return QStringLiteral("INSERT OR REPLACE INTO SIDSTAR VALUES ('") + values.join(QStringLiteral("','")) +
-           // A STAR's statement never had the semicolon.
-           (type == ProcedureType::Sid ? QStringLiteral("');") : QStringLiteral("')"));
+    return QStringLiteral("INSERT OR REPLACE INTO SIDSTAR ") + valuesClause(values) +
+           (type == ProcedureType::Sid ? QStringLiteral(";") : QString());
 }
 
 } // namespace
