@@ -6,7 +6,8 @@
 #include <QString>
 #include <QStringList>
 
-/// Stored SID and STAR: rows of SIDSTAR, one a point, in the order of their numbers.
+/// Stored SID and STAR: rows of SIDSTAR, one a point. They are written in the order of their numbers and read in that
+/// of the database.
 
 /// What the column `styp` holds. Readers take any other number for a SID.
 enum class ProcedureType

@@ -163,7 +163,9 @@ private:
     void createProcedure(const ProcedureKind& kind);
     void deleteProcedure(const ProcedureKind& kind);
     void addProcedureToPlan(const ProcedureKind& kind);
-    QTreeWidgetItem* selectedProcedure(const ProcedureKind& kind) const; ///< null unless one item alone is selected
+    void takeProcedureOffTree(const ProcedureKind& kind);
+    /// A procedure or a point of one. Null unless one item alone is selected.
+    QTreeWidgetItem* selectedTreeItem(const ProcedureKind& kind) const;
 
     void showAircraft(const CAircraftData& aircraft);
     void startTrace();

@@ -106,11 +106,10 @@ const MainWindow::ProcedureKind MainWindow::starKind{
     QT_TRANSLATE_NOOP("MainWindow", "Le STAR %1 a été enregistré"),
 };
 
-// The line that the procedure belongs to: the plan's first or last one. -1 in an empty plan.
+// The line that the procedure belongs to: the first or the last one of a plan, which is not empty.
 int MainWindow::airportRow(const ProcedureKind& kind) const
 {
-    const int last = flightPlan->lines.size() - 1;
-    return kind.departs ? qMin(0, last) : last;
+    return kind.departs ? 0 : flightPlan->lines.size() - 1;
 }
 
 void MainWindow::createProcedure(const ProcedureKind& kind)
@@ -197,7 +196,7 @@ void MainWindow::on_treeWStar_itemClicked(QTreeWidgetItem* item, int column)
     showSidStar(procedureOf(item)->text(0));
 }
 
-QTreeWidgetItem* MainWindow::selectedProcedure(const ProcedureKind& kind) const
+QTreeWidgetItem* MainWindow::selectedTreeItem(const ProcedureKind& kind) const
 {
     const QList<QTreeWidgetItem*> selected = (ui.get()->*kind.tree)->selectedItems();
     return selected.size() == 1 ? selected.first() : nullptr;
@@ -205,7 +204,7 @@ QTreeWidgetItem* MainWindow::selectedProcedure(const ProcedureKind& kind) const
 
 void MainWindow::addProcedureToPlan(const ProcedureKind& kind)
 {
-    const QTreeWidgetItem* item = selectedProcedure(kind);
+    const QTreeWidgetItem* item = selectedTreeItem(kind);
     if (item == nullptr) {
         return;
     }
@@ -270,7 +269,7 @@ void MainWindow::delAllSIDSTAR(const QString& aptKey)
 // The item goes whatever the answer: after a cancel the procedure is back with the next click on its airport.
 void MainWindow::deleteProcedure(const ProcedureKind& kind)
 {
-    QTreeWidgetItem* item = selectedProcedure(kind);
+    QTreeWidgetItem* item = selectedTreeItem(kind);
     if (item == nullptr) {
         return;
     }
@@ -294,20 +293,22 @@ void MainWindow::on_pbDelSTAR_clicked()
     deleteProcedure(starKind);
 }
 
-// Whatever their buttons say, these two take the one selected procedure out of its tree, and out of nothing else.
-
-void MainWindow::on_pbDelAllSID_clicked()
+// Whatever the two buttons say, they take the one selected procedure out of its tree, and out of nothing else.
+void MainWindow::takeProcedureOffTree(const ProcedureKind& kind)
 {
-    if (QTreeWidgetItem* item = selectedProcedure(sidKind)) {
+    if (QTreeWidgetItem* item = selectedTreeItem(kind)) {
         delete procedureOf(item);
     }
 }
 
+void MainWindow::on_pbDelAllSID_clicked()
+{
+    takeProcedureOffTree(sidKind);
+}
+
 void MainWindow::on_pbDelAllSTAR_clicked()
 {
-    if (QTreeWidgetItem* item = selectedProcedure(starKind)) {
-        delete procedureOf(item);
-    }
+    takeProcedureOffTree(starKind);
 }
 
 // Bringing one of these docks to the front wipes the drawn procedure.
