@@ -13,11 +13,9 @@
    * @type {(place: Place, family: MarkerFamily) => string}
    */
   function titleAt(place, family) {
-    /** @type {(a: Place, b: Place) => boolean} */
-    const near = (a, b) => Math.abs(a.lat() - b.lat()) < samePoint && Math.abs(a.lng() - b.lng()) < samePoint;
     let title = '';
     page.layers.forEach(layer => layer.list.forEach(marker => {
-      if (!title && marker.family === family && near(marker.position, place))
+      if (!title && marker.family === family && page.areClose(marker.position, place, samePoint))
         title = marker.title;
     }));
     return title;

@@ -34,6 +34,16 @@
     };
   }
 
+  /** Degrees of longitude from one position to another, east positive, the shorter way round: also across 180 degrees. */
+  page.degreesEast = function (from, to) {
+    const turn = to.lng() - from.lng();
+    return turn - 360 * Math.round(turn / 360);
+  };
+
+  /** @return {boolean} whether less than so many degrees lie between two positions, in latitude and in longitude */
+  page.areClose = (a, b, degrees) =>
+    Math.abs(a.lat() - b.lat()) < degrees && Math.abs(page.degreesEast(a, b)) < degrees;
+
   /**
    * The length of the great circle between two points, 0 to 10800 NM. The arc is taken from its sine and its cosine
    * (the special case of Vincenty's formula for a sphere), which is exact for neighbours and for opposite points,

@@ -103,8 +103,7 @@ var listWptVfr = [];
   page.joinBeacons = function () {
     /** @type {(a: ChartMarker, b: ChartMarker) => boolean} */
     const isBeside = (a, b) => page.identOf(a) === page.identOf(b)
-      && Math.abs(a.position.lat() - b.position.lat()) < besideBeacon
-      && Math.abs(a.position.lng() - b.position.lng()) < besideBeacon;
+      && page.areClose(a.position, b.position, besideBeacon);
     const beacons = listNDBRte.concat(listNDBTerm);
     listVOR.filter(marker => marker.symbol === 'dme').forEach(dme => {
       if (beacons.some(beacon => isBeside(dme, beacon)))

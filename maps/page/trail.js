@@ -40,9 +40,8 @@
 
   /** Metres east and north from one position to another not far away. @type {(from: Place, to: Place) => Way} */
   function wayBetween(from, to) {
-    const turn = to.lng() - from.lng();
     return {
-      east: (turn - 360 * Math.round(turn / 360)) * Math.cos(from.lat() * radians) * metresPerDegree,
+      east: page.degreesEast(from, to) * Math.cos(from.lat() * radians) * metresPerDegree,
       north: (to.lat() - from.lat()) * metresPerDegree,
     };
   }

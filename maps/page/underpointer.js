@@ -30,11 +30,9 @@
   /** @return {number} how many pixels lie between two places on the map, good for neighbours */
   page.pixelsBetween = function (a, b) {
     const perDegree = worldPixels * Math.pow(2, map.getZoom()) / 360;
-    const turn = a.lng() - b.lng();
-    const east = turn - 360 * Math.round(turn / 360);
     // The projection stretches the latitudes as it stretches the parallels.
     const north = (a.lat() - b.lat()) / Math.max(0.01, Math.cos(b.lat() * radians));
-    return perDegree * Math.hypot(east, north);
+    return perDegree * Math.hypot(page.degreesEast(a, b), north);
   };
 
   /** @return {{x: number, y: number}} the pixel of the window in which a place of the map lies */

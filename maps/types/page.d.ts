@@ -206,6 +206,8 @@ interface Page {
   isPlace(position: Place | null | undefined): boolean;
   heading(value: number): number;
 
+  degreesEast(from: Place, to: Place): number;
+  areClose(a: Place, b: Place, degrees: number): boolean;
   distanceTo(from: Place, to: Place): number;
   courseTo(from: Place, to: Place): number;
   midPoint(from: Place, to: Place): Place;

@@ -20,6 +20,7 @@ private slots:
     void aTypeHasItsSymbol_data();
     void aTypeHasItsSymbol();
     void aDmeIsDrawnAroundItsNdb();
+    void itsNdbMayLieBeyond180Degrees();
     void symbolsLeaveInOrderFromAfar_data();
     void symbolsLeaveInOrderFromAfar();
     void thousandsLookFartherAway();
@@ -136,6 +137,15 @@ void TestPageChart::aDmeIsDrawnAroundItsNdb()
     QCOMPARE(window->run("listVOR.map(marker => marker.symbol)").toStringList(), (QStringList{"dmeNdb", "dme"}));
     // The beacon shows inside the square.
     QVERIFY(ink(46.703, 2.3, "#8a2f7e", 3) > 0);
+}
+
+void TestPageChart::itsNdbMayLieBeyond180Degrees()
+{
+    addVor("ABC", -17, 179.998, 16);
+    window->run("addNDBMarker(new google.maps.LatLng(-17, -179.998),\"ABC-ABC5FJ\",3,"
+                "\"<font color=blue><b>NDB ABC</b><font color=black><br/>ABC<br/>338 Khz<br/>x\")");
+    window->run(allLayers);
+    QCOMPARE(window->run("listVOR[0].symbol").toString(), "dmeNdb");
 }
 
 void TestPageChart::symbolsLeaveInOrderFromAfar_data()

@@ -17,6 +17,7 @@ private slots:
     void withoutAProgramNothingIsOfferedThatNeedsOne();
     void theAirwaysOfAWaypointAloneHaveNoNavaid();
     void theAirwaysOfOnePointGetBothTitles();
+    void onePointMayLieOnBothSidesOf180Degrees();
     void theAirwaysOfANavaidAloneGoByItsOwnName();
     void runwaysCanBeClearedWhileTheyShow();
     void theMapCanBeCentred();
@@ -224,6 +225,22 @@ void TestPageCommands::theAirwaysOfOnePointGetBothTitles()
     QVERIFY(window->chooseEntry("Voies aériennes passant par ce point…"));
     const QString asked = "sATS \"CGO-CGOFR\" \"CGO-CGO4FR\"";
     QCOMPARE(commands(), (QStringList{asked, asked, asked}));
+}
+
+void TestPageCommands::onePointMayLieOnBothSidesOf180Degrees()
+{
+    open(new FullProgramSide);
+    window->run("map.setCenter(new google.maps.LatLng(-17.00000, 179.99990));"
+                "addVORMarker2(new google.maps.LatLng(-17.00000, 179.99990),\"TVU-TVU4FJ\",17,\"x\");"
+                "addWPTMarker2(new google.maps.LatLng(-17.00000, -179.99990),\"TVU-TVUFJ\",1,\"x\")");
+    window->settle();
+    for (const char* object : {"VOR TVU", "Waypoint TVU"}) {
+        window->menuAt(-17, 179.9999);
+        QVERIFY(window->chooseEntry(object));
+        QVERIFY(window->chooseEntry("Voies aériennes passant par ce point…"));
+    }
+    const QString asked = "sATS \"TVU-TVUFJ\" \"TVU-TVU4FJ\"";
+    QCOMPARE(commands(), (QStringList{asked, asked}));
 }
 
 void TestPageCommands::theAirwaysOfANavaidAloneGoByItsOwnName()
