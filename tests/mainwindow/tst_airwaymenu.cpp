@@ -1,4 +1,5 @@
 // The map's command for the airways of a point: which titles it passes on, and that the page outlives the list.
+#include "airwaywords.h"
 #include "boxresponder.h"
 #include "sandbox.h"
 #include "windowsession.h"
@@ -10,17 +11,10 @@
 
 namespace {
 
-const QString listTitle = QStringLiteral("Voie aérienne");
-const QString noneTitle = QStringLiteral("Voies aériennes");
 const QString entry = QStringLiteral("Voies aériennes passant par ce point…");
 /// What the menu calls the two markers of one point.
 const QString waypointEntry = QStringLiteral("Waypoint BLET");
 const QString navaidEntry = QStringLiteral("TACAN CGO");
-
-QString listLabel(const QString& point)
-{
-    return "Liste des voies passant par le point " + point;
-}
 
 } // namespace
 
@@ -34,12 +28,16 @@ private slots:
 
     void aWaypointIsAskedFor();
     void aNavaidAloneIsAskedFor();
+    void aNavaidAloneOnNoAirwayIsTold();
+    void aWaypointAloneOnNoAirwayIsSilent();
     void bothTitlesOfOnePointAreAskedFor_data();
     void bothTitlesOfOnePointAreAskedFor();
     void thePageIsThereAgainBehindTheList();
 
 private:
     void addNavaid() const;
+    /// At a position in arc seconds.
+    void addWaypoint(double latitude, double longitude) const;
     /// A segment of an airway from a point.
     void segment(const QString& name, const QString& from) const;
     void load();
@@ -72,6 +70,12 @@ void TestAirwayMenu::addNavaid() const
         {{"ukey", "CGO4FR"}, {"iden", "CGO"}, {"nlat", arcSeconds(46, 15)}, {"nlon", arcSeconds(2, 45)}});
 }
 
+void TestAirwayMenu::addWaypoint(double latitude, double longitude) const
+{
+    sandbox->addWaypoint(
+        {{"ukey", "BLETOFR"}, {"iden", "BLET"}, {"name", "BLETO"}, {"wlat", latitude}, {"wlon", longitude}});
+}
+
 void TestAirwayMenu::segment(const QString& name, const QString& from) const
 {
     sandbox->addAirway({{"aaid", name}, {"nvi1", from}, {"nvi2", "LMG"}});
@@ -96,11 +100,7 @@ void TestAirwayMenu::askOnMap(double latitude, double longitude, const QString& 
 
 void TestAirwayMenu::aWaypointIsAskedFor()
 {
-    sandbox->addWaypoint({{"ukey", "BLETOFR"},
-                          {"iden", "BLET"},
-                          {"name", "BLETO"},
-                          {"wlat", arcSeconds(46, 45)},
-                          {"wlon", arcSeconds(2, 15)}});
+    addWaypoint(arcSeconds(46, 45), arcSeconds(2, 15));
     segment("UT1", "BLETO");
     load();
     boxes->expectInput(listTitle, listLabel("BLETO"), "UT1");
@@ -116,6 +116,26 @@ void TestAirwayMenu::aNavaidAloneIsAskedFor()
     boxes->expectInput(listTitle, listLabel("CGO"), "UT1");
     askOnMap(46.25, 2.75);
     QVERIFY(boxes->allUsed());
+}
+
+void TestAirwayMenu::aNavaidAloneOnNoAirwayIsTold()
+{
+    addNavaid();
+    segment("UT1", "AMB");
+    load();
+    boxes->expectMessage(noneTitle, noneText("CGO"));
+    askOnMap(46.25, 2.75);
+    QVERIFY(boxes->allUsed());
+    QCOMPARE(boxes->seen().size(), 1);
+}
+
+void TestAirwayMenu::aWaypointAloneOnNoAirwayIsSilent()
+{
+    addWaypoint(arcSeconds(46, 45), arcSeconds(2, 15));
+    segment("UT1", "AMB");
+    load();
+    askOnMap(46.75, 2.25);
+    QVERIFY(boxes->seen().isEmpty());
 }
 
 void TestAirwayMenu::bothTitlesOfOnePointAreAskedFor_data()
@@ -139,11 +159,7 @@ void TestAirwayMenu::bothTitlesOfOnePointAreAskedFor()
     QFETCH(QString, marker);
     QFETCH(QStringList, onAirways);
     QFETCH(QString, shown);
-    sandbox->addWaypoint({{"ukey", "BLETOFR"},
-                          {"iden", "BLET"},
-                          {"name", "BLETO"},
-                          {"wlat", arcSeconds(46, 15)},
-                          {"wlon", arcSeconds(2, 45)}});
+    addWaypoint(arcSeconds(46, 15), arcSeconds(2, 45));
     addNavaid();
     segment("UT0", "AMB");
     for (const QString& point : onAirways)
@@ -151,7 +167,7 @@ void TestAirwayMenu::bothTitlesOfOnePointAreAskedFor()
     load();
     // The waypoint goes first and the navaid is what a box tells of, whichever of them was meant.
     if (shown.isEmpty())
-        boxes->expectMessage(noneTitle, "Le point CGO n'appartient à aucune voie aérienne");
+        boxes->expectMessage(noneTitle, noneText("CGO"));
     else
         boxes->expectInput(listTitle, listLabel(shown), "U" + shown);
     askOnMap(46.25, 2.75, marker);

@@ -1,4 +1,5 @@
 // The airways through a point: which points are looked up, what is offered, and what comes of the choice.
+#include "airwaywords.h"
 #include "boxresponder.h"
 #include "messagelog.h"
 #include "sandbox.h"
@@ -9,23 +10,6 @@
 #include <QComboBox>
 #include <QInputDialog>
 #include <QtTest>
-
-namespace {
-
-const QString listTitle = QStringLiteral("Voie aérienne");
-const QString noneTitle = QStringLiteral("Voies aériennes");
-
-QString listLabel(const QString& point)
-{
-    return "Liste des voies passant par le point " + point;
-}
-
-QString noneText(const QString& point)
-{
-    return "Le point " + point + " n'appartient à aucune voie aérienne";
-}
-
-} // namespace
 
 class TestAirways : public QObject
 {
