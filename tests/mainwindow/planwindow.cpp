@@ -167,6 +167,12 @@ void PlanWindow::setCurrent(int row, int column) const
     grid()->setCurrentCell(row, column);
 }
 
+void PlanWindow::bringToFront(const QString& dock) const
+{
+    window->findChild<QDockWidget*>(dock)->raise();
+    QCoreApplication::processEvents();
+}
+
 bool PlanWindow::isInFront(const QString& dock) const
 {
     QCoreApplication::processEvents();

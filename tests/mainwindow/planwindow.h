@@ -43,6 +43,8 @@ public:
     /// Row and column of the grid's current cell.
     QPair<int, int> current() const;
     void setCurrent(int row, int column = 1) const;
+    /// Raises a dock, and lets the page be told of it.
+    void bringToFront(const QString& dock) const;
     /// True when the dock lies in front of the ones that share its place.
     bool isInFront(const QString& dock) const;
     QString title(const QString& dock) const;

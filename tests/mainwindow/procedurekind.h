@@ -1,5 +1,8 @@
 #pragma once
 
+#include "boxresponder.h"
+#include "planwindow.h"
+
 #include <QMetaType>
 #include <QtTest>
 
@@ -26,4 +29,13 @@ inline void addBothKinds()
     QTest::addColumn<ProcedureKind>("kind");
     QTest::newRow("SID") << sid;
     QTest::newRow("STAR") << star;
+}
+
+/// Stores the plan of the window, which is said to have worked out.
+inline void storePlan(const PlanWindow& win, BoxResponder& boxes, const ProcedureKind& kind, const QString& name)
+{
+    boxes.expectInput(kind.nameTitle, kind.nameLabel, name);
+    boxes.expectMessage(kind.storedTitle, QString(kind.storedText).replace("%1", name));
+    win.click(kind.button);
+    QVERIFY(boxes.allUsed());
 }

@@ -13,10 +13,11 @@ class StoredProcedures
 public:
     explicit StoredProcedures(const Sandbox& world) : sandbox(world) {}
 
-    /// Removes all rows.
-    void clear() const
+    /// Removes all rows. The next key is the first one again, "K001".
+    void clear()
     {
         sandbox.sql(dbfile::route, "DELETE FROM SIDSTAR");
+        count = 0;
     }
 
     void add(Row row)

@@ -1,5 +1,6 @@
 // All stored procedures of an airport deleted at once, with and without an update file. No button does it.
 #include "boxresponder.h"
+#include "deletionwords.h"
 #include "editingworld.h"
 #include "mainwindow.h"
 #include "planwindow.h"
@@ -11,10 +12,6 @@
 namespace {
 
 const QString heading = QStringLiteral("Effacer les SID/STAR");
-const QString exportTitle = QStringLiteral("Suppression/export d'un SIDSTAR");
-const QString erase = QStringLiteral("Effacer");
-const QString eraseAndExport = QStringLiteral("Effacer\n& Exporter");
-const QString keep = QStringLiteral("Annuler");
 
 } // namespace
 
@@ -78,8 +75,9 @@ private slots:
     void allOfAnAirportAreExportedWithoutItsKey()
     {
         boxes->expectMessage("", heading, eraseAndExport);
-        boxes->expectMessage(exportTitle, "Les SIDSTAR de FR001 ont été effacé et enregistrer pour export \ndans " +
-                                              data->shownName("FR001"));
+        boxes->expectMessage(procedureExportTitle,
+                             "Les SIDSTAR de FR001 ont été effacé et enregistrer pour export \ndans " +
+                                 data->shownName("FR001"));
         win->window->delAllSIDSTAR("FR001");
         QVERIFY(boxes->allUsed());
         QCOMPARE(rows->names(), QString("AWAY"));
@@ -91,7 +89,7 @@ private slots:
     {
         data->block("FR001");
         boxes->expectMessage("", heading, eraseAndExport);
-        boxes->expectMessage(exportTitle, "Le SIDSTAR FR001 a été effacé mais l'export à échoué");
+        boxes->expectMessage(procedureExportTitle, "Le SIDSTAR FR001 a été effacé mais l'export à échoué");
         win->window->delAllSIDSTAR("FR001");
         QVERIFY(boxes->allUsed());
         QCOMPARE(rows->names(), QString("AWAY"));

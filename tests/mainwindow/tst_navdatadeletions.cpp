@@ -1,6 +1,7 @@
 // Navaids and waypoints deleted from the map, with and without an update file that deletes them elsewhere too.
 #include "boxresponder.h"
 #include "childprocess.h"
+#include "deletionwords.h"
 #include "editingworld.h"
 #include "sandbox.h"
 #include "updateline.h"
@@ -21,9 +22,6 @@ namespace {
 
 const QString heading = QStringLiteral("Suppression d'un navaid");
 const QString exportTitle = QStringLiteral("Suppression/export d'un navaid");
-const QString erase = QStringLiteral("Effacer");
-const QString eraseAndExport = QStringLiteral("Effacer\n& Exporter");
-const QString keep = QStringLiteral("Annuler");
 
 } // namespace
 

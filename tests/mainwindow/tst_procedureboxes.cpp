@@ -120,12 +120,16 @@ private slots:
         QVERIFY(boxes->allUsed());
         QCOMPARE(boxes->seen().size(), 1);
         QVERIFY(win->plan().lines.isEmpty());
-        QCOMPARE(rows->stored().size(), 1); // the older one of that name
+        // The older one of that name.
+        QCOMPARE(rows->stored(), QStringList{"0;K001;FR001;A1;10;2;BAMES;1;5000;175320;10800"});
     }
 
     void thePlanIsStoredAsItIsAfterTheName_data()
     {
-        bothLines();
+        planColumns();
+        QTest::addColumn<QString>("stored");
+        QTest::newRow("SID") << sid << "LFPO LFBO" << 0 << "0;A110;FR002;A1;10;2;LFBO;0;499;157086;4924";
+        QTest::newRow("STAR") << star << "LFPO LFBO" << 1 << "0;A110;FR001;A1;10;1;LFPO;0;291;175411;8494";
         // Whether it is still an airport is not asked again.
         QTest::newRow("SID, no airport") << sid << "LFPO PGS-N1" << 0 << "0;A110;N1;A1;10;2;PGS;1;300;175800;9000";
         QTest::newRow("STAR, no airport") << star << "PGS-N1 LFPO" << 1 << "0;A110;N1;A1;10;1;PGS;1;300;175800;9000";
@@ -146,7 +150,9 @@ private slots:
 
     void theTreesAreThoseOfTheAirportAfterTheName_data()
     {
-        bothLines();
+        planColumns();
+        QTest::newRow("SID") << sid << "LFPO LFBO" << 0;
+        QTest::newRow("STAR") << star << "LFPO LFBO" << 1;
     }
     void theTreesAreThoseOfTheAirportAfterTheName()
     {
@@ -173,15 +179,12 @@ private:
                               << "pbDelSTAR";
     }
 
-    /// A plan of two airports, the row that goes while the name is asked for, and what is stored then.
-    static void bothLines()
+    /// How it is stored, a plan of two points, and the row that goes while the name is asked for.
+    static void planColumns()
     {
         QTest::addColumn<ProcedureKind>("kind");
         QTest::addColumn<QString>("points");
         QTest::addColumn<int>("deleted");
-        QTest::addColumn<QString>("stored");
-        QTest::newRow("SID") << sid << "LFPO LFBO" << 0 << "0;A110;FR002;A1;10;2;LFBO;0;499;157086;4924";
-        QTest::newRow("STAR") << star << "LFPO LFBO" << 1 << "0;A110;FR001;A1;10;1;LFPO;0;291;175411;8494";
     }
 
     QTreeWidget* tree(const QString& name) const

@@ -2,12 +2,12 @@
 #include "boxresponder.h"
 #include "ciodatabase.h"
 #include "cnavglobalvar.h"
+#include "deletionwords.h"
 #include "editingworld.h"
 #include "mainwindow.h"
 #include "planwindow.h"
 #include "storedprocedures.h"
 
-#include <QDockWidget>
 #include <QFile>
 #include <QPushButton>
 #include <QTableWidget>
@@ -17,10 +17,6 @@ namespace {
 
 const QString heading = QStringLiteral("Effacer un SID/STAR");
 const QString doneTitle = QStringLiteral("Effacement STAR");
-const QString exportTitle = QStringLiteral("Suppression/export d'un SIDSTAR");
-const QString erase = QStringLiteral("Effacer");
-const QString eraseAndExport = QStringLiteral("Effacer\n& Exporter");
-const QString keep = QStringLiteral("Annuler");
 
 } // namespace
 
@@ -50,7 +46,7 @@ private slots:
         rows->addProcedure("IN2", 1, {"CGN"});
         rows->add({{"sapt", "FR002"}, {"strm", "AWAY"}, {"sqnm", 10}, {"styp", 2}});
         clickOnTheAirport();
-        bringToFront("dockWDebug");
+        win->bringToFront("dockWDebug");
         win->clearCalls();
     }
     void cleanup()
@@ -168,8 +164,9 @@ private slots:
         QFETCH(QString, name);
         select(treeName, name);
         boxes->expectMessage("", heading, eraseAndExport);
-        boxes->expectMessage(exportTitle, "Le SIDSTAR " + name + " a été effacé et enregistrer pour export \ndans " +
-                                              data->shownName(name));
+        boxes->expectMessage(procedureExportTitle, "Le SIDSTAR " + name +
+                                                       " a été effacé et enregistrer pour export \ndans " +
+                                                       data->shownName(name));
         win->click(button);
         QVERIFY(boxes->allUsed());
         QCOMPARE(boxes->seen().value(1).icon, QMessageBox::Information);
@@ -184,7 +181,7 @@ private slots:
         data->block("OUT");
         select("treeWSid", "OUT");
         boxes->expectMessage("", heading, eraseAndExport);
-        boxes->expectMessage(exportTitle, "Le SIDSTAR OUT a été effacé mais l'export à échoué");
+        boxes->expectMessage(procedureExportTitle, "Le SIDSTAR OUT a été effacé mais l'export à échoué");
         win->click("pbDelSID");
         QVERIFY(boxes->allUsed());
         QCOMPARE(rows->names(), QString("AWAY IN IN2 OUT2"));
@@ -197,7 +194,7 @@ private slots:
         clickOnTheAirport();
         select("treeWSid", "NO/FOLDER");
         boxes->expectMessage("", heading, eraseAndExport);
-        boxes->expectMessage(exportTitle, "Le SIDSTAR NO/FOLDER a été effacé mais l'export à échoué");
+        boxes->expectMessage(procedureExportTitle, "Le SIDSTAR NO/FOLDER a été effacé mais l'export à échoué");
         win->click("pbDelSID");
         QVERIFY(boxes->allUsed());
         QCOMPARE(rows->names(), QString("AWAY IN IN2 OUT OUT2"));
@@ -372,12 +369,6 @@ private:
         QCOMPARE(found.size(), 1);
         tree(treeName)->setCurrentItem(found.first());
         QCOMPARE(tree(treeName)->selectedItems().size(), 1);
-    }
-
-    void bringToFront(const QString& dock) const
-    {
-        win->window->findChild<QDockWidget*>(dock)->raise();
-        QCoreApplication::processEvents();
     }
 
     QScopedPointer<BoxResponder> boxes;

@@ -5,7 +5,6 @@
 #include "procedurekind.h"
 #include "storedprocedures.h"
 
-#include <QPushButton>
 #include <QTableWidget>
 
 class TestProcedureNames : public QObject
@@ -40,7 +39,7 @@ private slots:
     void blanksAreAName()
     {
         QFETCH(ProcedureKind, kind);
-        store(kind, "   ");
+        storePlan(*win, *boxes, kind, "   ");
         QCOMPARE(rows->stored().size(), 1);
         QCOMPARE(rows->stored().value(0).section(';', 1, 4), QString("   10;FR001;   ;10"));
     }
@@ -53,14 +52,14 @@ private slots:
     {
         QFETCH(ProcedureKind, kind);
         rows->addProcedure("ABC1", 2, {"BAMES"});
-        store(kind, "L'Est");
+        storePlan(*win, *boxes, kind, "L'Est");
         QCOMPARE(rows->names(), QString("ABC1"));
         QCOMPARE(boxes->seen().size(), 2);
     }
 
     void aNameWithAPlaceNumberStaysAsItIs()
     {
-        store(sid, "%2%1");
+        storePlan(*win, *boxes, sid, "%2%1");
         QCOMPARE(rows->names(), QString("%2%1"));
         QVERIFY(rows->stored().value(0).startsWith("0;%2%110;"));
     }
@@ -98,15 +97,6 @@ private slots:
     }
 
 private:
-    /// Stores the plan, which is said to have worked out.
-    void store(const ProcedureKind& kind, const QString& name)
-    {
-        boxes->expectInput(kind.nameTitle, kind.nameLabel, name);
-        boxes->expectMessage(kind.storedTitle, QString(kind.storedText).replace("%1", name));
-        win->click(kind.button);
-        QVERIFY(boxes->allUsed());
-    }
-
     QScopedPointer<BoxResponder> boxes;
     QScopedPointer<PlanWindow> win;
     QScopedPointer<StoredProcedures> rows;

@@ -6,7 +6,6 @@
 #include "planwindow.h"
 #include "storedprocedures.h"
 
-#include <QDockWidget>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -30,7 +29,7 @@ private slots:
         rows->clear();
         tree("treeWSid")->clear();
         tree("treeWStar")->clear();
-        bringToFront("dockWDebug");
+        win->bringToFront("dockWDebug");
         win->clearCalls();
     }
     void cleanup()
@@ -149,7 +148,7 @@ private slots:
         QFETCH(int, type);
         prepare(treeName, type, {"ONE"});
         win->setCurrent(type == 2 ? 0 : 1);
-        bringToFront("dockWFlightPlan");
+        win->bringToFront("dockWFlightPlan");
         win->clearCalls();
         win->click(button);
         QCOMPARE(win->told(), QString("clearSS() clearFP() addPointToFp(LatLng(48.72528,2.35944),\"PARIS ORLY\") "
@@ -168,7 +167,7 @@ private slots:
         QFETCH(int, type);
         prepare(treeName, type, {"ONE", "TWO"});
         win->setCurrent(0);
-        bringToFront(type == 2 ? "dockWSid" : "dockWStar");
+        win->bringToFront(type == 2 ? "dockWSid" : "dockWStar");
         QVERIFY(!win->isInFront("dockWFlightPlan"));
         win->click(button);
         QVERIFY(win->isInFront("dockWFlightPlan"));
@@ -187,7 +186,7 @@ private slots:
         QFETCH(int, type);
         prepare(treeName, type, {"ONE", "TWO"});
         win->setCurrent(0);
-        bringToFront("dockWFlightPlan");
+        win->bringToFront("dockWFlightPlan");
         tree(treeName)->setCurrentItem(tree(treeName)->topLevelItem(0)->child(1));
         win->clearCalls();
         win->click(button);
@@ -338,7 +337,7 @@ private:
         rows->addProcedure("A1", type, points);
         win->add({"LFPO", "LFBO"});
         fillAndSelect(treeName);
-        bringToFront("dockWDebug");
+        win->bringToFront("dockWDebug");
         win->clearCalls();
     }
 
@@ -349,12 +348,6 @@ private:
         win->window->fillSidStarTrees("FR001");
         tree(treeName)->setCurrentItem(tree(treeName)->topLevelItem(0));
         QCOMPARE(tree(treeName)->selectedItems().size(), 1);
-    }
-
-    void bringToFront(const QString& dock) const
-    {
-        win->window->findChild<QDockWidget*>(dock)->raise();
-        QCoreApplication::processEvents();
     }
 
     QScopedPointer<BoxResponder> boxes;

@@ -41,7 +41,7 @@ private slots:
     {
         boxes.reset(new BoxResponder);
         rows->clear();
-        bringToFront("dockWDebug");
+        win->bringToFront("dockWDebug");
         win->clearCalls();
     }
     void cleanup()
@@ -173,11 +173,11 @@ private slots:
         win->clearCalls();
         emit win->window->findChild<QDockWidget*>(dock)->visibilityChanged(false);
         QCOMPARE(win->told(), QString());
-        bringToFront(dock);
+        win->bringToFront(dock);
         QVERIFY(win->isInFront(dock));
         QVERIFY(!win->probe->calls("clearSS").isEmpty());
         win->clearCalls();
-        bringToFront("dockWDebug");
+        win->bringToFront("dockWDebug");
         QVERIFY(!win->isInFront(dock));
         QCOMPARE(win->told(), QString());
     }
@@ -185,19 +185,13 @@ private slots:
     void anotherDockThatComesToTheFrontLeavesTheProcedure()
     {
         for (const char* dock : {"dockWAircraft", "dockWDebug"}) {
-            bringToFront(dock);
+            win->bringToFront(dock);
             QVERIFY(win->isInFront(dock));
             QCOMPARE(win->told(), QString());
         }
     }
 
 private:
-    void bringToFront(const QString& dock) const
-    {
-        win->window->findChild<QDockWidget*>(dock)->raise();
-        QCoreApplication::processEvents();
-    }
-
     QScopedPointer<BoxResponder> boxes;
     QScopedPointer<PlanWindow> win;
     QScopedPointer<StoredProcedures> rows;
