@@ -56,6 +56,8 @@
     remove(feature) {
       if (!this.features.delete(feature))
         return;
+      if (this.map)
+        engine.leavePoint(this.map, this, feature);
       this.grid.remove(feature);
       this.overrides.delete(feature);
       feature.layer = null;
@@ -117,6 +119,7 @@
       if (next === this.map)
         return;
       if (this.map) {
+        engine.leavePoint(this.map, this);
         this.map.points.hide(this);
         this.map.chart.invalidate();
       }

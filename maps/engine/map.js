@@ -39,6 +39,8 @@
       const centre = engine.isFinitePosition(wanted.center) ? wanted.center : new maps.LatLng(0, 0);
       this.element = element;
       this.lines = new engine.Lines();
+      /** The point of a data layer under the pointer, or null. */
+      this.pointed = null;
       this.quiet = false;
       this.exactCentre = centre;
       this.leaflet = L.map(element, leafletOptions);

@@ -37,8 +37,8 @@
     return map.points.nearest(engine.unitX(leafletEvent.latlng.lng), engine.unitY(leafletEvent.latlng.lat), scale);
   }
 
-  function tell(feature, name, leafletEvent) {
-    maps.event.trigger(feature.layer, name, Object.assign(mouseEvent(leafletEvent), { feature: feature }));
+  function tell(feature, name, mouse) {
+    maps.event.trigger(feature.layer, name, Object.assign({ feature: feature }, mouse));
   }
 
   function listenToButtons(map) {
@@ -46,7 +46,7 @@
       const zooms = name === 'dblclick' && !map.options.disableDoubleClickZoom;
       const feature = featureAt(map, leafletEvent);
       if (feature)
-        tell(feature, names[name], leafletEvent);
+        tell(feature, names[name], mouseEvent(leafletEvent));
       else
         maps.event.trigger(map, names[name], mouseEvent(leafletEvent));
       if (zooms)
@@ -54,24 +54,33 @@
     }));
   }
 
+  /** The pointer leaves the point under it, if there is one, and comes to another or to none. */
+  function enter(map, feature, mouse) {
+    const left = map.pointed;
+    if (feature === left)
+      return;
+    map.pointed = feature;
+    map.element.classList.toggle('over-point', !!feature);
+    if (left)
+      tell(left, 'mouseout', mouse);
+    if (feature)
+      tell(feature, 'mouseover', mouse);
+  }
+
+  /** A layer is about to lose a point, or all of them: what is no more on the map is no more under the pointer. */
+  engine.leavePoint = (map, layer, feature) => {
+    const left = map.pointed;
+    if (left && left.layer === layer && (!feature || feature === left))
+      enter(map, null, { latLng: left.geometry });
+  };
+
   function listenToMoves(map) {
-    let under = null;
-    const enter = (feature, leafletEvent) => {
-      if (feature === under)
-        return;
-      if (under && under.layer)
-        tell(under, 'mouseout', leafletEvent);
-      under = feature;
-      map.element.classList.toggle('over-point', !!feature);
-      if (feature)
-        tell(feature, 'mouseover', leafletEvent);
-    };
     map.leaflet.on('mousemove', leafletEvent => {
-      enter(featureAt(map, leafletEvent), leafletEvent);
+      enter(map, featureAt(map, leafletEvent), mouseEvent(leafletEvent));
       maps.event.trigger(map, 'mousemove', mouseEvent(leafletEvent));
     });
     map.leaflet.on('mouseout', leafletEvent => {
-      enter(null, leafletEvent);
+      enter(map, null, mouseEvent(leafletEvent));
       maps.event.trigger(map, 'mouseout', mouseEvent(leafletEvent));
     });
   }

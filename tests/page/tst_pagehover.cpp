@@ -29,6 +29,9 @@ private slots:
     void theBoxStaysInTheWindow();
     void theBoxFollowsThePalette();
     void theStatusTellsWhatLiesUnderThePointer();
+    void aDeletedMarkerIsNoMoreUnderThePointer();
+    void aReplacedMarkerIsNoMoreUnderThePointer();
+    void aMarkerOfAHiddenLayerIsNoMoreUnderThePointer();
     void aFloodOfMovesIsOneReportAFrame();
     void aFloodOfDragsIsOneReportAFrame();
     void leavingTheMapEmptiesTheReport();
@@ -181,6 +184,45 @@ void TestPageHover::theStatusTellsWhatLiesUnderThePointer()
     QTRY_VERIFY_WITH_TIMEOUT(program->calls("doData").last().contains(QRegularExpression(last)), 20000);
     window->mouse->moveTo({5, 300});
     QTRY_VERIFY_WITH_TIMEOUT(program->calls("doData").last().endsWith(" E\""), 20000);
+}
+
+void TestPageHover::aDeletedMarkerIsNoMoreUnderThePointer()
+{
+    rest(ndb);
+    QTRY_VERIFY_WITH_TIMEOUT(isShown(), 20000);
+    window->run("theLast = listNDBTerm[0]; delNavaid();");
+    QVERIFY(!isShown());
+    window->settle();
+    program->clear();
+    window->mouse->moveTo(pixel(*window, ndb) + QPoint(2, 2));
+    QTRY_VERIFY_WITH_TIMEOUT(!program->calls("doData").isEmpty(), 20000);
+    QVERIFY(program->calls("doData").last().endsWith(" E\""));
+    QTest::qWait(600);
+    QVERIFY(!isShown());
+    QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageHover::aReplacedMarkerIsNoMoreUnderThePointer()
+{
+    rest(ndb);
+    QTRY_VERIFY_WITH_TIMEOUT(isShown(), 20000);
+    // Its navaid has gone to another place.
+    window->run(R"(addNDBMarker2(new google.maps.LatLng(46.60000, 1.70000),"MONTLUCON-MT5FR",4,"x"))");
+    QVERIFY(!isShown());
+    window->settle();
+    program->clear();
+    window->mouse->moveTo(pixel(*window, ndb) + QPoint(2, 2));
+    QTRY_VERIFY_WITH_TIMEOUT(!program->calls("doData").isEmpty(), 20000);
+    QVERIFY(program->calls("doData").last().endsWith(" E\""));
+}
+
+void TestPageHover::aMarkerOfAHiddenLayerIsNoMoreUnderThePointer()
+{
+    rest(ndb);
+    QTRY_VERIFY_WITH_TIMEOUT(isShown(), 20000);
+    window->run("NDBTermMgr.clearMarkers()");
+    QVERIFY(!isShown());
+    QVERIFY(!window->run("document.getElementById('chart').classList.contains('over-point')").toBool());
 }
 
 void TestPageHover::aFloodOfMovesIsOneReportAFrame()

@@ -22,6 +22,7 @@ private slots:
     void aLegTellsItsLengthAndBothCourses();
     void theLineFollowsThePointer();
     void theLineEndsAtTheMarkerUnderThePointer();
+    void theLineLeavesADeletedMarker();
     void severalLegsHaveASum();
     void aDoubleClickEndsItAndDoesNotZoom();
     void aDoubleClickZoomsAgainAfterwards();
@@ -120,6 +121,20 @@ void TestPageMeasure::theLineEndsAtTheMarkerUnderThePointer()
     // Some pixels off the NDB, which lies half a degree to the south.
     window->mouse->moveTo(pixel(*window, ndb) + QPoint(3, 3));
     QTRY_COMPARE_WITH_TIMEOUT(readout(), (QStringList{"30.0 NM  ·  55.6 km", "180° / 360°"}), 20000);
+}
+
+void TestPageMeasure::theLineLeavesADeletedMarker()
+{
+    const QStringList snapped{"30.0 NM  ·  55.6 km", "180° / 360°"};
+    start(46.9, 2.6);
+    window->mouse->moveTo(pixel(*window, ndb) + QPoint(3, 3));
+    QTRY_COMPARE_WITH_TIMEOUT(readout(), snapped, 20000);
+    window->run("theLast = listNDBTerm[0]; delNavaid();");
+    QTRY_VERIFY_WITH_TIMEOUT(readout() != snapped, 20000);
+    window->mouse->moveTo(pixel(*window, ndb) + QPoint(4, -5));
+    window->settle();
+    QCOMPARE(readout().size(), 2);
+    QVERIFY(readout().value(0) != snapped.value(0));
 }
 
 void TestPageMeasure::severalLegsHaveASum()
