@@ -43,7 +43,7 @@
   ].join(' ');
   const threeArms = polygon([-3.5, -6], [3.5, -6], [6.3, -7.6], [9.8, -1.6], [7, 0], [3.5, 6], [3.5, 9.2], [-3.5, 9.2],
     [-3.5, 6], [-7, 0], [-9.8, -1.6], [-6.3, -7.6]);
-  const star = polygon([0, -6.6], [1.7, -1.7], [6.6, 0], [1.7, 1.7], [0, 6.6], [-1.7, 1.7], [-6.6, 0], [-1.7, -1.7]);
+  const star = polygon([0, -5], [1.3, -1.3], [5, 0], [1.3, 1.3], [0, 5], [-1.3, 1.3], [-5, 0], [-1.3, -1.3]);
 
   /**
    * The colours are names of `page.palette`. What is rarer and more wanted has the higher zIndex: it lies over the rest,

@@ -23,6 +23,8 @@ private slots:
     void itsNdbMayLieBeyond180Degrees();
     void symbolsLeaveInOrderFromAfar_data();
     void symbolsLeaveInOrderFromAfar();
+    void anRnavWaypointIsSmallerThanOneEnRoute_data();
+    void anRnavWaypointIsSmallerThanOneEnRoute();
     void thousandsLookFartherAway();
     void aPaletteColoursTheSymbols();
     void runwaysShowInTheSymbolOfTheirAirport();
@@ -152,9 +154,10 @@ void TestPageChart::symbolsLeaveInOrderFromAfar_data()
 {
     QTest::addColumn<double>("zoom");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("8") << 8.0 << "airport vor ndb route terminal vfr";
+    QTest::newRow("8") << 8.0 << "airport vor ndb route rnav terminal vfr";
+    QTest::newRow("6.9") << 6.9 << "airport vor ndb route";
     QTest::newRow("6.5") << 6.5 << "airport vor ndb route";
-    QTest::newRow("6") << 6.0 << "airport vor ndb route";
+    QTest::newRow("6.4") << 6.4 << "airport vor ndb";
     QTest::newRow("5.5") << 5.5 << "airport vor ndb";
     QTest::newRow("4") << 4.0 << "airport vor";
     QTest::newRow("3") << 3.0 << "airport";
@@ -168,7 +171,8 @@ void TestPageChart::symbolsLeaveInOrderFromAfar()
     const QVector<QPair<QString, QString>> rows{
         {"airport", "addAPTMarker(%1,\"LFXX\",1,\"x\")"}, {"vor", "addVORMarker(%1,\"A-A\",1,\"x\")"},
         {"ndb", "addNDBMarker(%1,\"A-E\",1,\"x\")"},      {"route", "addWPTMarker(%1,\"A-G\",1,\"x\")"},
-        {"terminal", "addWPTMarker(%1,\"A-I\",4,\"x\")"}, {"vfr", "addWPTMarker(%1,\"A-J\",6,\"x\")"}};
+        {"rnav", "addWPTMarker(%1,\"A-H\",5,\"x\")"},     {"terminal", "addWPTMarker(%1,\"A-I\",4,\"x\")"},
+        {"vfr", "addWPTMarker(%1,\"A-J\",6,\"x\")"}};
     const QStringList wanted = shown.split(' ');
     QStringList found;
     for (const auto& row : rows) {
@@ -181,6 +185,37 @@ void TestPageChart::symbolsLeaveInOrderFromAfar()
             found << row.first;
     }
     QCOMPARE(found, wanted);
+}
+
+void TestPageChart::anRnavWaypointIsSmallerThanOneEnRoute_data()
+{
+    QTest::addColumn<double>("zoom");
+    QTest::newRow("a dot") << 8.0;
+    QTest::newRow("a star") << 9.0;
+}
+
+void TestPageChart::anRnavWaypointIsSmallerThanOneEnRoute()
+{
+    QFETCH(double, zoom);
+    window->run(QString("addWPTMarker(new google.maps.LatLng(46.60000, 2.60000),\"A-G\",1,\"x\");"
+                        "addWPTMarker(new google.maps.LatLng(46.40000, 2.60000),\"A-H\",5,\"x\");map.setZoom(%1);")
+                    .arg(zoom));
+    window->run(allLayers);
+    const auto painted = [this](double latitude) {
+        const QImage with = pictureAround(latitude, 2.6, 9);
+        window->run("WPTRteMgr.clearMarkers()");
+        const QImage without = pictureAround(latitude, 2.6, 9);
+        window->run("WPTRteMgr.addMarkers(listWptRte)");
+        int pixels = 0;
+        // Left of the labels.
+        for (int y = 0; y < with.height(); ++y)
+            for (int x = 0; x <= 9; ++x)
+                pixels += with.pixel(x, y) != without.pixel(x, y) ? 1 : 0;
+        return pixels;
+    };
+    const int enRoute = painted(46.6);
+    const int rnav = painted(46.4);
+    QVERIFY2(rnav > 0 && rnav < enRoute, qPrintable(QString("%1 and %2").arg(enRoute).arg(rnav)));
 }
 
 void TestPageChart::thousandsLookFartherAway()
