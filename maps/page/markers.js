@@ -57,6 +57,12 @@ var listWptVfr = [];
       return this.family === page.families.airport ? '' : this.title.slice(this.title.lastIndexOf('-') + 1);
     }
 
+    /** What stands in front of that "-"; the whole title of an airport, and of what has nothing there. */
+    stem() {
+      const dash = this.title.lastIndexOf('-');
+      return this.family === page.families.airport || dash < 1 ? this.title : this.title.slice(0, dash);
+    }
+
     /**
      * Whether two markers stand for the same row. A navaid's key holds no "-", so it is the tail whatever the name. A
      * waypoint's key begins with the name's first letters and may hold one: then only the whole title tells.

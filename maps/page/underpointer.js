@@ -76,8 +76,6 @@
 
   /** The program's texts begin with one of these words, which the page says in its own language. */
   const leadingWord = /^(Airport|VOR|NDB|Waypoint) /;
-  /** The number of the usage behind a waypoint's name: the kind tells it already. */
-  const usageNumber = / \(\d+\)$/;
 
   /** @param {string} text */
   function capital(text) {
@@ -87,23 +85,15 @@
   /** @param {ChartMarker} marker */
   const kindOf = marker => pageWords[`kind${capital(marker.symbol)}`] || pageWords[`kind${capital(marker.family)}`];
 
-  /** The name in front of the key of a title; the whole title of an airport. @param {ChartMarker} marker */
-  function stemOf(marker) {
-    const dash = marker.title.lastIndexOf('-');
-    return marker.family === page.families.airport || dash < 1 ? marker.title : marker.title.slice(0, dash);
-  }
-
   /**
    * What a marker is called, as text: "VOR-DME CGO" and the lines of its pop-up between the first and the position.
    * @return {{head: string, lines: string[]}}
    */
   page.describe = function (marker) {
-    const lines = page.textLines(marker.html);
+    const lines = page.linesOf(marker);
     const first = lines[0] || '';
-    const ident = leadingWord.test(first) ? first.replace(leadingWord, '') : stemOf(marker);
-    const details = lines.slice(1, lines.length > 2 ? -1 : undefined)
-      .map(line => (marker.family === page.families.waypoint ? line.replace(usageNumber, '') : line))
-      .filter(line => line && line !== ident);
+    const ident = leadingWord.test(first) ? first.replace(leadingWord, '') : marker.stem();
+    const details = lines.slice(1, lines.length > 2 ? -1 : undefined).filter(line => line && line !== ident);
     return { head: `${kindOf(marker)} ${ident}`, lines: details };
   };
 

@@ -22,6 +22,7 @@ interface ChartMarker {
   getTitle(): string;
   getPosition(): Place;
   tail(): string;
+  stem(): string;
   isSameRow(other: ChartMarker): boolean;
   /** The lines of the HTML text, once somebody has asked for them. */
   lines?: string[];
@@ -237,6 +238,7 @@ interface Page {
 
   identOf(marker: ChartMarker): string;
   nameOf(marker: ChartMarker): string;
+  linesOf(marker: ChartMarker): string[];
   longText(marker: ChartMarker): string;
   labelOf(text: string, colour: string, letters: number, more?: Partial<google.maps.MarkerLabel>): google.maps.MarkerLabel;
   looksAt(zoom: number, countOf: (symbol: string) => number): Looks;

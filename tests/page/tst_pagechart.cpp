@@ -385,6 +385,11 @@ void TestPageChart::theMarkerOfThePointsNameIsTaken()
     QVERIFY(ink(46.7, 2.3, waypointColour) > 5);
     plan("NAME ABC", 46.7, 2.3);
     QVERIFY(ink(46.7, 2.3, navaidColour) > 5);
+    // A waypoint of the dialog: its identifier is the name's first letters, and the usage is a word.
+    window->run("addWPTMarker2(new google.maps.LatLng(46.70000, 2.30000),\"DIALOG-DIALOFR\",3,"
+                "\"<font color=blue><b>Waypoint DIAL</b><font color=black><br/>DIALOG (High/Low)<br/>x\")");
+    plan("DIALOG", 46.7, 2.3);
+    QCOMPARE(window->run("page.isPlanned(listWptRte[1])").toBool(), true);
     // A name that is none of theirs: what charts draw above the other.
     plan("ELSE", 46.7, 2.3);
     QVERIFY(ink(46.7, 2.3, navaidColour) > 5);

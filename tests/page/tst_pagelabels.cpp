@@ -28,6 +28,9 @@ private slots:
     void aTextWithoutAKindIsLabelledByItsTitle_data();
     void aTextWithoutAKindIsLabelledByItsTitle();
     void aLabelIsText();
+    void aWaypointsUsageIsNoPartOfItsName_data();
+    void aWaypointsUsageIsNoPartOfItsName();
+    void whatIsWrittenAsAnEntityIsRead();
     void aRowOfSymbolsLeavesTheirOwnLabelsRoom();
 
 private:
@@ -277,6 +280,42 @@ void TestPageLabels::aLabelIsText()
     window->run("pushAPT();");
     QCOMPARE(labels(), QStringList{"X"});
     QCOMPARE(window->run("document.querySelectorAll('i').length").toInt(), 0);
+}
+
+void TestPageLabels::aWaypointsUsageIsNoPartOfItsName_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("name");
+    // A number in the feed, a word in what the dialog sends.
+    for (const char* usage : {"1", "3", "12", "", "High", "Low", "High/Low", "Terminal", "RNAV", "VFR"})
+        QTest::addRow("(%s)", usage) << QString("SAINT YAN (%1)").arg(usage) << "SAINT YAN";
+    QTest::newRow("a word of the name itself") << "SAINT YAN (Nord) (3)"
+                                               << "SAINT YAN (Nord)";
+    QTest::newRow("nothing but a word of the name") << "SAINT YAN (Nord)"
+                                                    << "SAINT YAN (Nord)";
+}
+
+void TestPageLabels::aWaypointsUsageIsNoPartOfItsName()
+{
+    QFETCH(QString, line);
+    QFETCH(QString, name);
+    window->run("addWPTMarker2(new google.maps.LatLng(46.50000, 2.50000),\"SAINT YAN-SAINTFR\",1,\"<font color=blue><b>"
+                "Waypoint SAIN</b><font color=black><br/>" +
+                line + "<br/>46 30 00 N - 002 30 00 E\")");
+    window->run("map.setZoom(13)");
+    QCOMPARE(labels(), QStringList{"SAIN\n" + name});
+    QCOMPARE(window->run("page.nameOf(listWptRte[0])").toString(), name);
+    QCOMPARE(window->run("page.describe(listWptRte[0]).lines").toStringList(), QStringList{name});
+}
+
+void TestPageLabels::whatIsWrittenAsAnEntityIsRead()
+{
+    window->run(
+        "addAPTMarker(new google.maps.LatLng(46.50000, 2.50000),\"LFXX\",1,\"<font color=blue><b>Airport L&amp;F"
+        "</b><font color=black><br/>A &lt; B<br/>46 30 00 N - 002 30 00 E\");pushAPT();");
+    QCOMPARE(labels(), QStringList{"L&F"});
+    window->run("map.setZoom(13)");
+    QCOMPARE(labels(), QStringList{"L&F\nA < B"});
 }
 
 void TestPageLabels::aRowOfSymbolsLeavesTheirOwnLabelsRoom()
