@@ -86,7 +86,14 @@ var WPTVfrMgr = null;
     changed() {
       this.layer.setMap(map);
       page.fitLooks();
+      this.fitOthers();
+    }
+
+    /** What is drawn by the markers that this layer shows. */
+    fitOthers() {
       page.fitRoses();
+      if (this === ArptMgr)
+        page.airportsChanged();
     }
 
     /** @param {ChartMarker} marker */
@@ -96,7 +103,7 @@ var WPTVfrMgr = null;
         return;
       this.layer.remove(feature);
       this.shown.delete(marker);
-      page.fitRoses();
+      this.fitOthers();
     }
 
     /**
@@ -118,7 +125,7 @@ var WPTVfrMgr = null;
       this.dress();
       page.listenToLayer(this.layer);
       this.layer.addListener('click', event => page.choose(event.feature.getProperty('marker')));
-      page.fitRoses();
+      this.fitOthers();
     }
 
     /** @return {ChartMarker[]} those that are shown */

@@ -42,6 +42,8 @@
   const letterFamily = '"Liberation Sans", Arial, Helvetica, sans-serif';
   /** Labels are bold from this zIndex on. */
   const boldFrom = 28;
+  /** So much larger is a navaid that is drawn around an airport. */
+  const aroundAirport = 1.6;
   /** From afar a chosen marker is drawn so large all the same. */
   const leastFull = 0.9;
   const fullSize = sizes.find(each => each.scale === leastFull);
@@ -105,13 +107,14 @@
       this.weight = this.height >= boldFrom ? 'bold' : 'normal';
     }
 
-    /** @param {ChartMarker} marker @return {google.maps.Data.StyleOptions} */
-    of(marker) {
+    /** @type {(marker: ChartMarker, isAround: boolean) => google.maps.Data.StyleOptions} */
+    of(marker, isAround) {
       const form = this.at.form;
       if (form === 'none')
         return hidden;
+      const scale = isAround ? this.at.scale * aroundAirport : this.at.scale;
       /** @type {google.maps.Data.StyleOptions} */
-      const style = { icon: page.symbolOf(marker, form, this.at.scale), zIndex: this.height };
+      const style = { icon: page.symbolOf(marker, form, scale), zIndex: this.height };
       if (this.at.text) {
         const text = this.at.text === 'name' ? page.longText(marker) : page.identOf(marker);
         style.label = page.labelOf(text, this.colour, this.at.letters, { fontWeight: this.weight });
@@ -135,7 +138,16 @@
       looks[name] = new Look(name, at);
       keys.push(at.form, at.scale, at.letters, at.text);
     });
-    return { key: `${page.palette.name} ${keys.join(' ')}`, of: marker => looks[marker.symbol].of(marker) };
+    const areFull = looks.airport.at.form === 'symbol';
+    // What lies on what is asked anew each half zoom.
+    const near = Math.round(zoom * 2) / 2;
+    return {
+      key: `${page.palette.name} ${near} ${keys.join(' ')}`,
+      of: marker => {
+        const look = looks[marker.symbol];
+        return look.of(marker, areFull && look.at.form === 'symbol' && page.isUnderAirport(marker, near));
+      },
+    };
   };
 
   /**

@@ -244,6 +244,9 @@ interface Page {
   looksAt(zoom: number, countOf: (symbol: string) => number): Looks;
   fullLook(marker: ChartMarker, more: { text: string, colour: string, zIndex: number }): google.maps.Data.StyleOptions;
 
+  isUnderAirport(marker: ChartMarker, zoom: number): boolean;
+  airportsChanged(): void;
+
   joinBeacons(): void;
   fitLooks(): void;
   dressLayers(): void;

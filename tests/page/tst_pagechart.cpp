@@ -30,6 +30,7 @@ private slots:
     void runwaysShowInTheSymbolOfTheirAirport();
     void runwaysShowInAnAirportOfThePlan();
     void aRunwayFarFromAllAirportsChangesNone();
+    void aVorOnAnAirportIsDrawnAroundIt();
     void aRoseStandsAroundAVorFromNear();
     void ofTwoRosesThatOverlapOneIsDrawn();
     void rosesFollowTheSwitchOfTheirLayer();
@@ -273,6 +274,37 @@ void TestPageChart::aRunwayFarFromAllAirportsChangesNone()
         "drawRwy(new google.maps.LatLng(nan, 2.30000),new google.maps.LatLng(46.70000, 2.32000));clearRunway();",
         46.7, 2.3));
     QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageChart::aVorOnAnAirportIsDrawnAroundIt()
+{
+    // Two pixels apart at this zoom, and thirteen.
+    addVor("ABC", 46.6, 2.311);
+    addVor("DEF", 46.4, 2.37);
+    window->run("addAPTMarker(new google.maps.LatLng(46.60000, 2.30000),\"LFXX\",1,\"x\");"
+                "addAPTMarker(new google.maps.LatLng(46.40000, 2.30000),\"LFYY\",1,\"x\");");
+    showVors();
+    const int alone = ink(46.6, 2.311, navaidColour);
+    const QImage farther = pictureAround(46.4, 2.37, 3);
+    window->run("pushAPT()");
+    // The hexagon's left and right corner stand farther out than the airport's ticks.
+    const QImage both = pictureAround(46.6, 2.311, 14);
+    const auto isNavaid = [&both](int left, int right) {
+        for (int x = left; x <= right; ++x)
+            if (both.pixelColor(x, 14) == QColor(navaidColour))
+                return true;
+        return false;
+    };
+    QVERIFY(isNavaid(2, 5));
+    QVERIFY(isNavaid(23, 26));
+    QCOMPARE(pictureAround(46.4, 2.37, 3), farther);
+    // Without the airports there is nothing to be around, and from nearer they are two.
+    window->run("ArptMgr.clearMarkers()");
+    QCOMPARE(ink(46.6, 2.311, navaidColour), alone);
+    window->run("ArptMgr.addMarkers(listApt);map.setZoom(12)");
+    const QImage near = pictureAround(46.6, 2.311, 10);
+    window->run("ArptMgr.clearMarkers()");
+    QCOMPARE(pictureAround(46.6, 2.311, 10), near);
 }
 
 void TestPageChart::aRoseStandsAroundAVorFromNear()
