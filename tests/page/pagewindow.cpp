@@ -8,6 +8,8 @@
 #include <QWebFrame>
 #include <QtTest>
 
+#include <algorithm>
+
 namespace {
 
 /// Notes every request and lets it go on.
@@ -29,9 +31,17 @@ private:
 
 } // namespace
 
+void LoudWebPage::expectFault(const QString& part)
+{
+    expected.append(part);
+}
+
 void LoudWebPage::javaScriptConsoleMessage(const QString& message, int lineNumber, const QString& sourceID)
 {
     messages.append(QString("%1:%2: %3").arg(sourceID).arg(lineNumber).arg(message));
+    const auto isExpected = [this](const QString& part) { return messages.last().contains(part); };
+    if (std::none_of(expected.cbegin(), expected.cend(), isExpected))
+        QTest::qFail(qPrintable("the page reports " + messages.last()), __FILE__, __LINE__);
 }
 
 PageWindow::PageWindow(ProgramSide* program) : view(new QWebView(this)), page(new LoudWebPage(view))

@@ -10,7 +10,9 @@
 #include <QWebView>
 #include <QWidget>
 
-/// The page with its messages to the console, where the engine reports every fault of a script.
+/// The page with its messages to the console, where the engine reports every fault of a script, be it a listener's of
+/// the page or one that a test evaluates. Any message fails the running test at once, for what a faulty script gives
+/// reads as 0, false or empty, which may be the very thing that a test awaits.
 class LoudWebPage : public myWebPage
 {
     Q_OBJECT
@@ -19,8 +21,14 @@ public:
     using myWebPage::myWebPage;
     QStringList messages;
 
+    /// Lets the messages that hold this text pass from now on. That they came is the test's to verify.
+    void expectFault(const QString& part);
+
 protected:
     void javaScriptConsoleMessage(const QString& message, int lineNumber, const QString& sourceID) override;
+
+private:
+    QStringList expected;
 };
 
 /// A map page in a view of 800 by 600 pixels, with the program's side exposed as "mainWindow".
@@ -36,7 +44,7 @@ public:
     bool load(const QString& file = "gm_trajector_fr.html");
     bool load(const QUrl& url);
 
-    /// Evaluates a script as the program does.
+    /// Evaluates a script as the program does. A script that throws fails the running test.
     QVariant run(const QString& script);
     /// Waits until what the last scripts changed has been painted.
     void settle();

@@ -24,6 +24,8 @@ private slots:
     void noPageShowsTheOthersWords_data();
     void noPageShowsTheOthersWords();
     void theFirstScriptsRunInsideTheLoad();
+    void aFaultOfAnEvaluatedScriptIsReported_data();
+    void aFaultOfAnEvaluatedScriptIsReported();
     void anAlertGoesToTheLog();
     void theEnginesOwnMenuStaysAway();
     void aReloadStartsWithEmptyLists();
@@ -247,6 +249,32 @@ void TestPageBase::theFirstScriptsRunInsideTheLoad()
     // The pointer may lie on the map and be reported too.
     QCOMPARE(program->calls().filter(QRegularExpression("^(?!doData)")),
              (QStringList{"doCenter 48.50000 -3.00000", "doZoom 7"}));
+}
+
+void TestPageBase::aFaultOfAnEvaluatedScriptIsReported_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>("fault");
+    QTest::newRow("a name that stands nowhere") << "nowhere()"
+                                                << "nowhere";
+    QTest::newRow("a method that no object has") << "map.nothing()"
+                                                 << "map.nothing is not a function";
+    QTest::newRow("a thrown number") << "throw 5"
+                                     << "5";
+    QTest::newRow("an unfinished text") << "map.getZoom("
+                                        << "SyntaxError";
+}
+
+/// Every page test leans on it: a script that fails gives what reads as 0, false or empty.
+void TestPageBase::aFaultOfAnEvaluatedScriptIsReported()
+{
+    QFETCH(QString, script);
+    QFETCH(QString, fault);
+    open();
+    window->page->expectFault(fault);
+    QVERIFY(!window->run(script).isValid());
+    QCOMPARE(window->page->messages.size(), 1);
+    QVERIFY2(window->page->messages.first().contains(fault), qPrintable(window->page->messages.first()));
 }
 
 void TestPageBase::anAlertGoesToTheLog()

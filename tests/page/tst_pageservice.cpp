@@ -155,6 +155,7 @@ void TestPageService::anAnswerWithoutAMapIsGivenUp()
     QFETCH(QByteArray, answer);
     Service service(answer);
     openWindow();
+    window->page->expectFault("map.js");
     QVERIFY(window->load(pageWith(service.address("/map.js"), "", 30)));
     QVERIFY(isEngine());
     QCOMPARE(window->run("listVOR.length").toInt(), 1);
@@ -165,6 +166,9 @@ void TestPageService::aServiceThatIsSilentIsGivenUpAfterTheWait()
 {
     Service service{QByteArray()};
     openWindow();
+    // What the program says to the page that still waits finds nothing there.
+    window->page->expectFault("Can't find variable: addVORMarker");
+    window->page->expectFault("Can't find variable: map");
     QSignalSpy finished(window->view, &QWebView::loadFinished);
     window->view->load(pageWith(service.address("/map.js"), "", 0.3));
     QTRY_VERIFY_WITH_TIMEOUT(isEngine(), 20000);

@@ -190,6 +190,7 @@ void TestPageView::theMapFollowsWithTwoSemicolons()
 
 void TestPageView::aFailingPaintStopsNothingElse()
 {
+    window->page->expectFault("no line");
     window->run(R"(addAPTMarker(new google.maps.LatLng(48.50000,-3.00000),"LFXX",1,"x");pushAPT();)"
                 "var whole = mapEngine.Lines.prototype.paintHeight;"
                 "mapEngine.Lines.prototype.paintHeight = function () { throw new Error('no line'); };");
@@ -218,10 +219,12 @@ void TestPageView::aFailingPaintStopsNothingElse()
 
 void TestPageView::aFailingListenerLeavesTheMapAlive()
 {
+    window->page->expectFault("no idle");
     window->run(
         "var failing = google.maps.event.addListener(map, 'idle', function () { throw new Error('no idle'); })");
     window->run("map.setCenter(new google.maps.LatLng(48.50000,-3.00000));");
     QVERIFY(qAbs(number("map.getCenter().lat()") - 48.5) < 0.01);
+    QVERIFY(window->page->messages.value(0).contains("no idle"));
     window->run("google.maps.event.removeListener(failing)");
     program->clear();
     window->mouse->drag({400, 300}, {300, 300});
