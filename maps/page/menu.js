@@ -220,8 +220,12 @@
     choose(level - 1, parent);
   }
 
-  /** What the keys do in a panel. @type {Record<number, (level: number, chosen: number) => void>} */
+  /**
+   * What the keys do in a panel. Tab walks it as the arrows do: the focus stays in the menu.
+   * @type {Record<number, (level: number, chosen: number, event: KeyboardEvent) => void>}
+   */
   const keys = {
+    9: (level, chosen, event) => step(level, event.shiftKey ? -1 : 1),
     13: (level, chosen) => chosen >= 0 && act(level, chosen, true),
     27: level => leave(level),
     32: (level, chosen) => chosen >= 0 && act(level, chosen, true),
@@ -242,7 +246,7 @@
     const waiting = innermost > 0 && panels[innermost].chosen < 0 && !goesBack;
     const level = waiting ? innermost - 1 : innermost;
     if (walk)
-      walk(level, panels[level].chosen);
+      walk(level, panels[level].chosen, event);
   };
 
   /** @param {EventTarget} target */

@@ -32,6 +32,7 @@ private slots:
     void aDoubleClickStopsAtTheNearestView();
     void escapeClosesMenuThenPopUpThenMeasure();
     void theArrowsWalkTheMenu();
+    void tabWalksTheMenu();
     void theArrowsEnterAndLeaveASubmenu();
     void escapeClosesOnePanelAtATime();
     void enterOnAGreyedEntryDoesNothing();
@@ -245,6 +246,21 @@ void TestPageKeys::theArrowsWalkTheMenu()
     window->pressKey(Qt::Key_Return);
     QCOMPARE(commands(), QStringList{"sAddNavToFp \"MT-MT5FR\""});
     QCOMPARE(panels(), 0);
+}
+
+void TestPageKeys::tabWalksTheMenu()
+{
+    menuAt(*window, ndb);
+    window->pressKey(Qt::Key_Tab);
+    QCOMPARE(chosen(), QStringList{"Ajouter au plan de vol"});
+    QCOMPARE(window->run("document.activeElement.textContent").toString(), "Ajouter au plan de vol");
+    window->pressKey(Qt::Key_Tab, Qt::ShiftModifier);
+    QCOMPARE(chosen(), QStringList{"Carte ici"});
+    window->pressKey(Qt::Key_Tab);
+    window->pressKey(Qt::Key_Tab);
+    window->pressKey(Qt::Key_Tab);
+    QCOMPARE(chosen(), QStringList{"Modifier le navaid…"});
+    QCOMPARE(panels(), 1);
 }
 
 void TestPageKeys::theArrowsEnterAndLeaveASubmenu()
