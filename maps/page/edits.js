@@ -43,6 +43,7 @@ var theLast = null;
     if (former && layerOf(marker).list === listVOR && former.symbol.indexOf('ndb') !== 0)
       marker.symbol = former.symbol;
     layerOf(marker).manager().addMarker(marker);
+    page.joinBeacons();
     page.matchPlan();
   };
 
@@ -50,6 +51,7 @@ var theLast = null;
     if (theLast)
       removeMarker(theLast);
     theLast = null;
+    page.joinBeacons();
     page.matchPlan();
   };
 })();

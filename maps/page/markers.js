@@ -105,16 +105,34 @@ var listWptVfr = [];
   /** A DME of an NDB stands at most so many degrees beside it. */
   const besideBeacon = 0.01;
 
-  /** Navaids come one a row, and no row tells an NDB with a DME: it is a DME beside an NDB of its identifier. */
-  page.joinBeacons = function () {
-    /** @type {(a: ChartMarker, b: ChartMarker) => boolean} */
-    const isBeside = (a, b) => page.identOf(a) === page.identOf(b)
-      && page.areClose(a.position, b.position, besideBeacon);
-    const beacons = listNDBRte.concat(listNDBTerm);
-    listVOR.filter(marker => marker.symbol === 'dme').forEach(dme => {
-      if (beacons.some(beacon => isBeside(dme, beacon)))
-        dme.symbol = 'dmeNdb';
+  /** The NDBs by their identifiers. */
+  function beaconsByIdent() {
+    /** @type {Map<string, ChartMarker[]>} */
+    const found = new Map();
+    listNDBRte.concat(listNDBTerm).forEach(beacon => {
+      const ident = page.identOf(beacon);
+      const same = found.get(ident);
+      if (same)
+        same.push(beacon);
+      else
+        found.set(ident, [beacon]);
     });
+    return found;
+  }
+
+  /** A DME in a row of its own that stands beside an NDB of its identifier is that one's: it is drawn around it. */
+  page.joinBeacons = function () {
+    const beacons = beaconsByIdent();
+    let changed = false;
+    listVOR.filter(marker => marker.symbol === 'dme' || marker.symbol === 'dmeNdb').forEach(dme => {
+      const isJoined = (beacons.get(page.identOf(dme)) || [])
+        .some(beacon => page.areClose(dme.position, beacon.position, besideBeacon));
+      const symbol = isJoined ? 'dmeNdb' : 'dme';
+      changed = changed || dme.symbol !== symbol;
+      dme.symbol = symbol;
+    });
+    if (changed)
+      page.dressLayers();
   };
 
   page.collectWaypoint = function (position, title, use, html) {

@@ -23,6 +23,8 @@ private slots:
     void anEditedRowTakesThePlaceOfItsMarker();
     void anEditedUsageChangesTheLayer();
     void anEditedVorKeepsItsSymbol();
+    void aDmeIsJoinedToItsNdbByEdits();
+    void thousandsOfBeaconsAreJoined();
     void anotherKeyIsAnotherMarker();
     void aWaypointWithAHyphenIsKnownByItsWholeTitle();
     void aNavaidWithAHyphenIsKnownByItsKey();
@@ -144,6 +146,44 @@ void TestPageEdits::anEditedVorKeepsItsSymbol()
     window->run(R"(addVORMarker2(new google.maps.LatLng(46.70000, 2.30000),"CHATEAUROUX-CGO4FR",3,"x"))");
     QCOMPARE(titles("listVOR"), (QStringList{"MOU-MOU1FR", "CHATEAUROUX-CGO4FR"}));
     QCOMPARE(symbolAt(46.7, 2.3), vorDme);
+}
+
+void TestPageEdits::aDmeIsJoinedToItsNdbByEdits()
+{
+    const auto symbols = [this] { return window->run("listVOR.map(marker => marker.symbol)").toStringList(); };
+    window->run(R"(addVORMarker(new google.maps.LatLng(46.70000, 2.30000),"MT-MT3FR",16,"<b>VOR MT</b><br/>x");)"
+                R"(addNavMgr();VORMgr.addMarkers(listVOR))");
+    QCOMPARE(symbols(), QStringList{"dme"});
+    const QImage alone = symbolAt(46.7, 2.3);
+    const QString ndb = "addNDBMarker2(new google.maps.LatLng(%1, 2.30000),\"MT-MT5FR\",3,\"<b>NDB MT</b><br/>x\")";
+    window->run(ndb.arg("46.70300"));
+    QCOMPARE(symbols(), QStringList{"dmeNdb"});
+    // The NDB goes elsewhere, comes back, and is deleted.
+    window->run(ndb.arg("46.20000"));
+    QCOMPARE(symbols(), QStringList{"dme"});
+    QCOMPARE(symbolAt(46.7, 2.3), alone);
+    window->run(ndb.arg("46.70300"));
+    QCOMPARE(symbols(), QStringList{"dmeNdb"});
+    window->run("theLast = listNDBRte[0]; delNavaid();");
+    QCOMPARE(symbols(), QStringList{"dme"});
+    QCOMPARE(symbolAt(46.7, 2.3), alone);
+    // An edit of the DME itself.
+    window->run(ndb.arg("46.20000"));
+    window->run(R"(addVORMarker2(new google.maps.LatLng(46.20300, 2.30000),"MT-MT3FR",3,"<b>VOR MT</b><br/>x"))");
+    QCOMPARE(symbols(), QStringList{"dmeNdb"});
+}
+
+void TestPageEdits::thousandsOfBeaconsAreJoined()
+{
+    // Each pair has its own identifier; the last DME has none of the NDBs beside it.
+    window->run("for (let i = 0; i < 3000; ++i) {"
+                "const place = new google.maps.LatLng(40 + i % 50 * 0.2, Math.floor(i / 50) * 0.2);"
+                "addVORMarker(place, `B${i}-B${i}3FR`, 16, `<b>VOR B${i}</b><br/>x`);"
+                "addNDBMarker(place, `B${i}-B${i}5FR`, 3, `<b>NDB B${i}</b><br/>x`); }"
+                "addVORMarker(new google.maps.LatLng(40, 0), 'C-C3FR', 16, '<b>VOR C</b><br/>x');addNavMgr()");
+    QCOMPARE(window->run("listVOR.filter(marker => marker.symbol === 'dmeNdb').length").toInt(), 3000);
+    QCOMPARE(window->run("listVOR[3000].symbol").toString(), "dme");
+    QCOMPARE(window->page->messages, QStringList());
 }
 
 void TestPageEdits::anotherKeyIsAnotherMarker()
