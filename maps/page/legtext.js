@@ -5,8 +5,8 @@
   const milesPerDegree = 60;
   const milesAround = 360 * milesPerDegree;
 
-  const font = 'bold 11px "DejaVu Sans", "Segoe UI", sans-serif';
-  const nameFont = 'bold 12px sans-serif';
+  const font = `bold 11px ${page.letterFamily}`;
+  const nameFont = `bold 12px ${page.letterFamily}`;
 
   /** Pixels: the height of the text, from the line to the text's middle, and free line at each end of the text. */
   const textHeight = 13;

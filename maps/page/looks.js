@@ -31,6 +31,9 @@
   /** However many there are, the farthest that a layer is pushed away, in zooms. */
   const farthest = 2.8;
 
+  /** The face of all letters that the page writes on the chart. */
+  page.letterFamily = '"Liberation Sans", Arial, Helvetica, sans-serif';
+
   /** The sizes of symbols and letters by zoom. */
   const sizes = [
     { from: 11, scale: 1.15, letters: 12 },
@@ -39,7 +42,6 @@
     { from: 7, scale: 0.76, letters: 10 },
     { from: 0, scale: 0.62, letters: 9 },
   ];
-  const letterFamily = '"Liberation Sans", Arial, Helvetica, sans-serif';
   /** Labels are bold from this zIndex on. */
   const boldFrom = 28;
   /** So much larger is a navaid that is drawn around an airport. */
@@ -90,7 +92,7 @@
       color: colour,
       fontSize: `${letters}px`,
       fontWeight: 'normal',
-      fontFamily: letterFamily,
+      fontFamily: page.letterFamily,
     };
     return Object.assign(label, more);
   };

@@ -74,7 +74,7 @@
       icon: text ? nothing : point,
       zIndex: zIndex + (text ? 1 : 0),
       clickable: false,
-      label: text ? { text: text, color: page.palette.measureText, fontSize: '12px', fontWeight: 'bold' } : undefined,
+      label: text ? page.labelOf(text, page.palette.measureText, 12, { fontWeight: 'bold' }) : undefined,
     };
   }
 

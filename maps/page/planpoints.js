@@ -52,7 +52,7 @@
   function plainLook(name) {
     const colours = page.palette;
     return {
-      icon: page.symbol(unknown.path, colours.route, unknown.weight, colours.routeFill),
+      icon: page.labelledBelow(page.symbol(unknown.path, colours.route, unknown.weight, colours.routeFill)),
       zIndex: height,
       clickable: false,
       label: page.labelOf(name, colours.route, 12, { fontWeight: 'bold' }),

@@ -127,6 +127,20 @@
       { scale: scale, fillOpacity: design.fill ? 1 : 0 }),
   };
 
+  /** Pixels: from the middle of a symbol of its own size to its lower end, and from there to the middle of the letters. */
+  const lowerEnd = 9;
+  const toLetters = 8;
+
+  /**
+   * The map service writes a label on its symbol unless it is told another place, in the symbol's own measure: below it.
+   * The map engine finds a place of its own.
+   * @param {google.maps.Symbol} symbol
+   */
+  page.labelledBelow = function (symbol) {
+    symbol.labelOrigin = new google.maps.Point(0, rounded(lowerEnd + toLetters / (symbol.scale || 1)));
+    return symbol;
+  };
+
   /** @type {Record<string, google.maps.Symbol>} */
   let made = {};
   page.onPalette(() => {
@@ -140,7 +154,7 @@
   page.symbolOf = function (marker, form, scale) {
     const path = marker.path || '';
     const key = `${marker.symbol} ${form} ${scale} ${path}`;
-    return made[key] || (made[key] = forms[form](designs[marker.symbol], scale, path));
+    return made[key] || (made[key] = page.labelledBelow(forms[form](designs[marker.symbol], scale, path)));
   };
 
   /** @return {number} which of two symbols at one place lies above: that of the higher number */

@@ -22,7 +22,8 @@
       this.colour = palette[this.style.colours[0]];
       this.fill = palette[this.style.colours[1]];
       if (this.style.point)
-        this.point = page.symbol(this.style.point.path, this.colour, this.style.point.weight, this.fill);
+        this.point = page.labelledBelow(
+          page.symbol(this.style.point.path, this.colour, this.style.point.weight, this.fill));
       this.options = this.style.lines(this.colour, this.fill);
       this.lines.forEach((line, i) => line.setOptions(this.options[i]));
       if (this.layer)
@@ -87,7 +88,7 @@
         icon: this.point,
         zIndex: this.style.zIndex + this.options.length,
         clickable: false,
-        label: { text: feature.getProperty('name'), color: this.colour, fontSize: '12px', fontWeight: 'bold' },
+        label: page.labelOf(feature.getProperty('name'), this.colour, 12, { fontWeight: 'bold' }),
       };
     }
   }

@@ -224,6 +224,7 @@ interface Page {
     more?: Partial<google.maps.Symbol>): google.maps.Symbol;
   shapes: Shapes;
   symbolOf(marker: ChartMarker, form: SymbolForm, scale: number): google.maps.Symbol;
+  labelledBelow(symbol: google.maps.Symbol): google.maps.Symbol;
   symbolHeight(symbol: string): number;
   symbolColour(symbol: string): string;
   vorSymbol(type: number): string;
@@ -240,6 +241,7 @@ interface Page {
   nameOf(marker: ChartMarker): string;
   linesOf(marker: ChartMarker): string[];
   longText(marker: ChartMarker): string;
+  letterFamily: string;
   labelOf(text: string, colour: string, letters: number, more?: Partial<google.maps.MarkerLabel>): google.maps.MarkerLabel;
   looksAt(zoom: number, countOf: (symbol: string) => number): Looks;
   fullLook(marker: ChartMarker, more: { text: string, colour: string, zIndex: number }): google.maps.Data.StyleOptions;

@@ -32,6 +32,9 @@ private slots:
     void aWaypointsUsageIsNoPartOfItsName();
     void whatIsWrittenAsAnEntityIsRead();
     void aRowOfSymbolsLeavesTheirOwnLabelsRoom();
+    void allLabelsHaveOneFace();
+    void theServiceIsToldAPlaceBelowEachSymbol_data();
+    void theServiceIsToldAPlaceBelowEachSymbol();
 
 private:
     QScopedPointer<ProgramSide> program;
@@ -324,6 +327,39 @@ void TestPageLabels::aRowOfSymbolsLeavesTheirOwnLabelsRoom()
     addWaypoints(1, 5, 0.3, 46.5, 2.5);
     QCOMPARE(labels().size(), 5);
     QCOMPARE(window->run("Array.from(map.points.declutter.kept.values()).join()").toString(), QString("0,0,0,0,0"));
+}
+
+void TestPageLabels::allLabelsHaveOneFace()
+{
+    addAirport("LFXX", 46.6, 2.5);
+    window->run("pushAPT();addPointToSS(new google.maps.LatLng(46.4, 2.2), 'PG101');"
+                "addPointToFp(new google.maps.LatLng(46.4, 2.8), 'WPT01');pushFP();"
+                "page.startMeasure(new google.maps.LatLng(46.1, 2.0), '');"
+                "page.measureTo(new google.maps.LatLng(46.1, 3.0), '');");
+    QVERIFY(labels().size() >= 4);
+    const QStringList faces =
+        window
+            ->run("Array.from(new Set(Array.from(map.points.declutter.kept.keys()).map(p => p.look.label.fontFamily)))")
+            .toStringList();
+    QCOMPARE(faces, QStringList("\"Liberation Sans\", Arial, Helvetica, sans-serif"));
+}
+
+void TestPageLabels::theServiceIsToldAPlaceBelowEachSymbol_data()
+{
+    QTest::addColumn<QString>("symbol");
+    QTest::addColumn<double>("least");
+    QTest::newRow("airport") << "page.symbolOf({ symbol: 'airport' }, 'symbol', 1)" << 15.0;
+    QTest::newRow("airport, small") << "page.symbolOf({ symbol: 'airport' }, 'symbol', 0.5)" << 23.0;
+    QTest::newRow("VOR, a sign") << "page.symbolOf({ symbol: 'vor' }, 'sign', 0.5)" << 10.0;
+    QTest::newRow("a point of a procedure") << "page.procedure.point" << 10.0;
+}
+
+void TestPageLabels::theServiceIsToldAPlaceBelowEachSymbol()
+{
+    QFETCH(QString, symbol);
+    QFETCH(double, least);
+    QVERIFY(window->run(symbol + ".labelOrigin.y").toDouble() >= least);
+    QCOMPARE(window->run(symbol + ".labelOrigin.x").toDouble(), 0.0);
 }
 
 QTEST_MAIN(TestPageLabels)
