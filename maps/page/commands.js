@@ -107,8 +107,18 @@
   /** @type {Command<Place>[]} */
   const viewCommands = [
     { word: 'measureHere', slots: [], run: place => page.startMeasure(place, '') },
-    { word: 'endMeasure', slots: [], wanted: () => page.isMeasuring(), run: () => page.endMeasure() },
-    { word: 'clearMeasure', slots: [], wanted: () => page.hasMeasure(), run: () => page.clearMeasure() },
+    {
+      word: 'endMeasure',
+      slots: [],
+      problem: () => (page.isMeasuring() ? '' : pageWords.notMeasuring),
+      run: () => page.endMeasure(),
+    },
+    {
+      word: 'clearMeasure',
+      slots: [],
+      problem: () => (page.hasMeasure() ? '' : pageWords.noMeasure),
+      run: () => page.clearMeasure(),
+    },
     { word: 'centreHere', slots: [], run: place => map.setCenter(place) },
   ];
 

@@ -39,7 +39,7 @@ var theLast = null;
     if (!marker)
       return;
     const former = takePredecessor(marker);
-    // The dialog sends a navaid's usage where the feed has its type, so only the former marker knows the symbol.
+    // The dialog sends a navaid's usage where the feed has its type: only the former marker knows that for certain.
     if (former && layerOf(marker).list === listVOR && former.symbol.indexOf('ndb') !== 0)
       marker.symbol = former.symbol;
     layerOf(marker).manager().addMarker(marker);
@@ -56,9 +56,9 @@ var theLast = null;
   };
 })();
 
-/** A VOR after an edit. The number is the usage, not the type: a new one gets the plain symbol. @type {MarkerFeed} */
+/** A VOR, TACAN or DME after an edit. The number is the usage: a new one has its type from its key. @type {MarkerFeed} */
 function addVORMarker2(position, title, use, html) {
-  page.showEdited(page.collectVor(position, title, 'vor', html));
+  page.showEdited(page.collectVorByKey(position, title, html));
 }
 
 /** An NDB after an edit. @type {MarkerFeed} */

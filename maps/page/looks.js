@@ -21,6 +21,8 @@
     dme: { dot: 5, sign: 7, symbol: 7, ident: 8, name: 10, many: 250 },
     dmeNdb: { dot: 20, sign: 7, symbol: 7, ident: 20, name: 20, many: 250 },
     ndbRoute: { dot: 5, sign: 6.8, symbol: 6.8, ident: 7.5, name: 10, many: 250 },
+    ndbDmeRoute: { dot: 5, sign: 6.8, symbol: 6.8, ident: 7.5, name: 10, many: 250 },
+    ndbDmeTerminal: { dot: 6, sign: 7.6, symbol: 7.6, ident: 8.6, name: 10.5, many: 250 },
     ndbTerminal: { dot: 6, sign: 7.6, symbol: 7.6, ident: 8.6, name: 10.5, many: 250 },
     waypointRoute: { dot: 6.5, sign: 7, symbol: 7, ident: 7.8, name: 12, many: 700 },
     waypointRnav: { dot: 7, sign: 8.6, symbol: 8.6, ident: 8.6, name: 12, many: 700 },

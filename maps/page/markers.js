@@ -64,6 +64,15 @@ var listWptVfr = [];
     }
 
     /**
+     * The digit of a navaid's type in its key, which is the identifier, the digit, the two letters of the country, and a
+     * number where the key would not be the only one. NaN without such a key.
+     */
+    keyDigit() {
+      const found = /(\d)[A-Z]{2}\d*$/.exec(this.tail());
+      return found ? Number(found[1]) : NaN;
+    }
+
+    /**
      * Whether two markers stand for the same row. A navaid's key holds no "-", so it is the tail whatever the name. A
      * waypoint's key begins with the name's first letters and may hold one: then only the whole title tells.
      * @param {ChartMarker} other
@@ -98,9 +107,26 @@ var listWptVfr = [];
   page.collectVor = (position, title, symbol, html) =>
     page.collect(listVOR, page.families.navaid, symbol, position, title, html);
 
-  page.collectNdb = (position, title, use, html) => (use === usage.terminal
-    ? page.collect(listNDBTerm, page.families.navaid, 'ndbTerminal', position, title, html)
-    : page.collect(listNDBRte, page.families.navaid, 'ndbRoute', position, title, html));
+  /** By the digit of the key: the symbols of the types that come as a VOR. @type {Record<number, string>} */
+  const keySymbols = { 1: 'vor', 2: 'tacan', 3: 'dme', 4: 'vorDme', 6: 'vortac' };
+  const ndbDmeDigit = 7;
+
+  page.collectVorByKey = function (position, title, html) {
+    const marker = page.collectVor(position, title, 'vor', html);
+    if (marker)
+      marker.symbol = keySymbols[marker.keyDigit()] || 'vor';
+    return marker;
+  };
+
+  page.collectNdb = function (position, title, use, html) {
+    const list = use === usage.terminal ? listNDBTerm : listNDBRte;
+    const place = use === usage.terminal ? 'Terminal' : 'Route';
+    const marker = page.collect(list, page.families.navaid, `ndb${place}`, position, title, html);
+    // Whether an NDB has a DME, nothing but its key tells.
+    if (marker && marker.keyDigit() === ndbDmeDigit)
+      marker.symbol = `ndbDme${place}`;
+    return marker;
+  };
 
   /** A DME of an NDB stands at most so many degrees beside it. */
   const besideBeacon = 0.01;

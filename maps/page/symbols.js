@@ -31,6 +31,8 @@
 
   const point = circle(0, 0, 0.6);
   const nearRing = `${circle(0, 0, 1.5)} ${dotRing(4.4, 10)}`;
+  /** The square of a DME around the dots of an NDB: lines, which have no inside to be filled. */
+  const openBox = lines([-9.4, -9.4, 9.4, -9.4], [9.4, -9.4, 9.4, 9.4], [9.4, 9.4, -9.4, 9.4], [-9.4, 9.4, -9.4, -9.4]);
   const ticks = lines([0, -5.2, 0, -8.4], [0, 5.2, 0, 8.4], [-5.2, 0, -8.4, 0], [5.2, 0, 8.4, 0]);
   const aerodrome = `${circle(0, 0, 5.2)} ${ticks}`;
   const hexagon = polygon([-7, 0], [-3.5, -6], [3.5, -6], [7, 0], [3.5, 6], [-3.5, 6]);
@@ -60,6 +62,10 @@
     dme: { path: `${box(5.6, 5.6)} ${point}`, stroke: 'navaid', weight: 1.5, fill: 'navaidFill', zIndex: 28 },
     dmeNdb: { path: box(9.4, 9.4), stroke: 'navaid', weight: 1.4, zIndex: 28 },
     ndbRoute: { path: `${nearRing} ${dotRing(7.2, 16)}`, stroke: 'ndb', weight: 1, fill: 'ndb', zIndex: 25 },
+    ndbDmeRoute: {
+      path: `${nearRing} ${dotRing(7.2, 16)} ${openBox}`, stroke: 'ndb', weight: 1, fill: 'ndb', zIndex: 26,
+    },
+    ndbDmeTerminal: { path: `${nearRing} ${openBox}`, stroke: 'ndb', weight: 1, fill: 'ndb', zIndex: 24 },
     ndbTerminal: { path: nearRing, stroke: 'ndb', weight: 1, fill: 'ndb', zIndex: 24 },
     waypointRoute: {
       path: polygon([0, -5.2], [4.8, 3.3], [-4.8, 3.3]), stroke: 'waypoint', weight: 1.3, fill: 'waypointFill', zIndex: 16,

@@ -23,6 +23,7 @@ interface ChartMarker {
   getPosition(): Place;
   tail(): string;
   stem(): string;
+  keyDigit(): number;
   isSameRow(other: ChartMarker): boolean;
   /** The lines of the HTML text, once somebody has asked for them. */
   lines?: string[];
@@ -234,6 +235,8 @@ interface Page {
     html: string): ChartMarker | null;
   collectAirport(position: Place, title: string, html: string): ChartMarker | null;
   collectVor(position: Place, title: string, symbol: string, html: string): ChartMarker | null;
+  /** A VOR, TACAN or DME whose type is that of its key; a VOR without one. */
+  collectVorByKey(position: Place, title: string, html: string): ChartMarker | null;
   collectNdb(position: Place, title: string, use: number, html: string): ChartMarker | null;
   collectWaypoint(position: Place, title: string, use: number, html: string): ChartMarker | null;
 

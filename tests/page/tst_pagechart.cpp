@@ -20,6 +20,8 @@ private slots:
     void aTypeHasItsSymbol_data();
     void aTypeHasItsSymbol();
     void aDmeIsDrawnAroundItsNdb();
+    void anNdbWithADmeHasASquareToo_data();
+    void anNdbWithADmeHasASquareToo();
     void itsNdbMayLieBeyond180Degrees();
     void symbolsLeaveInOrderFromAfar_data();
     void symbolsLeaveInOrderFromAfar();
@@ -149,6 +151,29 @@ void TestPageChart::itsNdbMayLieBeyond180Degrees()
                 "\"<font color=blue><b>NDB ABC</b><font color=black><br/>ABC<br/>338 Khz<br/>x\")");
     window->run(allLayers);
     QCOMPARE(window->run("listVOR[0].symbol").toString(), "dmeNdb");
+}
+
+void TestPageChart::anNdbWithADmeHasASquareToo_data()
+{
+    QTest::addColumn<int>("usage");
+    QTest::addColumn<QString>("kind");
+    QTest::newRow("route") << 3 << "NDB-DME GU";
+    QTest::newRow("terminal") << 4 << "NDB-DME terminal GU";
+}
+
+void TestPageChart::anNdbWithADmeHasASquareToo()
+{
+    QFETCH(int, usage);
+    QFETCH(QString, kind);
+    const QString add = "addNDBMarker(new google.maps.LatLng(%1, 2.30000),\"GU-%2\",%3,"
+                        "\"<font color=blue><b>NDB GU</b><font color=black><br/>GUIPAVAS<br/>338 Khz<br/>x\");";
+    window->run(add.arg("46.70000").arg("GU7FR").arg(usage) + add.arg("46.40000").arg("GU5FR").arg(usage));
+    window->run(allLayers);
+    const char open[] = "#f6f3ea";
+    QVERIFY(ink(46.7, 2.3, open, 9) < ink(46.4, 2.3, open, 9) - 40);
+    // The square is not filled.
+    QVERIFY(ink(46.7, 2.3, open, 7) > 40);
+    QCOMPARE(window->run("page.describe(listNDBRte.concat(listNDBTerm)[0]).head").toString(), kind);
 }
 
 void TestPageChart::symbolsLeaveInOrderFromAfar_data()

@@ -94,6 +94,8 @@ void TestPageCommands::aMarkerOffersItsCommands_data()
                                               "Nouveau waypoint ici…",
                                               "Nouveau navaid ici…",
                                               "Mesurer depuis ici",
+                                              "Terminer la mesure",
+                                              "Effacer la mesure",
                                               "Centrer ici",
                                               "Effacer les pistes"};
 }
@@ -169,9 +171,9 @@ void TestPageCommands::theEnglishPageSpeaksEnglish()
              (QStringList{"Add to flight plan", "Airways through this point…", "Edit navaid…", "Delete navaid…"}));
     QCOMPARE(window->menuAt(waypoint.latitude, waypoint.longitude).mid(0, 4),
              (QStringList{"Add to flight plan", "Airways through this point…", "Edit waypoint…", "Delete waypoint…"}));
-    QCOMPARE(window->menuAt(nothing.latitude, nothing.longitude).mid(0, 7),
+    QCOMPARE(window->menuAt(nothing.latitude, nothing.longitude).mid(0, 9),
              (QStringList{"Add user point here", "Start here", "New waypoint here…", "New navaid here…",
-                          "Measure from here", "Centre here", "Clear runways"}));
+                          "Measure from here", "End measuring", "Clear measure", "Centre here", "Clear runways"}));
     QVERIFY(window->chooseEntry("New navaid here…"));
     QCOMPARE(commands().size(), 1);
 }
@@ -182,8 +184,9 @@ void TestPageCommands::absentSlotsAreNotOffered()
     const QStringList left{"Ajouter au plan de vol", "Mesurer depuis ici", "Centrer ici", "Carte ici"};
     QCOMPARE(window->menuAt(vor.latitude, vor.longitude), left);
     QCOMPARE(window->menuAt(waypoint.latitude, waypoint.longitude), left);
-    QCOMPARE(window->menuAt(nothing.latitude, nothing.longitude).mid(0, 4),
-             (QStringList{"Ajouter un point utilisateur ici", "Départ ici", "Mesurer depuis ici", "Centrer ici"}));
+    QCOMPARE(
+        window->menuAt(nothing.latitude, nothing.longitude).mid(0, 4),
+        (QStringList{"Ajouter un point utilisateur ici", "Départ ici", "Mesurer depuis ici", "Terminer la mesure"}));
 }
 
 void TestPageCommands::withoutAProgramNothingIsOfferedThatNeedsOne()
@@ -192,7 +195,7 @@ void TestPageCommands::withoutAProgramNothingIsOfferedThatNeedsOne()
     QCOMPARE(window->menuAt(airport.latitude, airport.longitude),
              (QStringList{"Mesurer depuis ici", "Centrer ici", "Carte ici"}));
     QCOMPARE(window->menuAt(nothing.latitude, nothing.longitude).mid(0, 2),
-             (QStringList{"Mesurer depuis ici", "Centrer ici"}));
+             (QStringList{"Mesurer depuis ici", "Terminer la mesure"}));
     window->closeMenu();
     window->click(airport.latitude, airport.longitude);
     QCOMPARE(window->popupText(), "x");
@@ -234,7 +237,7 @@ void TestPageCommands::onePointMayLieOnBothSidesOf180Degrees()
                 "addVORMarker2(new google.maps.LatLng(-17.00000, 179.99990),\"TVU-TVU4FJ\",17,\"x\");"
                 "addWPTMarker2(new google.maps.LatLng(-17.00000, -179.99990),\"TVU-TVUFJ\",1,\"x\")");
     window->settle();
-    for (const char* object : {"VOR TVU", "Waypoint TVU"}) {
+    for (const char* object : {"VOR-DME TVU", "Waypoint TVU"}) {
         window->menuAt(-17, 179.9999);
         QVERIFY(window->chooseEntry(object));
         QVERIFY(window->chooseEntry("Voies aériennes passant par ce point…"));

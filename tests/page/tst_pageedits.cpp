@@ -23,6 +23,8 @@ private slots:
     void anEditedRowTakesThePlaceOfItsMarker();
     void anEditedUsageChangesTheLayer();
     void anEditedVorKeepsItsSymbol();
+    void aNewNavaidHasTheSymbolOfItsKey_data();
+    void aNewNavaidHasTheSymbolOfItsKey();
     void aDmeIsJoinedToItsNdbByEdits();
     void thousandsOfBeaconsAreJoined();
     void anotherKeyIsAnotherMarker();
@@ -146,6 +148,38 @@ void TestPageEdits::anEditedVorKeepsItsSymbol()
     window->run(R"(addVORMarker2(new google.maps.LatLng(46.70000, 2.30000),"CHATEAUROUX-CGO4FR",3,"x"))");
     QCOMPARE(titles("listVOR"), (QStringList{"MOU-MOU1FR", "CHATEAUROUX-CGO4FR"}));
     QCOMPARE(symbolAt(46.7, 2.3), vorDme);
+}
+
+void TestPageEdits::aNewNavaidHasTheSymbolOfItsKey_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>("symbol");
+
+    const QString vor = "addVORMarker2(new google.maps.LatLng(46.70000, 2.30000),\"NAME-%1\",3,\"x\");listVOR[0]";
+    const QString ndb = "addNDBMarker2(new google.maps.LatLng(46.70000, 2.30000),\"NAME-%1\",3,\"x\");listNDBRte[0]";
+    const QString term = "addNDBMarker2(new google.maps.LatLng(46.70000, 2.30000),\"NAME-%1\",4,\"x\");listNDBTerm[0]";
+    QTest::newRow("VOR") << vor.arg("ABC1FR") << "vor";
+    QTest::newRow("TACAN") << vor.arg("ABC2FR") << "tacan";
+    QTest::newRow("VOR DME") << vor.arg("ABC4FR") << "vorDme";
+    QTest::newRow("VORTAC") << vor.arg("ABC6FR") << "vortac";
+    QTest::newRow("another of its key") << vor.arg("ABC4FR2") << "vorDme";
+    QTest::newRow("digits in the identifier") << vor.arg("A1B24FR") << "vorDme";
+    QTest::newRow("a key of no type") << vor.arg("ABCFR") << "vor";
+    QTest::newRow("a type of no button") << vor.arg("ABC0FR") << "vor";
+    QTest::newRow("no key") << vor.arg("") << "vor";
+    QTest::newRow("NDB") << ndb.arg("AB5FR") << "ndbRoute";
+    QTest::newRow("NDB terminal") << term.arg("AB5FR") << "ndbTerminal";
+    QTest::newRow("NDB DME") << ndb.arg("AB7FR") << "ndbDmeRoute";
+    QTest::newRow("NDB DME terminal") << term.arg("AB7FR") << "ndbDmeTerminal";
+}
+
+void TestPageEdits::aNewNavaidHasTheSymbolOfItsKey()
+{
+    QFETCH(QString, script);
+    QFETCH(QString, symbol);
+    QCOMPARE(window->run(script + ".symbol").toString(), symbol);
+    QVERIFY(isDrawn(46.7, 2.3));
+    QCOMPARE(window->page->messages, QStringList());
 }
 
 void TestPageEdits::aDmeIsJoinedToItsNdbByEdits()

@@ -262,17 +262,25 @@ void TestPageMeasure::theShortWayGoesOverTheDateLine()
 
 void TestPageMeasure::theMenuEndsAndClearsIt()
 {
-    QVERIFY(!menuAt(*window, nothing).contains("Terminer la mesure"));
-    QVERIFY(!window->menuEntries().contains("Effacer la mesure"));
+    const QString none = "Aucune mesure affichée";
+    const QString ended = "Aucune mesure en cours";
+    const auto reasons = [this] { return texts(*window, ".menu-reason").filter("mesure"); };
+    menuAt(*window, nothing);
+    QCOMPARE(reasons(), (QStringList{ended, none}));
+    window->closeMenu();
     measureFrom(nothing);
     window->mouse->click({200, 500});
-    QVERIFY(menuAt(*window, nothing).contains("Terminer la mesure"));
+    menuAt(*window, nothing);
+    QCOMPARE(reasons(), QStringList());
     QVERIFY(window->chooseEntry("Terminer la mesure"));
     QVERIFY(!isMeasuring());
     QVERIFY(hasMeasure());
-    QVERIFY(!menuAt(*window, nothing).contains("Terminer la mesure"));
+    menuAt(*window, nothing);
+    QCOMPARE(reasons(), QStringList{ended});
     QVERIFY(window->chooseEntry("Effacer la mesure"));
     QVERIFY(!hasMeasure());
+    menuAt(*window, nothing);
+    QCOMPARE(reasons(), (QStringList{ended, none}));
 }
 
 void TestPageMeasure::theCrossClearsIt()
