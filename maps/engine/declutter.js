@@ -190,31 +190,38 @@
       }
     }
 
-    /** Rather beside all symbols than on one of less height; on one of less height rather than nowhere. */
-    placePoint(point, x, y, height, side) {
+    /**
+     * Rather beside all symbols than on one of less height, if need be with the first line alone; on one of less height
+     * rather than nowhere. A place is the number of a side, and with the first line that of the sides more.
+     */
+    placePoint(point, x, y, height, former) {
       const text = engine.labelText(point.look.label);
-      if (side >= 0 && (this.trySide(point, x, y, text, side, baseLevel)
-        || (this.isSame && this.trySide(point, x, y, text, side, height))))
+      if (former >= 0 && (this.tryPlace(point, x, y, text, former, baseLevel)
+        || (this.isSame && this.tryPlace(point, x, y, text, former, height))))
         return;
-      for (let i = 0; i < sides.length; ++i) {
-        if (this.trySide(point, x, y, text, i, baseLevel))
-          return;
-      }
-      for (let i = 0; i < sides.length; ++i) {
-        if (this.trySide(point, x, y, text, i, height))
-          return;
-      }
+      const places = engine.firstLine(text) ? 2 * sides.length : sides.length;
+      [baseLevel, height].some(least => {
+        for (let i = 0; i < places; ++i) {
+          if (this.tryPlace(point, x, y, text, i, least))
+            return true;
+        }
+        return false;
+      });
     }
 
-    trySide(point, x, y, text, side, least) {
+    tryPlace(point, x, y, whole, place, least) {
+      const text = place < sides.length ? whole : engine.firstLine(whole);
+      if (!text)
+        return false;
+      const side = sides[place % sides.length];
       const reach = point.sprite.radius + gap;
-      const left = Math.round(x + sides[side][0] * (reach + text.width / 2) - text.width / 2);
-      const top = Math.round(y + sides[side][1] * (reach + text.height / 2) - text.height / 2);
+      const left = Math.round(x + side[0] * (reach + text.width / 2) - text.width / 2);
+      const top = Math.round(y + side[1] * (reach + text.height / 2) - text.height / 2);
       const frame = this.frame;
       if (!this.room.isFree(left + frame.left, top + frame.top, text.width, text.height, least))
         return false;
       this.room.putLabel(left + frame.left, top + frame.top, text.width, text.height);
-      this.kept.set(point, side);
+      this.kept.set(point, place);
       this.placed.push({ x: left, y: top, text: text });
       return true;
     }

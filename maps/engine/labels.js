@@ -143,6 +143,21 @@
   };
 
   /**
+   * The first line of a text alone; null for a text that has no other.
+   * @param {{lines: string[]}} text as `labelText` gives it
+   */
+  engine.firstLine = function (text) {
+    if (text.first === undefined) {
+      text.first = text.lines.length < 2 ? null : Object.assign({}, text, {
+        lines: text.lines.slice(0, 1),
+        width: Math.ceil(text.font.widthOf(text.lines[0])),
+        height: Math.ceil(text.font.size * lineStep),
+      });
+    }
+    return text.first;
+  };
+
+  /**
    * Writes labels, each with a rim against whatever lies below.
    * @param {CanvasRenderingContext2D} context
    * @param {Array<{x: number, y: number, text: Object}>} labels

@@ -32,6 +32,7 @@ private slots:
     void aWaypointsUsageIsNoPartOfItsName();
     void whatIsWrittenAsAnEntityIsRead();
     void aRowOfSymbolsLeavesTheirOwnLabelsRoom();
+    void aLongLabelIsCutBeforeItLiesOnASymbol();
     void allLabelsHaveOneFace();
     void theServiceIsToldAPlaceBelowEachSymbol_data();
     void theServiceIsToldAPlaceBelowEachSymbol();
@@ -327,6 +328,26 @@ void TestPageLabels::aRowOfSymbolsLeavesTheirOwnLabelsRoom()
     addWaypoints(1, 5, 0.3, 46.5, 2.5);
     QCOMPARE(labels().size(), 5);
     QCOMPARE(window->run("Array.from(map.points.declutter.kept.values()).join()").toString(), QString("0,0,0,0,0"));
+}
+
+void TestPageLabels::aLongLabelIsCutBeforeItLiesOnASymbol()
+{
+    window->run("map.setZoom(10);addAPTMarker(new google.maps.LatLng(46.50000, 2.50000),\"LFXX\",1,"
+                "\"<b>Airport LFXX</b><br/>A LONG NAME OF AN AIRPORT\");pushAPT();");
+    const auto text = [this] {
+        window->settle();
+        // Places from the eighth on are those of the first line alone.
+        return window->run("map.points.declutter.kept.get(Array.from(map.points.declutter.kept.keys())[0])").toInt();
+    };
+    QVERIFY(text() < 8);
+    // A wall of symbols at either side, some 50 pixels away, and a row of them above and below.
+    window->run("for (var i = -8; i <= 8; ++i) {"
+                "[-0.075, 0.075].forEach(east => addWPTMarker(new google.maps.LatLng(46.5 + i * 0.012, 2.5 + east),"
+                "'W' + i + east + '-K', 1, 'x'));"
+                "[-0.032, 0.032].forEach(north => addWPTMarker(new google.maps.LatLng(46.5 + north, 2.5 + i * 0.012),"
+                "'V' + i + north + '-K', 1, 'x')); }"
+                "addWptMgr();WPTRteMgr.addMarkers(listWptRte)");
+    QVERIFY(text() >= 8);
 }
 
 void TestPageLabels::allLabelsHaveOneFace()
