@@ -91,7 +91,8 @@
     /** @type {(a: Place, b: Place) => boolean} */
     const areApart = (a, b) => {
       const north = (a.lat() - b.lat()) / Math.max(0.01, Math.cos(a.lat() * Math.PI / 180));
-      return Math.hypot(north, a.lng() - b.lng()) * pixelsPerDegree >= least;
+      const east = Math.abs(a.lng() - b.lng());
+      return Math.hypot(north, Math.min(east, 360 - east)) * pixelsPerDegree >= least;
     };
     return markers.map(marker => marker.position).filter(place => {
       const row = Math.floor(place.lat() / rowDegrees);
@@ -104,10 +105,13 @@
 
   let drawn = '';
 
+  /** The markers that may have a rose: those of the VOR layer, and of the plan without it. @return {ChartMarker[]} */
+  const shownNow = () => Array.from(new Set(page.plannedMarkers().concat(VORMgr ? VORMgr.markers() : [])));
+
   /** Draws the roses of the VORs that are shown; without a change of zoom or markers nothing happens. */
   page.fitRoses = function () {
     const zoom = map.getZoom();
-    const near = zoom >= fromZoom && VORMgr ? VORMgr.markers() : [];
+    const near = zoom >= fromZoom ? shownNow() : [];
     const shown = near.filter(marker => withRose.indexOf(marker.symbol) >= 0);
     const key = shown.length ? `${zoom} ${shown.map(marker => marker.title).join()}` : '';
     if (key === drawn)

@@ -84,6 +84,9 @@
   /** @return {boolean} whether a marker is drawn as a point of the plan */
   page.isPlanned = marker => planned.has(marker);
 
+  /** @return {ChartMarker[]} those that are drawn as points of the plan */
+  page.plannedMarkers = () => Array.from(planned);
+
   /** Finds the points' markers again, after markers have come or gone. */
   page.matchPlan = function () {
     if (!points.length && !layer)
@@ -107,6 +110,7 @@
     if (layer)
       layer.setMap(map);
     page.dressLayers();
+    page.fitRoses();
   };
 
   /**

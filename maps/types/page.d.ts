@@ -262,6 +262,7 @@ interface Page {
   setPlanPoints(points: TrackPoint[]): void;
   matchPlan(): void;
   dressPlan(): void;
+  plannedMarkers(): ChartMarker[];
   isPlanned(marker: ChartMarker): boolean;
 
   layers: ChartLayer[];

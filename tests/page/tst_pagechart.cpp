@@ -36,6 +36,8 @@ private slots:
     void aRoseStandsAroundAVorFromNear();
     void ofTwoRosesThatOverlapOneIsDrawn();
     void rosesFollowTheSwitchOfTheirLayer();
+    void aPlannedVorHasItsRoseWithoutItsLayer();
+    void rosesOverlapAcross180Degrees();
     void aPointOfThePlanShowsWithoutItsLayer();
     void aPointOfThePlanHasTheCommandsOfItsMarker();
     void aPointWithoutAMarkerIsAPlainOne();
@@ -378,6 +380,31 @@ void TestPageChart::rosesFollowTheSwitchOfTheirLayer()
     QVERIFY(pictureAround(46.5, 2.5, 60) != bare);
     window->run("VORMgr.clearMarkers()");
     QCOMPARE(pictureAround(46.5, 2.5, 60), bare);
+}
+
+void TestPageChart::aPlannedVorHasItsRoseWithoutItsLayer()
+{
+    addVor("ABC", 46.5, 2.5);
+    window->run("addNavMgr();map.setZoom(10)");
+    const auto circle = [this] { return pictureAround(46.5, 2.5, 60).copy(8, 50, 5, 20); };
+    const QImage bare = circle();
+    plan("NAME ABC", 46.5, 2.5);
+    QVERIFY(circle() != bare);
+    window->run("clearFP()");
+    QCOMPARE(circle(), bare);
+}
+
+void TestPageChart::rosesOverlapAcross180Degrees()
+{
+    window->run("map.setCenter(new google.maps.LatLng(0, 180));map.setZoom(10)");
+    addVor("ABC", 0, 179.97);
+    // 44 pixels east of it at this zoom.
+    addVor("DEF", 0, -179.97);
+    window->run("addNavMgr()");
+    const auto eastOfTheSecond = [this] { return pictureAround(0, 180.03, 60).copy(108, 20, 5, 20); };
+    const QImage bare = eastOfTheSecond();
+    window->run("VORMgr.addMarkers(listVOR)");
+    QCOMPARE(eastOfTheSecond(), bare);
 }
 
 void TestPageChart::aPointOfThePlanShowsWithoutItsLayer()
