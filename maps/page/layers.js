@@ -54,7 +54,8 @@ var WPTVfrMgr = null;
         colour: page.symbolColour(marker.symbol),
         zIndex: chosenHeight,
       });
-    return looks.of(marker);
+    const look = looks.of(marker);
+    return look.label && page.procedure.tells(marker) ? Object.assign(look, { label: undefined }) : look;
   }
 
   /** Shows and hides the markers of one list. */

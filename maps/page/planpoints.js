@@ -18,6 +18,8 @@
   let points = [];
   /** @type {Set<ChartMarker>} */
   let planned = new Set();
+  /** What the plan has drawn and named. @type {Array<{marker: ?ChartMarker, name: string, key: number}>} */
+  let drawnPoints = [];
 
   /** @param {Place} position */
   const keyOf = position =>
@@ -81,6 +83,14 @@
       layer.setStyle(lookOf);
   };
 
+  /** Whether a point of another track stands in the plan under the same name, which is written there already. */
+  page.planTells = point => drawnPoints.some(({ marker, name, key }) => key === keyOf(point.position)
+    && (marker ? page.identOf(marker) : name) === point.name);
+
+  /** Whether a marker is that of a point of a track: its place and one of its names. */
+  page.isPointOf = (marker, point) => keyOf(marker.position) === keyOf(point.position)
+    && (page.identOf(marker) === point.name || page.nameOf(marker) === point.name);
+
   /** @return {boolean} whether a marker is drawn as a point of the plan */
   page.isPlanned = marker => planned.has(marker);
 
@@ -94,6 +104,7 @@
     const found = markersByPlace();
     const drawn = new Set();
     planned = new Set();
+    drawnPoints = [];
     if (layer)
       layer.setMap(null);
     layer = points.length ? newLayer() : null;
@@ -105,12 +116,14 @@
       drawn.add(same);
       if (marker)
         planned.add(marker);
+      drawnPoints.push({ marker: marker, name: point.name, key: keyOf(point.position) });
       layer.add({ geometry: point.position, properties: { marker: marker, name: point.name } });
     });
     if (layer)
       layer.setMap(map);
     page.dressLayers();
     page.fitRoses();
+    page.procedure.dressPoints();
   };
 
   /**

@@ -35,6 +35,7 @@
 /** Removes the shown procedure. */
 function clearSS() {
   page.procedure.clear();
+  page.dressLayers();
 }
 
 /**
@@ -44,4 +45,5 @@ function clearSS() {
 function addPointToSS(position, name) {
   page.procedure.add(position, name);
   page.procedure.draw();
+  page.dressLayers();
 }

@@ -26,10 +26,20 @@
           page.symbol(this.style.point.path, this.colour, this.style.point.weight, this.fill));
       this.options = this.style.lines(this.colour, this.fill);
       this.lines.forEach((line, i) => line.setOptions(this.options[i]));
-      if (this.layer)
-        this.layer.setStyle(feature => this.look(feature));
+      this.dressPoints();
       if (this.legs)
         this.legs.refresh();
+    }
+
+    /** Draws the points anew where what stands beside them has changed. */
+    dressPoints() {
+      if (this.layer)
+        this.layer.setStyle(feature => this.look(feature));
+    }
+
+    /** Whether the track writes a marker's name: the chart then leaves it out. @param {ChartMarker} marker */
+    tells(marker) {
+      return !!this.layer && this.points.some(point => page.isPointOf(marker, point));
     }
 
     clear() {
@@ -59,7 +69,7 @@
         this.begin();
       this.points.slice(this.drawn).forEach(point => {
         if (this.layer)
-          this.layer.add({ geometry: point.position, properties: { name: point.name } });
+          this.layer.add({ geometry: point.position, properties: { point: point } });
         this.lines.forEach(line => line.getPath().push(point.position));
       });
       this.drawn = this.points.length;
@@ -84,11 +94,13 @@
 
     /** @type {(feature: google.maps.Data.Feature) => google.maps.Data.StyleOptions} */
     look(feature) {
+      /** The TrackPoint that `draw` put there. @type {*} */
+      const point = feature.getProperty('point');
       return {
         icon: this.point,
         zIndex: this.style.zIndex + this.options.length,
         clickable: false,
-        label: page.labelOf(feature.getProperty('name'), this.colour, 12, { fontWeight: 'bold' }),
+        label: page.planTells(point) ? undefined : page.labelOf(point.name, this.colour, 12, { fontWeight: 'bold' }),
       };
     }
   }

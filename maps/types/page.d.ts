@@ -187,6 +187,8 @@ interface Track {
   clear(): void;
   add(position: Place, name: string): void;
   draw(): void;
+  dressPoints(): void;
+  tells(marker: ChartMarker): boolean;
 }
 
 /** What the palettes colour; the table stands in palette.js. */
@@ -262,6 +264,8 @@ interface Page {
   setPlanPoints(points: TrackPoint[]): void;
   matchPlan(): void;
   dressPlan(): void;
+  planTells(point: TrackPoint): boolean;
+  isPointOf(marker: ChartMarker, point: TrackPoint): boolean;
   plannedMarkers(): ChartMarker[];
   isPlanned(marker: ChartMarker): boolean;
 

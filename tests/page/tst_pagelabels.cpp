@@ -33,6 +33,7 @@ private slots:
     void whatIsWrittenAsAnEntityIsRead();
     void aRowOfSymbolsLeavesTheirOwnLabelsRoom();
     void aLongLabelIsCutBeforeItLiesOnASymbol();
+    void aNameStandsOnceUnderAShownProcedure();
     void allLabelsHaveOneFace();
     void theServiceIsToldAPlaceBelowEachSymbol_data();
     void theServiceIsToldAPlaceBelowEachSymbol();
@@ -348,6 +349,37 @@ void TestPageLabels::aLongLabelIsCutBeforeItLiesOnASymbol()
                 "'V' + i + north + '-K', 1, 'x')); }"
                 "addWptMgr();WPTRteMgr.addMarkers(listWptRte)");
     QVERIFY(text() >= 8);
+}
+
+void TestPageLabels::aNameStandsOnceUnderAShownProcedure()
+{
+    addAirport("LFXX", 46.5, 2.5);
+    window->run("addWPTMarker(new google.maps.LatLng(46.3, 2.2),\"PG101-K\",1,\"<b>Waypoint PG101</b>\");"
+                "addWPTMarker(new google.maps.LatLng(46.3, 2.8),\"OTHER-K\",1,\"<b>Waypoint OTHER</b>\");"
+                "pushAPT();addWptMgr();WPTRteMgr.addMarkers(listWptRte)");
+    const auto coloured = [this] {
+        window->settle();
+        QStringList all = window
+                              ->run("Array.from(map.points.declutter.kept.keys()).map(point =>"
+                                    "point.look.label.text + ' ' + Object.keys(page.palette).find(name =>"
+                                    "page.palette[name] === point.look.label.color))")
+                              .toStringList();
+        all.sort();
+        return all;
+    };
+    const QStringList chart{"LFXX airport", "OTHER waypoint", "PG101 waypoint"};
+    QCOMPARE(coloured(), chart);
+    // The place of OTHER has another name in the procedure.
+    window->run("addPointToSS(new google.maps.LatLng(46.5, 2.5), 'LFXX');"
+                "addPointToSS(new google.maps.LatLng(46.3, 2.2), 'PG101');"
+                "addPointToSS(new google.maps.LatLng(46.3, 2.8), 'D12.0');");
+    QCOMPARE(coloured(), (QStringList{"D12.0 procedure", "LFXX procedure", "OTHER waypoint", "PG101 procedure"}));
+    window->run("addPointToFp(new google.maps.LatLng(46.5, 2.5), 'FIELD');pushFP();");
+    QCOMPARE(coloured(), (QStringList{"D12.0 procedure", "LFXX route", "OTHER waypoint", "PG101 procedure"}));
+    window->run("clearFP()");
+    QCOMPARE(coloured(), (QStringList{"D12.0 procedure", "LFXX procedure", "OTHER waypoint", "PG101 procedure"}));
+    window->run("clearSS()");
+    QCOMPARE(coloured(), chart);
 }
 
 void TestPageLabels::allLabelsHaveOneFace()
