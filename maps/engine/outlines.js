@@ -69,56 +69,77 @@
     frame.context.fill('evenodd');
   }
 
+  /** Whether an edge lies wholly beyond one side of the frame. */
+  function isAway(frame, fromX, fromY, x, y) {
+    const right = frame.width + margin;
+    const bottom = frame.height + margin;
+    return (x < -margin && fromX < -margin) || (y < -margin && fromY < -margin)
+      || (x > right && fromX > right) || (y > bottom && fromY > bottom);
+  }
+
   /**
-   * Strokes the shown edges of a line that come near the frame, each unbroken run as a path of its own: the canvas
-   * takes many short paths far better than one long one.
+   * Strokes edges one after the other, each unbroken run as a path of its own: the canvas takes many short paths far
+   * better than one long one.
+   */
+  class Pen {
+    /** @param {number} step pixels; neighbours that are nearer are one */
+    constructor(context, step) {
+      this.context = context;
+      this.step = step;
+      this.isDown = false;
+    }
+
+    /** Draws an edge; the last one of a run is drawn to its very end. */
+    draw(fromX, fromY, x, y, isLast) {
+      if (!this.isDown) {
+        this.context.beginPath();
+        this.context.moveTo(fromX, fromY);
+        this.isDown = true;
+        this.x = fromX;
+        this.y = fromY;
+      }
+      if (isLast || Math.abs(x - this.x) + Math.abs(y - this.y) > this.step) {
+        this.context.lineTo(x, y);
+        this.x = x;
+        this.y = y;
+      }
+    }
+
+    /** Ends the run. */
+    lift() {
+      if (this.isDown)
+        this.context.stroke();
+      this.isDown = false;
+    }
+  }
+
+  /**
+   * Strokes the shown edges of a line that come near the frame.
    * @param {{points: Float64Array, shown: ?Uint8Array}} line shown: which edges of a ring are drawn; null for an open
    *     line, which is drawn whole
    * @param {number} step pixels; neighbours that are nearer are one
    */
   function strokeLine(frame, line, left, step) {
-    const context = frame.context;
     const scale = frame.scale;
     const points = line.points;
     const shown = line.shown;
-    const right = frame.width + margin;
-    const bottom = frame.height + margin;
+    const pen = new Pen(frame.context, step);
     const count = points.length / 2;
     const edges = shown ? count : count - 1;
-    let open = false;
-    let lastX = points[0] * scale - left;
-    let lastY = points[1] * scale - frame.top;
-    let fromX = lastX;
-    let fromY = lastY;
+    let fromX = points[0] * scale - left;
+    let fromY = points[1] * scale - frame.top;
     for (let i = 0; i < edges; ++i) {
       const next = i + 1 === count ? 0 : i + 1;
       const x = points[2 * next] * scale - left;
       const y = points[2 * next + 1] * scale - frame.top;
-      const away = (x < -margin && fromX < -margin) || (y < -margin && fromY < -margin)
-        || (x > right && fromX > right) || (y > bottom && fromY > bottom);
-      if (away || (shown && !shown[i])) {
-        if (open)
-          context.stroke();
-        open = false;
-      } else {
-        if (!open) {
-          context.beginPath();
-          context.moveTo(fromX, fromY);
-          lastX = fromX;
-          lastY = fromY;
-          open = true;
-        }
-        if (Math.abs(x - lastX) + Math.abs(y - lastY) > step || i === edges - 1 || (shown && !shown[next])) {
-          context.lineTo(x, y);
-          lastX = x;
-          lastY = y;
-        }
-      }
+      if ((shown && !shown[i]) || isAway(frame, fromX, fromY, x, y))
+        pen.lift();
+      else
+        pen.draw(fromX, fromY, x, y, i === edges - 1 || (shown && !shown[next]));
       fromX = x;
       fromY = y;
     }
-    if (open)
-      context.stroke();
+    pen.lift();
   }
 
   class Outlines {

@@ -53,6 +53,14 @@ namespace {
 
 const char lists[] = "listApt listVOR listNDBRte listNDBTerm listWptRte listWptTerm listWptVfr";
 
+const char airportRow[] =
+    R"(addAPTMarker(new google.maps.LatLng(48.72528, 2.35944),"LFPO",1,)"
+    R"("<font color=blue><b>Airport LFPO</b><font color=black><br/>ORLY<br/>48 43' 31.00 N - 002 21' 34.00 E"))";
+const char vorRow[] = R"(addVORMarker(new google.maps.LatLng(48.65000, 1.99000),"RBT-RBT1FR",%1,"<b>VOR RBT</b>"))";
+const char ndbRow[] = R"(addNDBMarker(new google.maps.LatLng(48.65000, 1.99000),"MT-MT5FR",%1,"<b>NDB MT</b>"))";
+const char waypointRow[] =
+    R"(addWPTMarker(new google.maps.LatLng(48.65000, 1.99000),"ABLAN-ABLANFR",%1,"<b>Waypoint</b>"))";
+
 } // namespace
 
 void TestPageFeed::aRowReachesItsList_data()
@@ -61,42 +69,23 @@ void TestPageFeed::aRowReachesItsList_data()
     QTest::addColumn<QString>("list");
     QTest::addColumn<QString>("title");
 
-    const QString airport =
-        R"(addAPTMarker(new google.maps.LatLng(48.72528, 2.35944),"LFPO",1,)"
-        R"("<font color=blue><b>Airport LFPO</b><font color=black><br/>ORLY<br/>48 43' 31.00 N - 002 21' 34.00 E"))";
-    QTest::newRow("airport") << airport << "listApt"
+    QTest::newRow("airport") << airportRow << "listApt"
                              << "LFPO";
     for (int type : {0, 1, 4, 5, 16, 17})
-        QTest::newRow(qPrintable(QString("VOR type %1").arg(type)))
-            << QString(R"(addVORMarker(new google.maps.LatLng(48.65000, 1.99000),"RBT-RBT1FR",%1,"<b>VOR RBT</b>"))")
-                   .arg(type)
-            << "listVOR"
-            << "RBT-RBT1FR";
+        QTest::addRow("VOR type %d", type) << QString(vorRow).arg(type) << "listVOR"
+                                           << "RBT-RBT1FR";
     for (int use : {0, 1, 2, 3, 5, 6})
-        QTest::newRow(qPrintable(QString("NDB usage %1").arg(use)))
-            << QString(R"(addNDBMarker(new google.maps.LatLng(48.65000, 1.99000),"MT-MT5FR",%1,"<b>NDB MT</b>"))")
-                   .arg(use)
-            << "listNDBRte"
-            << "MT-MT5FR";
-    QTest::newRow("NDB usage 4, terminal")
-        << R"(addNDBMarker(new google.maps.LatLng(48.65000, 1.99000),"MT-MT5FR",4,"<b>NDB MT</b>"))"
-        << "listNDBTerm"
-        << "MT-MT5FR";
+        QTest::addRow("NDB usage %d", use) << QString(ndbRow).arg(use) << "listNDBRte"
+                                           << "MT-MT5FR";
+    QTest::newRow("NDB usage 4, terminal") << QString(ndbRow).arg(4) << "listNDBTerm"
+                                           << "MT-MT5FR";
     for (int use : {0, 1, 2, 3, 5, 7})
-        QTest::newRow(qPrintable(QString("waypoint usage %1").arg(use)))
-            << QString(
-                   R"(addWPTMarker(new google.maps.LatLng(48.65000, 1.99000),"ABLAN-ABLANFR",%1,"<b>Waypoint</b>"))")
-                   .arg(use)
-            << "listWptRte"
-            << "ABLAN-ABLANFR";
-    QTest::newRow("waypoint usage 4, terminal")
-        << R"(addWPTMarker(new google.maps.LatLng(48.65000, 1.99000),"ABLAN-ABLANFR",4,"x"))"
-        << "listWptTerm"
-        << "ABLAN-ABLANFR";
-    QTest::newRow("waypoint usage 6, VFR")
-        << R"(addWPTMarker(new google.maps.LatLng(48.65000, 1.99000),"ABLAN-ABLANFR",6,"x"))"
-        << "listWptVfr"
-        << "ABLAN-ABLANFR";
+        QTest::addRow("waypoint usage %d", use) << QString(waypointRow).arg(use) << "listWptRte"
+                                                << "ABLAN-ABLANFR";
+    QTest::newRow("waypoint usage 4, terminal") << QString(waypointRow).arg(4) << "listWptTerm"
+                                                << "ABLAN-ABLANFR";
+    QTest::newRow("waypoint usage 6, VFR") << QString(waypointRow).arg(6) << "listWptVfr"
+                                           << "ABLAN-ABLANFR";
 }
 
 void TestPageFeed::aRowReachesItsList()
