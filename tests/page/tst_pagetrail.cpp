@@ -177,7 +177,6 @@ void TestPageTrail::aTickWithoutAPlaceAddsNothing_data()
     QTest::newRow("no place") << "setAcftMrkr(new google.maps.LatLng(nan,nan),0);";
     QTest::newRow("no longitude") << "setAcftMrkr(new google.maps.LatLng(46.50000,nan),0);";
     QTest::newRow("infinite") << "setAcftMrkr(new google.maps.LatLng(inf,-inf),0);";
-    QTest::newRow("no heading") << "setAcftMrkr(new google.maps.LatLng(46.80000, 2.20000),nan);";
 }
 
 void TestPageTrail::aTickWithoutAPlaceAddsNothing()
