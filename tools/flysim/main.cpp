@@ -59,7 +59,8 @@ std::vector<GeoPoint> pointsToFly(const std::string& path, std::string& error)
 }
 
 /// The longitude goes as an atlas has it, -648000 to 648000 arc seconds; the rest of the record is the simulator's.
-void publish(const Fix& fix, AeoZephanNavRecord& record)
+/// Volatile because another process reads it: each store is one of its own, in this order.
+void publish(const Fix& fix, volatile AeoZephanNavRecord& record)
 {
     record.latS = fix.place.latitude * arcSecondsPerDegree;
     record.lonS = fix.place.longitude * arcSecondsPerDegree;
@@ -69,7 +70,7 @@ void publish(const Fix& fix, AeoZephanNavRecord& record)
 /// Flies until somebody asks it to stop. False when the block is gone.
 bool fly(const Route& route, const Options& options, SharedBlock& block)
 {
-    auto& record = *static_cast<AeoZephanNavRecord*>(block.map());
+    auto& record = *static_cast<volatile AeoZephanNavRecord*>(block.map());
     const double length = route.length();
     const Clock::duration period = periodOf(options.rate);
     const Clock::time_point start = Clock::now();
