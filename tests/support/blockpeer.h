@@ -8,8 +8,8 @@
 ///
 /// The block has one name for all programs of the user, and a test knows no other: a simulator or a trace of theirs
 /// that runs meanwhile goes on in the old block, apart from all that come later, until it is started anew; in tests of
-/// flysim, which leave the name alone, it shows the test's aircraft. So run no flight on the machine while the tests
-/// run.
+/// flysim, which remove the name only in the end, it shows the test's aircraft. So run no flight on the machine while
+/// the tests run.
 class NoBlock
 {
 public:
