@@ -12,9 +12,25 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 namespace {
 
 constexpr int never = 24 * 3600 * 1000; // milliseconds
+
+/// The descriptor that the next file to be opened gets: the lowest that is free.
+int nextFile()
+{
+    const int file = dup(0);
+    close(file);
+    return file;
+}
+
+bool isOpen(int file)
+{
+    return fcntl(file, F_GETFD) != -1;
+}
 
 } // namespace
 
@@ -155,7 +171,11 @@ private slots:
         QVERIFY(QDir().mkdir(NoBlock::path()));
         CNavPlug plug(never);
         NoBlock::remove();
+        QTest::qWait(50);
+        QVERIFY(!plug.connected);
+        QCOMPARE(plug.view, static_cast<void*>(nullptr));
         plug.Close();
+        QTest::qWait(50);
         QVERIFY(!plug.connected);
         QCOMPARE(plug.view, static_cast<void*>(nullptr));
         QVERIFY(!QFileInfo::exists(NoBlock::path()));
@@ -202,11 +222,18 @@ private slots:
 
     void aLateCloseLeavesTheNextLinkAlone()
     {
+        const int file = nextFile();
         CNavPlug old(never);
+        QVERIFY(isOpen(file));
         old.Close();
+        QVERIFY(!isOpen(file));
         // It comes to the address and the file descriptor that the old one had.
         CNavPlug next(never);
+        QCOMPARE(next.view, old.view);
+        QVERIFY(isOpen(file));
         old.Close();
+        QVERIFY(isOpen(file));
+        QVERIFY(next.mapping.holdsView());
         BlockPeer simulator;
         QVERIFY(simulator.publish("1", "2", "3"));
         QVERIFY(next.connected);
