@@ -5,7 +5,7 @@
 
 namespace {
 
-// Five decimals are a metre. The patterns' field width of 3 never shows: the shortest text has seven characters.
+// Five decimals are a metre. The patterns' field width of 3 never shows: the shortest texts, "nan" and "inf", fill it.
 QString degrees(double value)
 {
     return QString::number(value, 'f', 5);

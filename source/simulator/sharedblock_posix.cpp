@@ -35,7 +35,8 @@ SharedBlock::~SharedBlock()
 bool SharedBlock::attach()
 {
     if (handle == none) {
-        // The block is the logged-on user's own. A refusal is -1, which is `none`.
+        // The name is one for the whole machine, the permissions are the user's who made the block: another user's
+        // programs are refused. A refusal is -1, which is `none`.
         handle = shm_open(blockName, O_RDWR | O_CREAT, S_IRUSR | S_IWUSR);
     }
     if (handle != none && !reserve(static_cast<int>(handle))) {
