@@ -21,7 +21,7 @@
    */
   const sides = [[1, 0], [-1, 0], [0.86, -0.95], [0.86, 0.95], [-0.86, -0.95], [-0.86, 0.95], [0, -1], [0, 1]];
 
-  /** What neither answers the mouse nor has a name is an ornament: a compass rose may lie below a label. */
+  /** What is not drawn keeps its own label at a distance and no other one. What neither answers the mouse nor has a name is an ornament: a compass rose may lie below a label. */
   const isObstacle = look => look.clickable !== false || !!look.label;
 
   /** What the base map writes is given way to, but hides no label. */
@@ -170,7 +170,7 @@
       for (let i = 0; i < each.points.length; ++i) {
         const point = each.points[i];
         const radius = point.sprite.radius;
-        if (radius >= leastObstacle && isObstacle(point.look))
+        if (radius >= leastObstacle && !point.sprite.isEmpty && isObstacle(point.look))
           this.room.putSymbol(each.xs[i] + this.frame.left, each.ys[i] + this.frame.top, radius, height);
       }
     }

@@ -33,7 +33,8 @@
   /**
    * Draws a symbol on a canvas.
    * @param {?HTMLCanvasElement} used a canvas whose picture may go; without it a new one is made
-   * @return {{canvas: HTMLCanvasElement, size: number, middle: number, radius: number, ratio: number}} size in CSS
+   * @return {{canvas: HTMLCanvasElement, size: number, middle: number, radius: number, ratio: number,
+   *     isEmpty: boolean}} size in CSS
    *     pixels; the symbol's origin lies `middle` pixels from the left and the upper edge, the symbol reaches `radius`
    *     pixels around it
    */
@@ -62,7 +63,7 @@
       context.lineJoin = 'round';
       context.stroke(shape.path);
     }
-    return { canvas: canvas, size: 2 * middle, middle: middle, radius: radius, ratio: ratio };
+    return { canvas: canvas, size: 2 * middle, middle: middle, radius: radius, ratio: ratio, isEmpty: !symbol.fillOpacity && weight <= 0 };
   }
 
   engine.drawSymbol = drawSymbol;

@@ -1,6 +1,6 @@
 /**
  * Compass roses around VORs, from near. They show true north, for the program tells no magnetic variation. Where two
- * would overlap one is drawn.
+ * would overlap one is drawn. Inside stands the VOR's identifier, outside what else there is room for.
  */
 (function () {
   'use strict';
@@ -70,6 +70,11 @@
 
   const path = rosePath();
   const layer = new google.maps.Data();
+  const texts = new google.maps.Data();
+  /** As high as the label of a VOR. */
+  const textHeight = 30;
+  /** The markers whose rose is drawn. @type {Set<ChartMarker>} */
+  let drawnAround = new Set();
 
   page.onPalette(palette => layer.setStyle({
     icon: page.symbol(path, palette.navaid, 0.9, palette.navaid, { fillOpacity: 0, strokeOpacity: 0.6 }),
@@ -77,9 +82,26 @@
     clickable: false,
   }));
 
+  /** Frequency and name stand around the rose, on nothing that is drawn. */
+  page.onPalette(palette => {
+    const around = page.symbol(circle(0, 0, radius + 2), palette.navaid, 0, palette.navaid, { fillOpacity: 0 });
+    around.labelOrigin = new google.maps.Point(0, radius + 16);
+    texts.setStyle(feature => ({
+      icon: around,
+      zIndex: textHeight,
+      clickable: false,
+      label: page.labelOf(feature.getProperty('text'), palette.navaid, 11, { fontWeight: 'bold' }),
+    }));
+  });
+
+  page.hasRose = marker => drawnAround.has(marker);
+
+  /** @param {ChartMarker} marker */
+  const textAround = marker => page.longText(marker).slice(page.identOf(marker).length).trim();
+
   /**
    * Where roses are drawn so that no two overlap at a zoom; the first markers of the list come first.
-   * @type {(markers: ChartMarker[], zoom: number) => Place[]}
+   * @type {(markers: ChartMarker[], zoom: number) => ChartMarker[]}
    */
   function apart(markers, zoom) {
     const pixelsPerDegree = 256 * Math.pow(2, zoom) / 360;
@@ -94,7 +116,8 @@
       const east = Math.abs(a.lng() - b.lng());
       return Math.hypot(north, Math.min(east, 360 - east)) * pixelsPerDegree >= least;
     };
-    return markers.map(marker => marker.position).filter(place => {
+    return markers.filter(marker => {
+      const place = marker.position;
       const row = Math.floor(place.lat() / rowDegrees);
       const isFree = [row - 1, row, row + 1].every(near => (rows.get(near) || []).every(other => areApart(place, other)));
       if (isFree)
@@ -113,13 +136,24 @@
     const zoom = map.getZoom();
     const near = zoom >= fromZoom ? shownNow() : [];
     const shown = near.filter(marker => withRose.indexOf(marker.symbol) >= 0);
-    const key = shown.length ? `${zoom} ${shown.map(marker => marker.title).join()}` : '';
+    const named = shown.filter(marker => page.hasNames(marker.symbol));
+    const key = shown.length ? `${zoom} ${named.length} ${shown.map(marker => marker.title).join()}` : '';
     if (key === drawn)
       return;
     drawn = key;
     layer.forEach(feature => layer.remove(feature));
-    apart(shown, zoom).forEach(position => layer.add({ geometry: position }));
+    texts.forEach(feature => texts.remove(feature));
+    drawnAround = new Set(apart(shown, zoom));
+    drawnAround.forEach(marker => {
+      layer.add({ geometry: marker.position });
+      const text = page.hasNames(marker.symbol) ? textAround(marker) : '';
+      if (text)
+        texts.add({ geometry: marker.position, properties: { text: text } });
+    });
     layer.setMap(shown.length ? map : null);
+    texts.setMap(shown.length ? map : null);
+    if (VORMgr)
+      VORMgr.dress();
   };
 
   google.maps.event.addListener(map, 'zoom_changed', page.fitRoses);

@@ -151,6 +151,9 @@ var WPTVfrMgr = null;
     page.dressLayers();
   };
 
+  /** Whether names, and not identifiers alone, stand beside the symbols of a kind. */
+  page.hasNames = symbol => !!looks && looks.hasNames(symbol);
+
   /** Draws a marker in full as the one that the user has clicked; null for none. */
   page.choose = function (marker) {
     if (marker === chosen)

@@ -120,7 +120,7 @@
       /** @type {google.maps.Data.StyleOptions} */
       const style = { icon: page.symbolOf(marker, form, scale), zIndex: this.height };
       if (this.at.text) {
-        const text = this.at.text === 'name' ? page.longText(marker) : page.identOf(marker);
+        const text = this.at.text === 'name' && !page.hasRose(marker) ? page.longText(marker) : page.identOf(marker);
         style.label = page.labelOf(text, this.colour, this.at.letters, { fontWeight: this.weight });
       }
       return style;
@@ -146,6 +146,7 @@
     // What lies on what is asked anew each half zoom.
     const near = Math.round(zoom * 2) / 2;
     return {
+      hasNames: symbol => looks[symbol].at.text === 'name',
       key: `${page.palette.name} ${near} ${keys.join(' ')}`,
       of: marker => {
         const look = looks[marker.symbol];

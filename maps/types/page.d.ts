@@ -67,6 +67,8 @@ interface Stage {
 /** The looks of all markers at a zoom. The key is the same as long as everything looks the same. */
 interface Looks {
   key: string;
+  /** Whether names stand beside the symbols of a kind. */
+  hasNames: (symbol: string) => boolean;
   of: (marker: ChartMarker) => google.maps.Data.StyleOptions;
 }
 
@@ -258,6 +260,8 @@ interface Page {
   fitLooks(): void;
   dressLayers(): void;
   choose(marker: ChartMarker | null): void;
+  hasNames(symbol: string): boolean;
+  hasRose(marker: ChartMarker): boolean;
   fitRoses(): void;
   noteRunway(highEnd: Place, lowEnd: Place): void;
 

@@ -346,6 +346,8 @@ void TestPageChart::aRoseStandsAroundAVorFromNear()
     // On the circle of 50 pixels in the west and in the south, where no label stands, and on the arrow in the north.
     for (const QPoint& point : {QPoint(10, 60), QPoint(60, 110), QPoint(60, 5)})
         QVERIFY(rose.pixelColor(point) != bare.pixelColor(point));
+    // In the east no label lies on the circle, whose middle is the corner of four pixels.
+    QCOMPARE(rose.pixelColor(109, 60), rose.pixelColor(10, 60));
     // A DME gives no bearing.
     const QImage dme = pictureAround(46.5, 2.9, 60);
     QCOMPARE(dme.pixelColor(10, 60), bareDme.pixelColor(10, 60));
