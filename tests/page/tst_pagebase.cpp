@@ -158,7 +158,7 @@ void TestPageBase::bothPagesHaveTheSameWords()
 void TestPageBase::everyWordIsTranslated()
 {
     // What pilots of both languages say.
-    const QStringList shared{"VOR", "VOR-DME", "VORTAC", "TACAN",    "VORTAC",
+    const QStringList shared{"VOR", "VOR-DME", "VORTAC", "TACAN",    "NDB-DME",
                              "DME", "NDB",     "Navaid", "Waypoint", "Total"};
     open("gm_trajector_fr.html");
     const QVariantMap french = window->run("pageWords").toMap();
