@@ -19,10 +19,6 @@
     getProperty(name) {
       return this.properties[name];
     }
-
-    getGeometry() {
-      return { getType: () => 'Point', get: () => this.geometry };
-    }
   }
 
   class Data extends maps.MVCObject {

@@ -31,15 +31,6 @@
         all[handle.name] = all[handle.name].filter(other => other !== handle);
     },
 
-    clearListeners(object, name) {
-      if (object.listeners_)
-        delete object.listeners_[name];
-    },
-
-    clearInstanceListeners(object) {
-      delete object.listeners_;
-    },
-
     hasListeners(object, name) {
       return !!(object.listeners_ && object.listeners_[name] && object.listeners_[name].length);
     },

@@ -123,10 +123,6 @@
       maps.event.trigger(this, 'center_changed');
     }
 
-    panTo(position) {
-      this.setCenter(position);
-    }
-
     getZoom() {
       return this.leaflet.getZoom();
     }

@@ -44,10 +44,6 @@
       this.showTitle();
     }
 
-    getIcon() {
-      return this.options.icon;
-    }
-
     setIcon(icon) {
       this.options.icon = icon;
       if (!this.pending)

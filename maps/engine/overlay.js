@@ -27,16 +27,6 @@
       return new maps.Point(point.x, point.y);
     }
 
-    fromDivPixelToLatLng(pixel) {
-      const position = this.leaflet.layerPointToLatLng([pixel.x, pixel.y]);
-      return new maps.LatLng(position.lat, position.lng);
-    }
-
-    fromContainerPixelToLatLng(pixel) {
-      const position = this.leaflet.containerPointToLatLng([pixel.x, pixel.y]);
-      return new maps.LatLng(position.lat, position.lng);
-    }
-
     /** Pixels around the world. */
     getWorldWidth() {
       return engine.tileSize * Math.pow(2, this.leaflet.getZoom());

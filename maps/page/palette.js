@@ -19,7 +19,6 @@
  * | waypointTerminal | waypoints of procedures |
  * | waypointVfr, waypointVfrFill | VFR points |
  * | label, labelRim | text beside symbols where it has no colour of its own, and the rim of all of it |
- * | highlight | the ring around what is pointed at or chosen |
  * | route, routeFill | the plan's line and names; the inside of its points |
  * | procedure, procedureFill | the same of a shown SID or STAR |
  * | airwayLow, airwayHigh, airwayBoth, airwayOther | airways by level; the last for a level that is none |
@@ -56,7 +55,6 @@
       waypointVfrFill: '#ffe9df',
       label: '#24323d',
       labelRim: 'rgba(255, 255, 255, 0.85)',
-      highlight: '#e08a00',
       route: '#c2185b',
       routeFill: '#ffffff',
       procedure: '#00796b',
@@ -98,7 +96,6 @@
       waypointVfrFill: '#2c1e1a',
       label: '#bccad4',
       labelRim: 'rgba(15, 24, 32, 0.85)',
-      highlight: '#ffb84d',
       route: '#e8639d',
       routeFill: '#15202b',
       procedure: '#3fb8a5',

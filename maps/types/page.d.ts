@@ -196,7 +196,7 @@ interface Track {
 /** What the palettes colour; the table stands in palette.js. */
 type Colour = 'sea' | 'land' | 'coast' | 'border' | 'seaText' | 'placeText' | 'countryText'
     | 'placeRim' | 'airport' | 'airportFill' | 'navaid' | 'navaidFill' | 'ndb' | 'waypoint' | 'waypointFill'
-    | 'waypointTerminal' | 'waypointVfr' | 'waypointVfrFill' | 'label' | 'labelRim' | 'highlight' | 'route'
+    | 'waypointTerminal' | 'waypointVfr' | 'waypointVfrFill' | 'label' | 'labelRim' | 'route'
     | 'routeFill' | 'procedure' | 'procedureFill' | 'airwayLow' | 'airwayHigh' | 'airwayBoth' | 'airwayOther'
     | 'runway' | 'runwayCentre' | 'start' | 'startEdge' | 'aircraft' | 'aircraftEdge' | 'trail' | 'measure'
     | 'measureText' | 'measureFill';
