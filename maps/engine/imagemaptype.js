@@ -4,13 +4,6 @@
   const maps = window.google.maps;
   const engine = window.mapEngine;
 
-  class Point {
-    constructor(x, y) {
-      this.x = x;
-      this.y = y;
-    }
-  }
-
   class Size {
     constructor(width, height) {
       this.width = width;
@@ -34,7 +27,7 @@
     /** A picture that does not come leaves its place to what is painted below. */
     createTile: function (coordinates, done) {
       const image = document.createElement('img');
-      const address = this.type.options.getTileUrl(new Point(coordinates.x, coordinates.y), coordinates.z);
+      const address = this.type.options.getTileUrl(new maps.Point(coordinates.x, coordinates.y), coordinates.z);
       image.alt = '';
       image.onload = () => done(null, image);
       image.onerror = () => {
@@ -50,7 +43,10 @@
   });
 
   class ImageMapType extends maps.MVCObject {
-    /** @param {{getTileUrl: function(Point, number): ?string, tileSize: Size, maxZoom, minZoom, name, opacity}} options */
+    /**
+     * @param {{getTileUrl: function(google.maps.Point, number): ?string, tileSize: Size, maxZoom, minZoom, name,
+     *     opacity}} options
+     */
     constructor(options) {
       super();
       this.options = Object.assign({ opacity: 1 }, options);
@@ -73,7 +69,6 @@
     return type.raster;
   };
 
-  maps.Point = maps.Point || Point;
-  maps.Size = maps.Size || Size;
+  maps.Size = Size;
   maps.ImageMapType = ImageMapType;
 })();

@@ -53,9 +53,10 @@ window.google = { maps: (function () {
     add(o) { (this.all = this.all || []).push(o); return o; } setPath(p) { this.path = p; }
     setContent() {} setPosition() {} open() {} close() {} }
   class LatLng { constructor(a, b) { this.a = a; this.b = b; } lat() { return this.a; } lng() { return this.b; } }
+  class Point { constructor(x, y) { this.x = x; this.y = y; } }
   class Map { constructor(e, o) { this.c = o.center; this.z = o.zoom; this.controls = [[]]; } setOptions() {} addListener() {}
     getCenter() { return this.c; } setCenter(c) { this.c = c; } getZoom() { return this.z; } setZoom(z) { this.z = z; } }
-  return { fromService: true, Map: Map, LatLng: LatLng, Data: Base, Marker: Base, Polyline: Base, InfoWindow: Base,
+  return { fromService: true, Map: Map, LatLng: LatLng, Point: Point, Data: Base, Marker: Base, Polyline: Base, InfoWindow: Base,
     OverlayView: Base, ControlPosition: { TOP_RIGHT: 0 },
     event: { addListener: function () {} } };
 })() };
