@@ -493,7 +493,7 @@ void TestCDialogNav::aQuoteInTheIdentifierIsReported()
     typeInto(*dialog, "leIden", "\"");
     QCOMPARE(boxes->seen().value(0).title, QString("SQL Error"));
     QVERIFY(boxes->seen().value(0).text.startsWith("One of the query failed to execute.Error detail: "
-                                                  "SELECT COUNT(ukey) FROM NAV WHERE ukey LIKE \"\"1%\"; "));
+                                                   "SELECT COUNT(ukey) FROM NAV WHERE ukey LIKE \"\"1%\"; "));
     QCOMPARE(textOf(*dialog, "leUkey"), QString("\"1FR"));
 }
 
