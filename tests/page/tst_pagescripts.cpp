@@ -72,8 +72,7 @@ const char* const silent[] = {
     "eraseAcftMrkr();",
     R"(addAcftMrkr(new google.maps.LatLng(48.00000,2.00000),"",90);)",
     "setAcftMrkr(new google.maps.LatLng(48.10000,2.10000),91);",
-    "setAcftMrkr(new google.maps.LatLng(48.10000,2.10000),91);;map.setCenter(new "
-    "google.maps.LatLng(48.10000,2.10000));",
+    "setAcftMrkr(new google.maps.LatLng(8.10000,2.10000),9);;map.setCenter(new google.maps.LatLng(8.10000,2.10000));",
 };
 
 } // namespace
