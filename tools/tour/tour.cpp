@@ -7,7 +7,6 @@
 #include <QProcess>
 #include <QSpinBox>
 #include <QTableWidget>
-#include <QToolBar>
 #include <QTreeWidget>
 #include <QtTest>
 
@@ -53,6 +52,10 @@ const QVector<Tour::Step>& Tour::steps()
         {"start-set", &Tour::setStart},
         {"new-plan", &Tour::startNew},
         {"plan-loaded", &Tour::load},
+        {"map-alone", &Tour::openChart},
+        {"map-by-day", &Tour::chartByDay},
+        {"map-by-night", &Tour::chartByNight},
+        {"docks-back", &Tour::closeChart},
         {"trace", &Tour::traceFlight},
         {"trace-followed", &Tour::followFlight},
         {"trace-ended", &Tour::endTrace},
@@ -115,10 +118,7 @@ void Tour::searchNear()
 /// The terminal waypoints hide what lies below them around Paris.
 void Tour::hideLayers()
 {
-    auto* bar = session.find<QToolBar>("mainToolBar");
-    QAction* terminal = session.action("actWptTerm");
-    QTest::mouseClick(bar->widgetForAction(terminal), Qt::LeftButton);
-    require(!terminal->isChecked(), "the layer of the terminal waypoints is still on");
+    clickToolBar("actWptTerm", false);
     zoomTo(9);
     centreOn("LFPO", "LFPO");
 }

@@ -75,6 +75,11 @@ private:
     void startNew();
     void load();
 
+    void openChart();
+    void chartByDay();
+    void chartByNight();
+    void closeChart();
+
     void traceFlight();
     void followFlight();
     void endTrace();
@@ -93,6 +98,13 @@ private:
     void showStar();
     void addStar();
     void listAirways();
+
+    /// A picture of the map alone from each of the chart's views; the palette names the pictures.
+    void takeCharts(const QString& palette);
+    /// Clicks the button of the map that goes from day to night and back; the name is that of the palette to come.
+    void switchPalette(const QString& name);
+    /// Clicks a switch of the tool bar, which is then to be as told.
+    void clickToolBar(const QString& action, bool checked);
 
     /// Starts the simulator's stand-in on the saved plan, and returns once it publishes.
     void startFlight();
