@@ -5,9 +5,11 @@
 #include "platformpath.h"
 #include "updateline.h"
 #include "updaterows.h"
+#include "wholefile.h"
 
 #include <QDebug>
 #include <QDir>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QTextStream>
 #include <QVariant>
@@ -116,16 +118,23 @@ bool mayWrite(const QFile& file, const QString& fileName)
                                  QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
-/// The same, and removes the file.
+/// The same, and removes a file that is protected; any other is replaced by the new one when that is complete.
 bool makeRoom(QFile& file, const QString& fileName)
 {
     if (!mayWrite(file, fileName)) {
         return false;
     }
-    if (file.exists()) {
+    if (file.exists() && !QFileInfo(file).isWritable()) {
         file.remove();
     }
     return true;
+}
+
+/// A file that cannot be opened is passed over in silence: the box of success follows all the same. A full disk has
+/// been told.
+bool written(const QString& fileName, const QByteArray& lines)
+{
+    return writeWholeFile(fileName, lines) != WriteEnd::NotWhole;
 }
 
 bool exportWholeTable(const WholeTable& table, const QString& connection, const QString& fileName)
@@ -135,20 +144,22 @@ bool exportWholeTable(const WholeTable& table, const QString& connection, const 
     if (!findRows(query, QLatin1String(table.select))) {
         return false;
     }
-    QFile file(platformPath(fileName));
-    if (!mayWrite(file, fileName)) {
+    if (!mayWrite(QFile(platformPath(fileName)), fileName)) {
         return false;
     }
-    if (!file.open(QIODevice::WriteOnly)) {
+    QByteArray lines;
+    QTextStream stream(&lines);
+    writeTable(stream, table.lines, QString(), query);
+    stream.flush();
+    const WriteEnd end = writeWholeFile(fileName, lines);
+    if (end == WriteEnd::NotOpened) {
         const QString text = CIODataBase::tr(table.notOpen).arg(fileName);
         QMessageBox::warning(nullptr, CIODataBase::tr("Erreur CSV"), text);
         qWarning() << table.label << text;
+    }
+    if (end != WriteEnd::Whole) {
         return false;
     }
-    QTextStream stream(&file);
-    writeTable(stream, table.lines, QString(), query);
-    stream.flush();
-    file.close();
     const int count = findRows(query, QLatin1String(table.count)) ? query.value(0).toInt() : 0;
     QMessageBox::information(nullptr, CIODataBase::tr("Exportation"),
                              CIODataBase::tr(table.done).arg(fileName, QString::number(count)));
@@ -182,17 +193,18 @@ bool CIODataBase::exportM3D(const QString& connection, const QString& objectName
     if (!makeRoom(file, fileName)) {
         return false;
     }
-    // A file that cannot be opened is passed over in silence; the box below follows all the same.
-    if (file.open(QIODevice::WriteOnly)) {
-        QTextStream stream(&file);
-        writeModel(stream, objectName, query);
-        // A name without a "." is its own companion: its rows then stand twice in the file.
-        const QString companion = QString(objectName).replace(QLatin1Char('.'), QLatin1String("N."));
-        if (findModel(query, companion)) {
-            writeModel(stream, companion, query);
-        }
+    QByteArray lines;
+    QTextStream stream(&lines);
+    writeModel(stream, objectName, query);
+    // A name without a "." is its own companion: its rows then stand twice in the file.
+    const QString companion = QString(objectName).replace(QLatin1Char('.'), QLatin1String("N."));
+    if (findModel(query, companion)) {
+        writeModel(stream, companion, query);
     }
-    file.close();
+    stream.flush();
+    if (!written(fileName, lines)) {
+        return false;
+    }
     QMessageBox::information(nullptr, QString(),
                              tr("L'objet 3D %1 a été enregistré dans %2").arg(objectName, fileName));
     return true;
@@ -217,14 +229,15 @@ bool CIODataBase::exportOBJ(const QString& connection, const QDir& folder, const
     if (!makeRoom(file, fileName)) {
         return false;
     }
-    // A file that cannot be opened is passed over in silence; the box below follows all the same.
-    if (file.open(QIODevice::WriteOnly)) {
-        QTextStream stream(&file);
-        writeTable(stream, projectLines, scene, projects);
-        projects.first();
-        writePlacedObjects(stream, projects, database);
+    QByteArray lines;
+    QTextStream stream(&lines);
+    writeTable(stream, projectLines, scene, projects);
+    projects.first();
+    writePlacedObjects(stream, projects, database);
+    stream.flush();
+    if (!written(fileName, lines)) {
+        return false;
     }
-    file.close();
     QMessageBox::information(nullptr, QString(), tr("Le projet 3D %1 a été enregistré dans %2").arg(scene, fileName));
     return true;
 }

@@ -2,7 +2,9 @@
 
 #include "ciodatabase.h"
 
+#include "boxtext.h"
 #include "databaselayout.h"
+#include "databaseplace.h"
 #include "updateline.h"
 #include "updatestatements.h"
 
@@ -67,7 +69,14 @@ bool CIODataBase::importDB(QFile& file, CGlobalVar* navVar)
 {
     errorList.clear();
     while (!file.atEnd()) {
-        const QStringList fields = splitUpdateLine(file.readLine());
+        const QByteArray line = readUpdateLine(file);
+        if (!isWholeLine(line)) {
+            showRefusal(QStringLiteral("CIODataBase::importDB"),
+                        tr("Le fichier %1 n'est pas un fichier d'import : une de ses lignes est trop longue.")
+                            .arg(file.fileName()));
+            return false;
+        }
+        const QStringList fields = splitUpdateLine(line);
         if (fields.first() == QLatin1String("OSM")) {
             return importOsm(file, *navVar);
         }
@@ -91,14 +100,18 @@ bool CIODataBase::importLine(const QStringList& fields, const CGlobalVar& navVar
     const DatabaseLayout* layout = findDatabase(group);
     if (layout == nullptr) {
         showRefusal(QStringLiteral("CIODataBase::importGEN"),
-                    tr("La base de données %1 est inconnue.\n%2").arg(group, joinUpdateLine(fields)));
+                    tr("La base de données %1 est inconnue.\n%2").arg(boxText(group), boxText(joinUpdateLine(fields))));
         return false;
     }
     const UpdateStatement* statement = findUpdateStatement(group, updateField(fields, updatefield::table));
     if (statement == nullptr) {
         // Two values for three places: the sentence has always called the database a table and kept its "%3".
-        showRefusal(QStringLiteral("CIODataBase::importDB ") + group,
-                    tr("La table %1 est inconnue dans la base de données %2.\n%3").arg(group, joinUpdateLine(fields)));
+        showRefusal(
+            QStringLiteral("CIODataBase::importDB ") + group,
+            tr("La table %1 est inconnue dans la base de données %2.\n%3").arg(group, boxText(joinUpdateLine(fields))));
+        return false;
+    }
+    if (!databaseIsInPlace(navVar.*layout->dbName)) {
         return false;
     }
     const QSqlDatabase db = QSqlDatabase::database(navVar.*layout->dbName, true);
@@ -164,12 +177,12 @@ void CIODataBase::deleteAll(const QSqlDatabase& db, const QStringList& fields)
 
 bool CIODataBase::importOsm(QFile& file, CGlobalVar& navVar)
 {
-    navVar.dbOSM = QString::fromUtf8(file.readLine().trimmed());
+    navVar.dbOSM = QString::fromUtf8(readUpdateLine(file).trimmed());
     qDebug() << navVar.dbOSM << QFileInfo(file).absoluteFilePath();
     navVar.sqlMgr->addDB(navVar.dbOSM, navVar.dirOSM.path());
     QSqlQuery query(QSqlDatabase::database(navVar.dbOSM, true));
     while (!file.atEnd()) {
-        const QByteArray line = file.readLine();
+        const QByteArray line = readUpdateLine(file);
         if (line.isEmpty()) {
             break; // the file cannot be read to its end
         }

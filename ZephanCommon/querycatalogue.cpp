@@ -2,6 +2,8 @@
 
 #include "sqlmgr.h"
 
+#include "boxtext.h"
+
 #include <QMessageBox>
 #include <QSqlError>
 
@@ -296,6 +298,6 @@ void SqlMgr::showQueryError(const QSqlQuery& query)
     // Only the title is translated; the text has no blank after its first sentence.
     QMessageBox::information(nullptr, tr("SQL Error"),
                              QStringLiteral("One of the query failed to execute.Error detail: %1 %2")
-                                 .arg(query.lastQuery(), query.lastError().text()),
+                                 .arg(boxText(query.lastQuery()), boxText(query.lastError().text())),
                              QMessageBox::Ok, QMessageBox::NoButton);
 }

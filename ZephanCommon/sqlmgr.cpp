@@ -2,6 +2,9 @@
 
 #include "sqlmgr.h"
 
+#include "boxtext.h"
+#include "databaseplace.h"
+
 #include <QDebug>
 #include <QMessageBox>
 #include <QVariant>
@@ -34,14 +37,18 @@ void SqlMgr::addDB(const QString& name, const QString& path)
         return;
     }
     lastConnection = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
-    lastConnection.setDatabaseName(QStringLiteral("%1/%2").arg(path, name));
+    const QString file = QStringLiteral("%1/%2").arg(path, name);
+    lastConnection.setDatabaseName(file);
+    // The window stands still while a statement waits for another program to let go of the file (ms).
+    lastConnection.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=1000"));
     if (!lastConnection.open()) {
         QMessageBox::critical(nullptr, tr("Ouverture de la base de données impossible."),
-                              tr("Impossible d\"établir la connexion avec %1.").arg(name), QMessageBox::Ok,
+                              tr("Impossible d\"établir la connexion avec %1.").arg(boxText(name)), QMessageBox::Ok,
                               QMessageBox::NoButton);
         qDebug() << "Database not found" << name << path;
         return;
     }
+    noteDatabaseFile(name, file);
     // Update files write thousands of lines, each committed by itself: speed is traded for safety against a crash.
     QSqlQuery query(lastConnection);
     query.exec(QStringLiteral("PRAGMA synchronous = OFF"));

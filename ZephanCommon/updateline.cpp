@@ -3,12 +3,34 @@
 #include "updateline.h"
 
 #include <QDataStream>
+#include <QIODevice>
 
 namespace {
 
 constexpr QLatin1Char separator(';');
+constexpr int longestLine = 64 * 1024 * 1024;
 
 } // namespace
+
+QByteArray readUpdateLine(QIODevice& device)
+{
+    constexpr int pieceSize = 4096;
+    QByteArray line;
+    char piece[pieceSize];
+    qint64 taken = 0;
+    do {
+        taken = device.readLine(piece, pieceSize);
+        if (taken > 0) {
+            line.append(piece, static_cast<int>(taken));
+        }
+    } while (taken > 0 && !line.endsWith('\n') && isWholeLine(line));
+    return line;
+}
+
+bool isWholeLine(const QByteArray& line)
+{
+    return line.size() < longestLine;
+}
 
 QStringList splitUpdateLine(const QByteArray& line)
 {

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+class QIODevice;
+
 /// One line of an update file: one database operation as fields between semicolons. There is no quoting, so that no
 /// value can hold a semicolon. Fields past the ones that a table takes are harmless.
 ///
@@ -19,6 +21,13 @@ constexpr int firstValue = 3; ///< of a line that writes a row
 constexpr int keyColumn = 3;  ///< of a line that deletes
 constexpr int key = 4;        ///< of a line that deletes; empty means the whole table
 } // namespace updatefield
+
+/// Reads a raw line with its end. Of a line that is longer than any of an update file (64 MiB) it reads that much and
+/// no more, which `isWholeLine` tells: such a file is no update file, and is not to fill the memory. Empty at the end
+/// of the device and when it cannot be read.
+QByteArray readUpdateLine(QIODevice& device);
+/// False for the head of a line that is too long.
+bool isWholeLine(const QByteArray& line);
 
 /// The fields of a raw line: white space is taken from both ends, the text ends at the first NUL byte, and each byte
 /// is one character, whatever wrote the file. Never empty: an empty line has one empty field.

@@ -401,6 +401,23 @@ Do you want to continue?</translation>
         <source>L&apos;import a été annulé.</source>
         <translation>The import has been cancelled.</translation>
     </message>
+    <message>
+        <source>Le fichier %1 n&apos;est pas un fichier d&apos;import : une de ses lignes est trop longue.</source>
+        <translation>The file %1 is no import file: one of its lines is too long.</translation>
+    </message>
+</context>
+<context>
+    <name>DatabasePlace</name>
+    <message>
+        <source>Le fichier de la base %1 a été remplacé ou effacé depuis son ouverture.
+Rien n&apos;est modifié : redémarrez Zephan Trajector.</source>
+        <translation>The file of the database %1 has been replaced or deleted since it was opened.
+Nothing is changed: start Zephan Trajector anew.</translation>
+    </message>
+    <message>
+        <source>Base de données déplacée</source>
+        <translation>Database moved</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1101,6 +1118,19 @@ Le programme va s&apos;arréter.</source>
         <translation>M3D: the version expected is %1.
 The version found is %2.
 The program will now end.</translation>
+    </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>Le fichier %1 n&apos;a pas pu être écrit en entier : le disque est peut-être plein.
+Ce qu&apos;il contenait avant est conservé.</source>
+        <translation>The file %1 could not be written to its end: the disk may be full.
+What it held before is kept.</translation>
+    </message>
+    <message>
+        <source>Erreur d&apos;écriture</source>
+        <translation>Write error</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "rowsaving.h"
 
+#include "databaseplace.h"
 #include "sqlmgr.h"
 #include "textfile.h"
 #include "updateline.h"
@@ -12,6 +13,9 @@
 
 void storeRow(const SavedRow& row, QWidget* parent)
 {
+    if (!databaseIsInPlace(row.connection)) {
+        return;
+    }
     const QString statement = QStringLiteral("REPLACE INTO ") + row.table + QLatin1Char(' ') + valuesClause(row.values);
     QSqlQuery query(QSqlDatabase::database(row.connection));
     if (query.exec(statement)) {
@@ -24,8 +28,10 @@ void storeRow(const SavedRow& row, QWidget* parent)
 void exportRow(const SavedRow& row, QWidget* parent)
 {
     const QString fileName = updateFileName(row.name);
-    // A file that cannot be written goes unnoticed: the message is the same.
-    writeTextFile(fileName, {composeRowLine(row.database, row.table, row.values)});
+    // A file that cannot be opened goes unnoticed: the message is the same. A full disk has been told.
+    if (writeTextFile(fileName, {composeRowLine(row.database, row.table, row.values)}) == WriteEnd::NotWhole) {
+        return;
+    }
     const QString text =
         QCoreApplication::translate("RowSaving", "Le fichier d'export pour %1\na été enregistré dans %2");
     QMessageBox::information(parent, row.exportTitle, text.arg(row.name, fileName));

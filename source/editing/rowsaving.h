@@ -22,7 +22,7 @@ struct SavedRow
 /// apostrophe in a name spoils the statement.
 void storeRow(const SavedRow& row, QWidget* parent);
 
-/// Writes the row's update file, and tells that it was written also when it could not be.
+/// Writes the row's update file, and tells that it was written also when it could not be opened.
 void exportRow(const SavedRow& row, QWidget* parent);
 
 /// The update file of one edit or deletion, in the folder "Data" beside the program, as it is shown to the user: with

@@ -135,7 +135,8 @@ bool CFlightPlan::saveFpl(const QString& fileName)
     ++fplVersion; // counts a save that fails, too
     buildFplText();
     return !textLines.isEmpty() &&
-           writeTextFile(QStringLiteral("%1\\Flightplan\\%2").arg(navVar->dirZephan.path(), fileName), textLines);
+           writeTextFile(QStringLiteral("%1\\Flightplan\\%2").arg(navVar->dirZephan.path(), fileName), textLines) ==
+               WriteEnd::Whole;
 }
 
 QString CFlightPlan::loadFpl()
@@ -192,5 +193,5 @@ bool CFlightPlan::saveSit(const QString& fileName)
     buildSitText();
     return !textLines.isEmpty() &&
            writeTextFile(QStringLiteral("%1\\Saved Simulations\\%2").arg(navVar->dirZephan.path(), fileName),
-                         textLines);
+                         textLines) == WriteEnd::Whole;
 }

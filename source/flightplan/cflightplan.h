@@ -47,7 +47,8 @@ public:
 
     /// Fills `textLines` with the plan file. An empty plan gives an empty text.
     void buildFplText();
-    /// Writes the plan into the simulator's folder. False when the file cannot be written.
+    /// Writes the plan into the simulator's folder. False when the file cannot be written: the one before then stands,
+    /// and the user knows of it only when the disk had no room for the whole plan.
     bool saveFpl(const QString& fileName);
     /// Asks for a plan file and reads it behind the present lines. Returns the map script, empty if nothing was read.
     QString loadFpl();

@@ -1,24 +1,62 @@
 #include "startupsituation.h"
 
 #include "platformpath.h"
+#include "wholefile.h"
 
 #include <QFile>
-#include <QSaveFile>
 #include <QTextCodec>
 #include <QTextStream>
 
 namespace {
 
+const QLatin1String startupKey("startupSituation");
 const QLatin1String byteOrderMark("\xEF\xBB\xBF"); // of UTF-8, as some editors put it
+
+// A forward slash, unlike in the paths of the files themselves: as the simulator's ini file expects it.
+QString startupLine(const QString& situationFile)
+{
+    return QStringLiteral("startupSituation=Saved Simulations/%1").arg(situationFile);
+}
+
+// For a file that an editor has saved as "Unicode", two bytes a character: told by the mark or by the empty half of
+// the first character. Null for a file of single bytes.
+QTextCodec* wideCodec(QIODevice& ini)
+{
+    const QByteArray start = ini.peek(2);
+    if (start.size() < 2) {
+        return nullptr;
+    }
+    if (start == "\xFF\xFE" || start.at(1) == '\0') {
+        return QTextCodec::codecForName("UTF-16LE");
+    }
+    return start == "\xFE\xFF" || start.at(0) == '\0' ? QTextCodec::codecForName("UTF-16BE") : nullptr;
+}
+
+// The mark stays, as a character of the first line: nobody could read the file without it.
+QStringList wideLines(QIODevice& ini, const QTextCodec& codec, const QString& startup)
+{
+    ini.setTextModeEnabled(false); // the half of a character may be a carriage return
+    const QByteArray bytes = ini.readAll();
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    QString text = codec.toUnicode(bytes.constData(), bytes.size(), &state);
+    QTextStream reader(&text);
+    QStringList lines;
+    QString line;
+    while (reader.readLineInto(&line)) {
+        const QString mark = line.startsWith(QChar(QChar::ByteOrderMark)) ? line.left(1) : QString();
+        lines += line.midRef(mark.size()).startsWith(startupKey) ? mark + startup : line;
+    }
+    return lines;
+}
+
+QByteArray wideBytes(const QString& text, const QTextCodec& codec)
+{
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    return codec.fromUnicode(text.constData(), text.size(), &state);
+}
 
 // The lines pass through as Latin-1, one character a byte, so that whatever code page the simulator's user has
 // written them in comes out as it went in. Only the new line is encoded: as the mark tells, else for the platform.
-void passBytes(QTextStream& stream)
-{
-    stream.setCodec("ISO-8859-1");
-    stream.setAutoDetectUnicode(false);
-}
-
 QString bytesAsText(const QString& text, bool isUtf8)
 {
     return QString::fromLatin1(isUtf8 ? text.toUtf8() : QTextCodec::codecForLocale()->fromUnicode(text));
@@ -28,10 +66,13 @@ QString bytesAsText(const QString& text, bool isUtf8)
 
 QStringList startupLines(QIODevice& ini, const QString& situationFile)
 {
-    // A forward slash, unlike in the paths of the files themselves: as the simulator's ini file expects it.
-    const QString startup = QStringLiteral("startupSituation=Saved Simulations/%1").arg(situationFile);
+    const QString startup = startupLine(situationFile);
+    if (const QTextCodec* wide = wideCodec(ini)) {
+        return wideLines(ini, *wide, startup);
+    }
     QTextStream reader(&ini);
-    passBytes(reader);
+    reader.setCodec("ISO-8859-1");
+    reader.setAutoDetectUnicode(false);
     QStringList lines;
     QString line;
     bool isUtf8 = false;
@@ -42,28 +83,22 @@ QStringList startupLines(QIODevice& ini, const QString& situationFile)
             line.remove(0, byteOrderMark.size());
             isUtf8 = true;
         }
-        lines += line.startsWith(QLatin1String("startupSituation")) ? bytesAsText(startup, isUtf8) : line;
+        lines += line.startsWith(startupKey) ? bytesAsText(startup, isUtf8) : line;
     }
     return lines;
 }
 
 bool setStartupSituation(QFile& ini, const QString& situationFile)
 {
-    const QStringList lines = startupLines(ini, situationFile);
+    const QTextCodec* wide = wideCodec(ini);
+    const bool halfCharacter = wide != nullptr && ini.size() % 2 != 0;
+    const QString text = startupLines(ini, situationFile).join(QLatin1Char('\n'));
     // What was read ahead of a failure is not the simulator's settings.
-    const bool complete = ini.error() == QFileDevice::NoError;
+    const bool complete = ini.error() == QFileDevice::NoError && !halfCharacter;
     ini.close();
+    const QByteArray bytes = wide != nullptr ? wideBytes(text, *wide) : text.toLatin1();
     // Written to the side: a disk that is full must not cost the simulator its settings.
-    QSaveFile rewritten(ini.fileName());
-    rewritten.setDirectWriteFallback(true);
-    if (!complete || !rewritten.open(QIODevice::WriteOnly)) {
-        return false;
-    }
-    QTextStream writer(&rewritten);
-    passBytes(writer);
-    writer << lines.join(QLatin1Char('\n'));
-    writer.flush();
-    return rewritten.commit();
+    return complete && writeWholeFile(ini.fileName(), bytes) == WriteEnd::Whole;
 }
 
 bool setStartupSituation(const QString& iniPath, const QString& situationFile)

@@ -6,6 +6,7 @@
 #include "cflightplan.h"
 #include "cfpline.h"
 #include "cnavglobalvar.h"
+#include "databaseplace.h"
 #include "datadictionary.h"
 #include "mapscript.h"
 #include "positions.h"
@@ -125,7 +126,7 @@ void MainWindow::createProcedure(const ProcedureKind& kind)
     const QString name =
         QInputDialog::getText(this, tr(kind.nameTitle), tr(kind.nameLabel), QLineEdit::Normal, QString(), &accepted);
     // The page may have changed the plan while the dialog was open: the plan as it is now is stored.
-    if (!accepted || name.isEmpty() || flightPlan->lines.isEmpty()) {
+    if (!accepted || name.isEmpty() || flightPlan->lines.isEmpty() || !databaseIsInPlace(settings->dbRTE)) {
         return;
     }
     const int row = airportRow(kind);

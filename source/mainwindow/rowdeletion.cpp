@@ -1,6 +1,7 @@
 #include "rowdeletion.h"
 
 #include "cnavglobalvar.h"
+#include "databaseplace.h"
 #include "mainwindow.h"
 #include "rowsaving.h"
 #include "textfile.h"
@@ -14,7 +15,7 @@ namespace {
 void exportDeletion(const RowDeletion& deletion)
 {
     const QString fileName = updateFileName(deletion.label);
-    if (writeTextFile(fileName, {deletion.updateLine})) {
+    if (writeTextFile(fileName, {deletion.updateLine}) == WriteEnd::Whole) {
         QMessageBox::information(nullptr, deletion.exportTitle, deletion.exported.arg(deletion.label, fileName));
     } else if (!deletion.exportFailed.isNull()) {
         QMessageBox::information(nullptr, deletion.exportTitle, deletion.exportFailed.arg(deletion.label));
@@ -25,7 +26,8 @@ void exportDeletion(const RowDeletion& deletion)
 
 void carryOut(const RowDeletion& deletion, int answer, MainWindow& window)
 {
-    if (answer != QMessageBox::Ok && answer != QMessageBox::Save) {
+    const bool wanted = answer == QMessageBox::Ok || answer == QMessageBox::Save;
+    if (!wanted || !databaseIsInPlace(deletion.connection)) {
         return;
     }
     QSqlQuery query(QSqlDatabase::database(deletion.connection));

@@ -66,6 +66,19 @@ class TestSituation : public QObject
 {
     Q_OBJECT
 
+    /// A text in two bytes a character, without a mark.
+    static QByteArray wide(const QString& text, bool highByteFirst)
+    {
+        QByteArray bytes;
+        for (const QChar character : text) {
+            const char high = static_cast<char>(character.row());
+            const char low = static_cast<char>(character.cell());
+            bytes += highByteFirst ? high : low;
+            bytes += highByteFirst ? low : high;
+        }
+        return bytes;
+    }
+
 private slots:
     void situationToTheByte()
     {
@@ -320,6 +333,46 @@ private slots:
         sandbox.writeFile(iniFile, before);
         QVERIFY(setStartupSituation(sandbox.path(iniFile), "A.SIT"));
         QCOMPARE(sandbox.readFile(iniFile), after);
+    }
+
+    void twoByteCharactersStayWhatTheyAre_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("after");
+        // U+0A0D and U+0D0A hold the bytes of a line end, U+010A that of a line feed.
+        const QString others = QString::fromUtf8("[UI]\né=\xE0\xA8\x8D\xE0\xB4\x8AĊ\n%1\nlast=1%2");
+        const QString old = "startupSituation=Old.sit";
+        const QString line = QString::fromUtf8("startupSituation=Saved Simulations/ORLÉANS.SIT");
+        const QString dos = QString(others).replace('\n', "\r\n");
+        for (const bool big : {false, true}) {
+            const char* order = big ? "high byte first" : "low byte first";
+            const QByteArray mark = big ? "\xFE\xFF" : "\xFF\xFE";
+            const QByteArray after = wide(others.arg(line, ""), big);
+            QTest::addRow("%s, line feeds", order) << mark + wide(others.arg(old, "\n"), big) << mark + after;
+            QTest::addRow("%s, carriage returns", order) << mark + wide(dos.arg(old, "\r\n"), big) << mark + after;
+            QTest::addRow("%s, key in the first line", order) << mark + wide(old, big) << mark + wide(line, big);
+            QTest::addRow("%s, no mark", order) << wide(others.arg(old, "\n"), big) << after;
+            QTest::addRow("%s, nothing but the mark", order) << mark << mark;
+        }
+    }
+
+    void twoByteCharactersStayWhatTheyAre()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, after);
+        const Sandbox sandbox(Sandbox::Databases::None);
+        sandbox.writeFile(iniFile, before);
+        QVERIFY(setStartupSituation(sandbox.path(iniFile), QString::fromUtf8("ORLÉANS.SIT")));
+        QCOMPARE(sandbox.readFile(iniFile), after);
+    }
+
+    void halfACharacterIsLeftAlone()
+    {
+        const Sandbox sandbox(Sandbox::Databases::None);
+        const QByteArray before = "\xFF\xFE" + wide("startupSituation=Old.sit\n", false) + "x";
+        sandbox.writeFile(iniFile, before);
+        QVERIFY(!setStartupSituation(sandbox.path(iniFile), "A.SIT"));
+        QCOMPARE(sandbox.readFile(iniFile), before);
     }
 
     void iniThatGivesLessThanItsSizeEnds()

@@ -1,0 +1,58 @@
+#include "wholefile.h"
+
+#include "platformpath.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QSaveFile>
+
+namespace {
+
+bool putBytes(QFile& file, const QByteArray& bytes)
+{
+    return file.seek(0) && file.write(bytes) == bytes.size() && file.resize(bytes.size());
+}
+
+/// For a folder that takes no new file, but lets the old one be written. Nothing is cut off ahead of the writing: the
+/// old content finds its room again when there is none for the new one.
+WriteEnd writeInPlace(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) {
+        return WriteEnd::NotOpened;
+    }
+    const QByteArray before = file.readAll();
+    if (putBytes(file, bytes)) {
+        return WriteEnd::Whole;
+    }
+    putBytes(file, before);
+    return WriteEnd::NotWhole;
+}
+
+WriteEnd replace(const QString& path, const QByteArray& bytes)
+{
+    const QFileInfo present(path);
+    if (path.isEmpty() || (present.exists() && !present.isFile())) {
+        return WriteEnd::NotOpened; // a device or a pipe would be replaced by a file
+    }
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        return writeInPlace(path, bytes);
+    }
+    return file.write(bytes) == bytes.size() && file.commit() ? WriteEnd::Whole : WriteEnd::NotWhole;
+}
+
+} // namespace
+
+WriteEnd writeWholeFile(const QString& path, const QByteArray& bytes)
+{
+    const WriteEnd end = replace(platformPath(path), bytes);
+    if (end == WriteEnd::NotWhole) {
+        const QString text =
+            QCoreApplication::translate("WholeFile", "Le fichier %1 n'a pas pu être écrit en entier : le disque est "
+                                                     "peut-être plein.\nCe qu'il contenait avant est conservé.");
+        QMessageBox::warning(nullptr, QCoreApplication::translate("WholeFile", "Erreur d'écriture"), text.arg(path));
+    }
+    return end;
+}
