@@ -7,7 +7,10 @@
   const heights = { raster: 250, grid: 260 };
 
   class BaseMap {
-    /** @param {L.Map} leaflet @param {MVCArray} overlays of raster maps: `Map.overlayMapTypes` */
+    /**
+     * @param {L.Map} leaflet
+     * @param {google.maps.MVCArray<?google.maps.MapType>} overlays of raster maps: `Map.overlayMapTypes`
+     */
     constructor(leaflet, overlays) {
       this.leaflet = leaflet;
       this.overlays = overlays;
@@ -17,7 +20,7 @@
       this.names = new engine.Names(window.worldNames);
       const painters = [new engine.Outlines(window.worldOutlines), graticule, this.names];
       this.labels = new engine.GraticuleLabels();
-      this.coloured = painters.concat(this.labels);
+      this.coloured = [...painters, this.labels];
       this.world = new engine.BaseTiles('tilePane', painters).addTo(leaflet);
       this.lines = new engine.BaseTiles('gridPane', [graticule]);
       this.labels.addTo(leaflet);

@@ -10,18 +10,10 @@
   const reach = 0.25;
 
   /**
-   * What a painter gets.
-   * @typedef {Object} Frame
-   * @property {CanvasRenderingContext2D} context its unit is the CSS pixel
-   * @property {number} scale pixels of the whole world's width: unit coordinates times this minus left or top
-   * @property {number} left pixels from the world's west edge to the canvas's
-   * @property {number} top pixels from the projection's northern limit to the canvas's upper edge
-   * @property {number} width @property {number} height CSS pixels of the canvas
-   * @property {number} zoom
-   * @property {number} firstWorld @property {number} lastWorld the copies of the world in the canvas, 0 the first
+   * What a painter gets of an area: a context whose unit is the CSS pixel; scale, the pixels of the whole world's width:
+   * unit coordinates times this minus left or top are pixels of the canvas; firstWorld and lastWorld, the copies of the
+   * world in the canvas, 0 the first.
    */
-
-  /** @param {{left, top, width, height, zoom}} area @return {Frame} */
   engine.frameOf = function (context, area) {
     const scale = engine.tileSize * Math.pow(2, area.zoom);
     return Object.assign({
@@ -38,7 +30,7 @@
     try {
       painter.paint(frame);
     } catch (error) {
-      console.error(`${error} ${error.stack}`);
+      console.error(`${error} ${/** @type {Error} */ (error).stack}`);
     } finally {
       frame.context.restore();
     }

@@ -72,5 +72,5 @@
   if (typeof module !== 'undefined')
     module.exports = clip;
   else
-    window.mapEngine = Object.assign(window.mapEngine || {}, clip);
+    Object.assign(window, { mapEngine: Object.assign(window.mapEngine || {}, clip) });
 })();

@@ -4,61 +4,68 @@
   const maps = window.google.maps;
   const engine = window.mapEngine;
 
-  /** The service's names and numbers, and Leaflet's corner or an edge of our own where the elements go. */
-  const places = {
-    TOP_LEFT: { number: 1, corner: 'topleft' },
-    TOP_CENTER: { number: 2, corner: 'topcenter' },
-    TOP_RIGHT: { number: 3, corner: 'topright' },
-    LEFT_CENTER: { number: 4, corner: 'topleft' },
-    LEFT_TOP: { number: 5, corner: 'topleft' },
-    LEFT_BOTTOM: { number: 6, corner: 'bottomleft' },
-    RIGHT_TOP: { number: 7, corner: 'topright' },
-    RIGHT_CENTER: { number: 8, corner: 'topright' },
-    RIGHT_BOTTOM: { number: 9, corner: 'bottomright' },
-    BOTTOM_LEFT: { number: 10, corner: 'bottomleft' },
-    BOTTOM_CENTER: { number: 11, corner: 'bottomcenter' },
-    BOTTOM_RIGHT: { number: 12, corner: 'bottomright' },
-  };
-
-  maps.ControlPosition = {};
-  Object.keys(places).forEach(name => {
-    maps.ControlPosition[name] = places[name].number;
+  engine.supply({
+    ControlPosition: {
+      TOP_LEFT: 1,
+      TOP_CENTER: 2,
+      TOP_RIGHT: 3,
+      LEFT_CENTER: 4,
+      LEFT_TOP: 5,
+      LEFT_BOTTOM: 6,
+      RIGHT_TOP: 7,
+      RIGHT_CENTER: 8,
+      RIGHT_BOTTOM: 9,
+      BOTTOM_LEFT: 10,
+      BOTTOM_CENTER: 11,
+      BOTTOM_RIGHT: 12,
+    },
   });
 
-  const ElementControl = L.Control.extend({
-    initialize: function (element, corner) {
-      L.setOptions(this, { position: corner });
+  /** By these numbers: Leaflet's corner or an edge of our own where the elements go. */
+  const corners = ['', 'topleft', 'topcenter', 'topright', 'topleft', 'topleft', 'bottomleft', 'topright', 'topright',
+    'bottomright', 'bottomleft', 'bottomcenter', 'bottomright'];
+
+  class ElementControl extends L.Control {
+    /**
+     * @param {HTMLElement} element
+     * @param {string} corner
+     */
+    constructor(element, corner) {
+      super({ position: /** @type {L.ControlPosition} */ (corner) });
       this.element = element;
-    },
+    }
 
     /** What happens on the element is no event of the map. */
-    onAdd: function () {
+    onAdd() {
       const box = L.DomUtil.create('div', 'map-control');
       box.appendChild(this.element);
       L.DomEvent.disableClickPropagation(box);
       L.DomEvent.disableScrollPropagation(box);
       return box;
-    },
-  });
+    }
+  }
 
-  /** Leaflet has corners only; the middle of the upper and the lower edge are made here. */
+  /**
+   * Leaflet has corners only; the middle of the upper and the lower edge are made here.
+   * @param {L.Map} leaflet
+   */
   function addEdges(leaflet) {
-    const corners = leaflet._controlCorners;
+    const own = /** @type {Corners} */ (/** @type {unknown} */ (leaflet));
     ['top', 'bottom'].forEach(side => {
-      corners[`${side}center`] = L.DomUtil.create('div', `leaflet-${side} map-edge`, leaflet._controlContainer);
+      own._controlCorners[`${side}center`] =
+        L.DomUtil.create('div', `leaflet-${side} map-edge`, own._controlContainer);
     });
   }
 
-  /** @return {MVCArray[]} by number of the position; an element pushed into one stands on the map */
-  engine.controlsOf = function (leaflet) {
-    const lists = [];
+  /** Lists by number of the position; an element pushed into one stands on the map. */
+  engine.controlsOf = leaflet => {
     addEdges(leaflet);
-    Object.keys(places).forEach(name => {
+    return corners.map(corner => {
+      /** @type {google.maps.MVCArray<HTMLElement>} */
       const list = new maps.MVCArray();
-      list.addListener('insert_at', index =>
-        new ElementControl(list.getAt(index), places[name].corner).addTo(leaflet));
-      lists[places[name].number] = list;
+      list.addListener('insert_at', (/** @type {number} */ index) =>
+        new ElementControl(list.getAt(index), corner).addTo(leaflet));
+      return list;
     });
-    return lists;
   };
 })();

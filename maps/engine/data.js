@@ -8,35 +8,52 @@
 
   /** A point with its properties. Those of a layer also carry where and how they are drawn. */
   class Feature {
-    /** @param {{geometry: LatLng, properties: Object}} options */
+    /** @param {PointOptions} options */
     constructor(options) {
-      this.geometry = options.geometry;
-      this.properties = options.properties || {};
+      this.geometry = /** @type {LatLng} */ (options.geometry);
+      this.properties = /** @type {Record<string, unknown>} */ (options.properties || {});
+      /** @type {?LayerParts} */
       this.layer = null;
       this.dressing = 0;
     }
 
+    /** @param {string} name */
     getProperty(name) {
       return this.properties[name];
     }
   }
 
+  /**
+   * @param {Feature|PointOptions} options
+   * @return {google.maps.Data.Feature}
+   */
+  function pointOf(options) {
+    return /** @type {google.maps.Data.Feature} */ (options instanceof Feature ? options : new Feature(options));
+  }
+
   class Data extends maps.MVCObject {
-    /** @param {{map: Map}} options */
+    /** @param {google.maps.Data.DataOptions} [options] */
     constructor(options) {
       super();
+      /** @type {Set<google.maps.Data.Feature>} */
       this.features = new Set();
       this.grid = new engine.HitGrid();
+      /** @type {Map<PointParts, PointStyle>} */
       this.overrides = new Map();
+      /** @type {google.maps.Data.StylingFunction|PointStyle} */
       this.style = {};
       this.dressing = 1;
+      /** @type {?google.maps.Map} */
       this.map = null;
       this.setMap(options && options.map);
     }
 
-    /** Adds a point (a Feature or what makes one). A position that is no number makes a point that is never drawn. */
+    /**
+     * Adds a point (a Feature or what makes one). A position that is no number makes a point that is never drawn.
+     * @param {google.maps.Data.Feature|PointOptions} options
+     */
     add(options) {
-      const feature = options instanceof Feature ? options : new Feature(options);
+      const feature = pointOf(options);
       if (!engine.isFinitePosition(feature.geometry))
         return feature;
       feature.layer = this;
@@ -49,6 +66,7 @@
       return feature;
     }
 
+    /** @param {google.maps.Data.Feature} feature */
     remove(feature) {
       if (!this.features.delete(feature))
         return;
@@ -60,17 +78,19 @@
       this.changed();
     }
 
+    /** @param {google.maps.Data.Feature} feature */
     contains(feature) {
       return this.features.has(feature);
     }
 
+    /** @param {function(google.maps.Data.Feature): void} callback */
     forEach(callback) {
       this.features.forEach(feature => callback(feature));
     }
 
     /**
-     * @param {Object|function(Feature): Object} style options with icon (a Symbol), label, zIndex, clickable, visible; a
-     *     function is asked for a point when that comes into view
+     * @param {?google.maps.Data.StylingFunction|PointStyle} style the icon is a Symbol; a function is asked for a point
+     *     when that comes into view
      */
     setStyle(style) {
       this.style = style || {};
@@ -78,14 +98,21 @@
       this.changed();
     }
 
-    /** Options of one point over those of the layer. */
+    /**
+     * Options of one point over those of the layer.
+     * @param {google.maps.Data.Feature} feature
+     * @param {PointStyle} style
+     */
     overrideStyle(feature, style) {
       this.overrides.set(feature, Object.assign({}, this.overrides.get(feature), style));
       feature.dressing = 0;
       this.changed();
     }
 
-    /** Takes the options of one point back; without one those of all points. */
+    /**
+     * Takes the options of one point back; without one those of all points.
+     * @param {?google.maps.Data.Feature} [feature]
+     */
     revertStyle(feature) {
       if (feature) {
         this.overrides.delete(feature);
@@ -97,12 +124,15 @@
       this.changed();
     }
 
-    /** Brings `look` and `sprite` of a point up to the layer's style. */
+    /**
+     * Brings `look` and `sprite` of a point up to the layer's style.
+     * @param {google.maps.Data.Feature} feature
+     */
     dress(feature) {
       const look = typeof this.style === 'function' ? this.style(feature) : this.style;
       const override = this.overrides.get(feature);
       feature.look = override ? Object.assign({}, look, override) : look;
-      feature.sprite = engine.spriteOf(feature.look.icon || noSymbol);
+      feature.sprite = engine.spriteOf(/** @type {google.maps.Symbol} */ (feature.look.icon || noSymbol));
       feature.dressing = this.dressing;
     }
 
@@ -110,6 +140,7 @@
       return this.map;
     }
 
+    /** @param {?google.maps.Map} map */
     setMap(map) {
       const next = map || null;
       if (next === this.map)
@@ -135,5 +166,5 @@
   }
 
   Data.Feature = Feature;
-  maps.Data = Data;
+  engine.supply({ Data: Data });
 })();

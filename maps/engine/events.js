@@ -4,37 +4,65 @@
  */
 (function () {
   'use strict';
-  window.google = window.google || {};
-  const maps = window.google.maps = window.google.maps || {};
+  Object.assign(window, { google: Object.assign({ maps: {} }, window.google) });
+
+  /** Puts parts of the service into `google.maps`. */
+  window.mapEngine.supply = parts => {
+    Object.assign(window.google.maps, parts);
+  };
 
   const event = {
-    /** Calls handler(arguments...) whenever the event happens. @return a handle for removeListener */
+    /**
+     * Calls handler(arguments...) whenever the event happens.
+     * @param {Listened} object
+     * @param {string} name
+     * @param {Function} handler
+     * @return {Listener} a handle for removeListener
+     */
     addListener(object, name, handler) {
       const all = object.listeners_ || (object.listeners_ = {});
-      const handle = { object: object, name: name, handler: handler };
+      const handle = { object: object, name: name, handler: handler, remove: () => event.removeListener(handle) };
       // A new array each time: a listener may add or remove listeners while the event is being told.
       all[name] = (all[name] || []).concat(handle);
       return handle;
     },
 
+    /**
+     * @param {Listened} object
+     * @param {string} name
+     * @param {Function} handler
+     * @return {Listener}
+     */
     addListenerOnce(object, name, handler) {
-      const handle = event.addListener(object, name, function () {
+      /** @type {Listener} */
+      const handle = event.addListener(object, name, (/** @type {unknown[]} */ ...values) => {
         event.removeListener(handle);
-        handler.apply(this, arguments);
+        handler.apply(object, values);
       });
       return handle;
     },
 
-    removeListener(handle) {
+    /** @param {?google.maps.MapsEventListener} listener */
+    removeListener(listener) {
+      const handle = /** @type {?Listener} */ (listener);
       const all = handle && handle.object.listeners_;
       if (all && all[handle.name])
         all[handle.name] = all[handle.name].filter(other => other !== handle);
     },
 
+    /**
+     * @param {Listened} object
+     * @param {string} name
+     */
     hasListeners(object, name) {
       return !!(object.listeners_ && object.listeners_[name] && object.listeners_[name].length);
     },
 
+    /**
+     * @param {Listened} object
+     * @param {string} name
+     * @param {unknown[]} values
+     */
     trigger(object, name, ...values) {
       if (!event.hasListeners(object, name))
         return;
@@ -44,33 +72,53 @@
 
   /** Properties; each `set` calls the method and tells the event `<name>_changed`, for an equal value too. */
   class MVCObject {
+    /** @param {string} key */
     get(key) {
       return this.values_ ? this.values_[key] : undefined;
     }
 
+    /**
+     * @param {string} key
+     * @param {unknown} value
+     */
     set(key, value) {
-      (this.values_ || (this.values_ = {}))[key] = value;
+      if (!this.values_)
+        /** @type {Record<string, unknown>} */
+        this.values_ = {};
+      this.values_[key] = value;
       this.notify(key);
     }
 
+    /** @param {?Record<string, unknown>} [values] */
     setValues(values) {
       Object.keys(values || {}).forEach(key => this.set(key, values[key]));
     }
 
+    /** @param {string} key */
     notify(key) {
       const changed = `${key}_changed`;
-      if (typeof this[changed] === 'function')
-        this[changed]();
+      const told = /** @type {Record<string, unknown>} */ (/** @type {unknown} */ (this))[changed];
+      if (typeof told === 'function')
+        told.call(this);
       event.trigger(this, changed);
     }
 
+    /**
+     * @param {string} name
+     * @param {Function} handler
+     * @return {Listener}
+     */
     addListener(name, handler) {
       return event.addListener(this, name, handler);
     }
   }
 
-  /** A list that tells of its changes: what `Polyline.getPath` gives. */
+  /**
+   * A list that tells of its changes: what `Polyline.getPath` gives.
+   * @template T
+   */
   class MVCArray extends MVCObject {
+    /** @param {?T[]} [items] */
     constructor(items) {
       super();
       this.items = Array.from(items || []);
@@ -81,6 +129,7 @@
       return this.items;
     }
 
+    /** @param {number} index */
     getAt(index) {
       return this.items[index];
     }
@@ -89,16 +138,22 @@
       return this.items.length;
     }
 
+    /** @param {function(T, number): void} callback */
     forEach(callback) {
       this.items.forEach(callback);
     }
 
+    /** @param {T} item */
     push(item) {
       this.items.push(item);
       event.trigger(this, 'insert_at', this.items.length - 1);
       return this.items.length;
     }
 
+    /**
+     * @param {number} index
+     * @param {T} item
+     */
     setAt(index, item) {
       const former = this.items[index];
       this.items[index] = item;
@@ -117,7 +172,5 @@
     }
   }
 
-  maps.event = event;
-  maps.MVCObject = MVCObject;
-  maps.MVCArray = MVCArray;
+  window.mapEngine.supply({ event: event, MVCObject: MVCObject, MVCArray: MVCArray });
 })();

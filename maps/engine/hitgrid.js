@@ -51,7 +51,7 @@
       this.small = null;
     }
 
-    /** @param {{x: number, y: number}} point unit coordinates in the first copy of the world */
+    /** @param {PointParts} point x and y are unit coordinates in the first copy of the world */
     add(point) {
       this.large.add(point);
       if (this.small)

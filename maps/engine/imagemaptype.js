@@ -5,16 +5,20 @@
   const engine = window.mapEngine;
 
   class Size {
+    /**
+     * @param {number} width
+     * @param {number} height
+     */
     constructor(width, height) {
       this.width = width;
       this.height = height;
     }
   }
 
-  const Raster = L.GridLayer.extend({
-    /** @param {ImageMapType} type */
-    initialize: function (type) {
-      L.setOptions(this, {
+  class Raster extends L.GridLayer {
+    /** @param {google.maps.ImageMapType} type */
+    constructor(type) {
+      super({
         pane: 'rasterPane',
         tileSize: type.options.tileSize ? type.options.tileSize.width : engine.tileSize,
         maxNativeZoom: type.options.maxZoom,
@@ -22,10 +26,14 @@
         opacity: type.getOpacity(),
       });
       this.type = type;
-    },
+    }
 
-    /** A picture that does not come leaves its place to what is painted below. */
-    createTile: function (coordinates, done) {
+    /**
+     * A picture that does not come leaves its place to what is painted below.
+     * @param {L.Coords} coordinates
+     * @param {L.DoneCallback} done
+     */
+    createTile(coordinates, done) {
       const image = document.createElement('img');
       const address = this.type.options.getTileUrl(new maps.Point(coordinates.x, coordinates.y), coordinates.z);
       image.alt = '';
@@ -39,17 +47,15 @@
       else
         image.style.visibility = 'hidden';
       return image;
-    },
-  });
+    }
+  }
 
   class ImageMapType extends maps.MVCObject {
-    /**
-     * @param {{getTileUrl: function(google.maps.Point, number): ?string, tileSize: Size, maxZoom, minZoom, name,
-     *     opacity}} options
-     */
+    /** @param {ImageMapTypeOptions} options */
     constructor(options) {
       super();
       this.options = Object.assign({ opacity: 1 }, options);
+      /** @type {?L.GridLayer} */
       this.raster = null;
     }
 
@@ -57,6 +63,7 @@
       return this.options.opacity;
     }
 
+    /** @param {number} opacity */
     setOpacity(opacity) {
       this.options.opacity = opacity;
       if (this.raster)
@@ -65,10 +72,10 @@
   }
 
   engine.rasterOf = type => {
-    type.raster = new Raster(type);
-    return type.raster;
+    const raster = new Raster(/** @type {google.maps.ImageMapType} */ (type));
+    raster.type.raster = raster;
+    return raster;
   };
 
-  maps.Size = Size;
-  maps.ImageMapType = ImageMapType;
+  engine.supply({ Size: Size, ImageMapType: ImageMapType });
 })();

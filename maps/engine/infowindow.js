@@ -4,13 +4,16 @@
   const maps = window.google.maps;
   const engine = window.mapEngine;
 
+  /** @type {Record<string, string>} */
   const closeWords = { fr: 'Fermer', en: 'Close' };
 
   class InfoWindow extends maps.MVCObject {
-    /** @param options content (HTML text or a node), position */
+    /** @param {InfoWindowOptions} [options] */
     constructor(options) {
       super();
+      /** @type {InfoWindowOptions} */
       this.options = Object.assign({ content: '' }, options);
+      /** @type {?google.maps.Map} */
       this.map = null;
       this.popup = L.popup({
         autoPanPadding: [10, 10],
@@ -31,19 +34,22 @@
       return this.options.content;
     }
 
+    /** @param {string|HTMLElement} content */
     setContent(content) {
       this.options.content = content;
       this.popup.setContent(content);
     }
 
     getPosition() {
-      return this.options.position;
+      return /** @type {google.maps.LatLng} */ (this.options.position);
     }
 
+    /** @param {google.maps.LatLng} position */
     setPosition(position) {
       this.options.position = position;
     }
 
+    /** @param {google.maps.Map} map */
     open(map) {
       const position = this.options.position;
       if (!map || !engine.isFinitePosition(position))
@@ -51,7 +57,7 @@
       this.map = map;
       const centre = map.leaflet.getCenter().lng;
       this.popup.setLatLng([position.lat(), position.lng() + 360 * Math.round((centre - position.lng()) / 360)]);
-      this.popup.setContent(this.options.content);
+      this.popup.setContent(/** @type {string|HTMLElement} */ (this.options.content));
       this.popup.openOn(map.leaflet);
       this.nameCross();
     }
@@ -71,5 +77,5 @@
     }
   }
 
-  maps.InfoWindow = InfoWindow;
+  engine.supply({ InfoWindow: InfoWindow });
 })();

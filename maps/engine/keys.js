@@ -10,6 +10,7 @@
   const pace = 0.35;
   const leastStep = 2;
 
+  /** @type {Record<number, function(L.Point): [number, number]>} */
   const moves = {
     33: size => [0, -leap * size.y],
     34: size => [0, leap * size.y],
@@ -21,11 +22,15 @@
     40: () => [0, arrow],
   };
 
-  /** The keys of plus and minus, of the block of figures and of the rest, as browsers number them. */
+  /**
+   * The keys of plus and minus, of the block of figures and of the rest, as browsers number them.
+   * @type {Record<number, boolean>}
+   */
   const inwards = { 43: true, 61: true, 107: true, 171: true, 187: true, 45: false, 109: false, 173: false, 189: false };
 
   /** Glides: each press lengthens the way, each frame goes a part of it, whole pixels at a time. */
   class Glide {
+    /** @param {L.Map} leaflet */
     constructor(leaflet) {
       this.leaflet = leaflet;
       this.x = 0;
@@ -33,6 +38,10 @@
       this.running = false;
     }
 
+    /**
+     * @param {number} x
+     * @param {number} y
+     */
     add(x, y) {
       this.x += Math.round(x);
       this.y += Math.round(y);
@@ -46,6 +55,7 @@
       this.x = this.y = 0;
     }
 
+    /** @param {number} way */
     part(way) {
       const step = Math.max(leastStep, Math.ceil(Math.abs(way) * pace));
       return Math.abs(way) <= step ? way : Math.sign(way) * step;
@@ -64,9 +74,13 @@
     }
   }
 
-  /** Keys that go to a field of the page, and those with a modifier, are not the map's. */
+  /**
+   * Keys that go to a field of the page, and those with a modifier, are not the map's.
+   * @param {ChartMap} map
+   * @param {KeyboardEvent} event
+   */
   function isForMap(map, event) {
-    const target = event.target;
+    const target = /** @type {Node} */ (event.target);
     return map.options.keyboardShortcuts !== false && !event.defaultPrevented
       && !event.altKey && !event.ctrlKey && !event.metaKey
       && (target === document.body || target === document.documentElement || map.element.contains(target));
@@ -77,7 +91,7 @@
     map.element.tabIndex = 0;
     // The drag of the map keeps the press from giving the focus by itself.
     map.element.addEventListener('mousedown', event => {
-      if (event.target === map.element || event.target.nodeName === 'CANVAS')
+      if (event.target === map.element || /** @type {Node} */ (event.target).nodeName === 'CANVAS')
         map.element.focus();
       glide.stop();
     });

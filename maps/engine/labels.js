@@ -108,7 +108,7 @@
    * Surrounds a text that is going to be written by copies of it: the outline of letters takes longer to draw than all
    * of these.
    * @param {{width: number, height: number}} picture the size of the context's canvas
-   * @param {function(CanvasRenderingContext2D)} write the text in the rim's colour
+   * @param {function(CanvasRenderingContext2D): void} write the text in the rim's colour
    */
   engine.drawRim = function (context, picture, write) {
     write(engine.clearPicture(stamp, picture));
@@ -122,7 +122,7 @@
 
   /**
    * @param {{text: string, color: string, fontSize: string, fontWeight: string, fontFamily: string}} label
-   * @return {{lines: string[], font: LabelFont, colour: string, width: number, height: number}} size in CSS pixels
+   * @return {LabelText} size in CSS pixels
    */
   engine.labelText = function (label) {
     let text = texts.get(label);
@@ -142,10 +142,7 @@
     return text;
   };
 
-  /**
-   * The first line of a text alone; null for a text that has no other.
-   * @param {{lines: string[]}} text as `labelText` gives it
-   */
+  /** The first line of a text alone; null for a text that has no other. */
   engine.firstLine = function (text) {
     if (text.first === undefined) {
       text.first = text.lines.length < 2 ? null : Object.assign({}, text, {
@@ -160,7 +157,7 @@
   /**
    * Writes labels, each with a rim against whatever lies below.
    * @param {CanvasRenderingContext2D} context
-   * @param {Array<{x: number, y: number, text: Object}>} labels
+   * @param {PlacedLabel[]} labels
    * @param {string} rim its colour
    */
   engine.writeLabels = function (context, labels, rim) {

@@ -1,9 +1,9 @@
 /** `google.maps.LatLng` and `google.maps.Point`. */
 (function () {
   'use strict';
-  const maps = window.google.maps;
   const engine = window.mapEngine;
 
+  /** @param {number} longitude */
   function wrapLongitude(longitude) {
     if (longitude >= -180 && longitude <= 180)
       return longitude;
@@ -16,6 +16,10 @@
    * not a number stays so: `isFinitePosition` tells, and nothing that is drawn takes such a position.
    */
   class LatLng {
+    /**
+     * @param {number} latitude
+     * @param {number} longitude
+     */
     constructor(latitude, longitude) {
       const lat = Number(latitude);
       this.lat_ = lat > 90 ? 90 : lat < -90 ? -90 : lat;
@@ -30,6 +34,7 @@
       return this.lng_;
     }
 
+    /** @param {?google.maps.LatLng} other */
     equals(other) {
       return !!other && other.lat() === this.lat_ && other.lng() === this.lng_;
     }
@@ -41,6 +46,10 @@
 
   /** A place in pixels. */
   class Point {
+    /**
+     * @param {number} x
+     * @param {number} y
+     */
     constructor(x, y) {
       this.x = x;
       this.y = y;
@@ -48,9 +57,8 @@
   }
 
   /** @return {boolean} whether the value is a position that can be drawn */
-  engine.isFinitePosition = position =>
+  engine.isFinitePosition = /** @return {position is google.maps.LatLng} */ position =>
     position instanceof LatLng && isFinite(position.lat_) && isFinite(position.lng_);
 
-  maps.LatLng = LatLng;
-  maps.Point = Point;
+  engine.supply({ LatLng: LatLng, Point: Point });
 })();

@@ -169,7 +169,7 @@
 
   /**
    * Tells the pieces of a run that lie in the frame, in every copy of the world that it shows.
-   * @param {function(number, number, number, number, number)} emit x and y of both ends in pixels, cut to the frame, and
+   * @param {Emit} emit x and y of both ends in pixels, cut to the frame, and
    *     how many pixels the first end lies behind the run's beginning, counted along the line
    */
   function emitRun(frame, run, geodesic, emit) {

@@ -29,22 +29,27 @@
 
   class ChartMap extends maps.MVCObject {
     /**
-     * @param {Element} element
-     * @param {{center: LatLng, zoom: number, zoomControl: boolean, scaleControl: boolean, styles: Array}} options
+     * @param {HTMLElement} element
+     * @param {MapOptions} [options]
      */
     constructor(element, options) {
       super();
+      /** @type {MapOptions} */
       const wanted = options || {};
       this.options = Object.assign({}, wanted);
       const centre = engine.isFinitePosition(wanted.center) ? wanted.center : new maps.LatLng(0, 0);
       this.element = element;
       this.lines = new engine.Lines();
-      /** The point of a data layer under the pointer, or null. */
+      /**
+       * The point of a data layer under the pointer, or null.
+       * @type {?google.maps.Data.Feature}
+       */
       this.pointed = null;
       this.quiet = false;
       this.exactCentre = centre;
       this.leaflet = L.map(element, leafletOptions);
       this.leaflet.setView([centre.lat(), centre.lng()], wanted.zoom || 0);
+      /** @type {google.maps.MVCArray<?google.maps.MapType>} */
       this.overlayMapTypes = new maps.MVCArray();
       this.base = new engine.BaseMap(this.leaflet, this.overlayMapTypes);
       this.points = new engine.Points(this.base.names);
@@ -58,6 +63,7 @@
       engine.listenToKeys(this);
     }
 
+    /** @param {MapOptions} wanted */
     addControls(wanted) {
       if (wanted.zoomControl !== false)
         L.control.zoom({ position: 'topright', zoomInTitle: '', zoomOutTitle: '' }).addTo(this.leaflet);
@@ -81,7 +87,10 @@
       window.addEventListener('resize', () => this.fitWindow());
     }
 
-    /** Moves the view without the events of a move by the user, which come again whatever happens in between. */
+    /**
+     * Moves the view without the events of a move by the user, which come again whatever happens in between.
+     * @param {function(): void} move
+     */
     quietly(move) {
       const before = this.quiet;
       this.quiet = true;
@@ -92,11 +101,17 @@
       }
     }
 
+    /**
+     * @param {google.maps.LatLng} centre
+     * @param {number} zoom
+     * @param {boolean} [reset] whether everything is laid out anew
+     */
     setQuietly(centre, zoom, reset) {
       // Should the move fail half way, the centre is where the view is.
       this.exactCentre = null;
       this.quietly(() => {
-        this.leaflet.setView([centre.lat(), centre.lng()], zoom, { animate: false, reset: reset });
+        const how = { animate: false, reset: reset };
+        this.leaflet.setView([centre.lat(), centre.lng()], zoom, how);
       });
       this.exactCentre = centre;
     }
@@ -107,7 +122,7 @@
       this.setQuietly(centre, this.getZoom(), true);
     }
 
-    /** @return {LatLng} what was set last, to the last digit, as long as the user has not moved the map */
+    /** @return {google.maps.LatLng} what was set last, to the last digit, as long as the user has not moved the map */
     getCenter() {
       if (this.exactCentre)
         return this.exactCentre;
@@ -115,7 +130,10 @@
       return new maps.LatLng(centre.lat, centre.lng);
     }
 
-    /** A position that is no number is ignored. */
+    /**
+     * A position that is no number is ignored.
+     * @param {google.maps.LatLng|google.maps.LatLngLiteral} position
+     */
     setCenter(position) {
       if (!engine.isFinitePosition(position))
         return;
@@ -127,7 +145,10 @@
       return this.leaflet.getZoom();
     }
 
-    /** Whole and broken zooms, cut to what the map can show; the centre stays. What is no number is ignored. */
+    /**
+     * Whole and broken zooms, cut to what the map can show; the centre stays. What is no number is ignored.
+     * @param {number} zoom
+     */
     setZoom(zoom) {
       const wanted = Number(zoom);
       if (isNaN(wanted))
@@ -137,8 +158,8 @@
     }
 
     /**
-     * @param options those that are there are set: center, zoom, styles, disableDoubleClickZoom, draggableCursor,
-     *     keyboardShortcuts
+     * @param {MapOptions} options those that are there are set: center, zoom, styles, disableDoubleClickZoom,
+     *     draggableCursor, keyboardShortcuts
      */
     setOptions(options) {
       Object.assign(this.options, options);
@@ -152,7 +173,10 @@
         this.element.style.cursor = options.draggableCursor || '';
     }
 
-    /** A dark map has dark boxes: the sheet knows the class. */
+    /**
+     * A dark map has dark boxes: the sheet knows the class.
+     * @param {Colours} colours
+     */
     setColours(colours) {
       this.base.setColours(colours);
       this.element.style.backgroundColor = colours.sea;
@@ -168,11 +192,11 @@
     /** The projection of positions to the world's pixels at zoom 0. */
     getProjection() {
       return {
-        fromLatLngToPoint: position => new maps.Point(
+        fromLatLngToPoint: (/** @type {google.maps.LatLng} */ position) => new maps.Point(
           engine.unitX(position.lng()) * engine.tileSize, engine.unitY(position.lat()) * engine.tileSize),
       };
     }
   }
 
-  maps.Map = ChartMap;
+  engine.supply({ Map: ChartMap });
 })();

@@ -4,27 +4,37 @@
   const maps = window.google.maps;
   const engine = window.mapEngine;
 
+  /**
+   * Leaflet's names of the events and the map service's.
+   * @type {Record<string, string>}
+   */
   const names = { click: 'click', contextmenu: 'rightclick', dragstart: 'dragstart', drag: 'drag', dragend: 'dragend' };
 
   class Marker extends maps.MVCObject {
-    /** @param options position, map, icon (a Symbol), title, draggable, zIndex */
+    /** @param {MarkerOptions} [options] the icon is a Symbol */
     constructor(options) {
       super();
+      /** @type {?google.maps.Map} */
       this.map = null;
+      /** @type {?L.Marker} */
       this.pin = null;
       this.dragged = false;
       this.size = 0;
       this.pending = 0;
+      /** @type {MarkerOptions} */
       this.options = Object.assign({}, options);
       this.follow = () => this.place();
-      this.setMap(this.options.map);
+      this.setMap(/** @type {google.maps.Map} */ (this.options.map));
     }
 
     getPosition() {
-      return this.options.position;
+      return /** @type {google.maps.LatLng} */ (this.options.position);
     }
 
-    /** A position that is no number is ignored. */
+    /**
+     * A position that is no number is ignored.
+     * @param {google.maps.LatLng} position
+     */
     setPosition(position) {
       if (!engine.isFinitePosition(position))
         return;
@@ -39,11 +49,13 @@
       return this.options.title;
     }
 
+    /** @param {string} title */
     setTitle(title) {
       this.options.title = title;
       this.showTitle();
     }
 
+    /** @param {google.maps.Symbol} icon */
     setIcon(icon) {
       this.options.icon = icon;
       if (!this.pending)
@@ -54,6 +66,7 @@
       return this.map;
     }
 
+    /** @param {?google.maps.Map} map */
     setMap(map) {
       const next = map || null;
       if (next === this.map)
@@ -87,7 +100,11 @@
       this.pin = null;
     }
 
-    /** What nobody listens for on the marker happens on the map below it. */
+    /**
+     * What nobody listens for on the marker happens on the map below it.
+     * @param {string} name Leaflet's
+     * @param {L.LeafletEvent} leafletEvent
+     */
     tell(name, leafletEvent) {
       if (name.indexOf('drag') === 0) {
         const at = this.pin.getLatLng();
@@ -95,10 +112,12 @@
         this.dragged = name !== 'dragend';
       }
       const target = maps.event.hasListeners(this, names[name]) || this.dragged ? this : this.map;
-      maps.event.trigger(target, names[name], {
-        latLng: this.options.position,
-        domEvent: leafletEvent.originalEvent,
-      });
+      /** @type {Handed['MapMouseEvent']} */
+      const told = {
+        latLng: this.getPosition(),
+        domEvent: /** @type {L.LeafletMouseEvent} */ (leafletEvent).originalEvent,
+      };
+      maps.event.trigger(target, names[name], told);
     }
 
     /** In the copy of the world that is in view; a marker in the user's hand stays there. */
@@ -106,8 +125,9 @@
       if (!this.pin || this.dragged)
         return;
       const centre = this.map.leaflet.getCenter().lng;
-      const longitude = this.options.position.lng();
-      this.pin.setLatLng([this.options.position.lat(), longitude + 360 * Math.round((centre - longitude) / 360)]);
+      const position = this.getPosition();
+      const longitude = position.lng();
+      this.pin.setLatLng([position.lat(), longitude + 360 * Math.round((centre - longitude) / 360)]);
     }
 
     showTitle() {
@@ -125,8 +145,8 @@
       const element = this.pin && this.pin.getElement();
       if (!element || !this.options.icon)
         return;
-      const former = element.firstChild;
-      const drawing = engine.drawSymbol(this.options.icon, former);
+      const former = /** @type {?HTMLCanvasElement} */ (element.firstChild);
+      const drawing = engine.drawSymbol(/** @type {google.maps.Symbol} */ (this.options.icon), former);
       if (former && this.size === drawing.size)
         return;
       this.size = drawing.size;
@@ -140,5 +160,5 @@
     }
   }
 
-  maps.Marker = Marker;
+  engine.supply({ Marker: Marker });
 })();

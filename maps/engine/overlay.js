@@ -7,23 +7,31 @@
 
   /** From positions to pixels and back, of the map and of the elements in its panes. */
   class Projection {
+    /** @param {L.Map} leaflet */
     constructor(leaflet) {
       this.leaflet = leaflet;
     }
 
-    /** A position in the copy of the world that is nearest to the view. */
+    /**
+     * A position in the copy of the world that is nearest to the view.
+     * @param {google.maps.LatLng} position
+     * @return {L.LatLngTuple}
+     */
     near(position) {
       const centre = this.leaflet.getCenter().lng;
       return [position.lat(), position.lng() + 360 * Math.round((centre - position.lng()) / 360)];
     }
 
+    /** @param {google.maps.LatLng} position */
     fromLatLngToDivPixel(position) {
       const point = this.leaflet.project(this.near(position)).subtract(this.leaflet.getPixelOrigin());
       return new maps.Point(point.x, point.y);
     }
 
+    /** @param {google.maps.LatLng} position */
     fromLatLngToContainerPixel(position) {
-      const point = this.leaflet.layerPointToContainerPoint(this.fromLatLngToDivPixel(position));
+      const pixel = this.fromLatLngToDivPixel(position);
+      const point = this.leaflet.layerPointToContainerPoint([pixel.x, pixel.y]);
       return new maps.Point(point.x, point.y);
     }
 
@@ -38,10 +46,12 @@
    * `draw` is called when places in the panes have become others, which a mere pan does not do.
    */
   class OverlayView extends maps.MVCObject {
+    /** @return {?google.maps.Map} */
     getMap() {
       return this.map_ || null;
     }
 
+    /** @param {?google.maps.Map} map */
     setMap(map) {
       const next = map || null;
       if (next === this.getMap())
@@ -77,5 +87,5 @@
     onRemove() {}
   }
 
-  maps.OverlayView = OverlayView;
+  engine.supply({ OverlayView: OverlayView });
 })();

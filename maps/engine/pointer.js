@@ -10,13 +10,21 @@
   /** Wheel travel of one zoom step, in the pixels that Leaflet counts; one notch of a common wheel is at least this. */
   const wheelStep = 30;
 
-  /** Leaflet's names of the mouse's events and the map service's. */
+  /**
+   * Leaflet's names of the mouse's events and the map service's.
+   * @type {Record<string, string>}
+   */
   const names = { click: 'click', dblclick: 'dblclick', contextmenu: 'rightclick' };
 
   /** The next whole zoom in a direction. */
   engine.nextZoom = (zoom, inwards) => (inwards ? Math.floor(zoom + 1 + 1e-6) : Math.ceil(zoom - 1 - 1e-6));
 
-  /** Goes to the next zoom; what lies under the pointer stays there. */
+  /**
+   * Goes to the next zoom; what lies under the pointer stays there.
+   * @param {ChartMap} map
+   * @param {MouseEvent} domEvent
+   * @param {boolean} inwards
+   */
   function zoomAround(map, domEvent, inwards) {
     const leaflet = map.leaflet;
     const wanted = engine.nextZoom(leaflet.getZoom(), inwards);
@@ -25,6 +33,10 @@
       leaflet.setZoomAround(leaflet.mouseEventToContainerPoint(domEvent), zoom, { animate: false });
   }
 
+  /**
+   * @param {L.LeafletMouseEvent} leafletEvent
+   * @return {Handed['MapMouseEvent']}
+   */
   function mouseEvent(leafletEvent) {
     return {
       latLng: new maps.LatLng(leafletEvent.latlng.lat, leafletEvent.latlng.lng),
@@ -32,17 +44,30 @@
     };
   }
 
+  /**
+   * @param {ChartMap} map
+   * @param {L.LeafletMouseEvent} leafletEvent
+   */
   function featureAt(map, leafletEvent) {
     const scale = engine.tileSize * Math.pow(2, map.getZoom());
     return map.points.nearest(engine.unitX(leafletEvent.latlng.lng), engine.unitY(leafletEvent.latlng.lat), scale);
   }
 
+  /**
+   * @param {google.maps.Data.Feature} feature
+   * @param {string} name
+   * @param {Handed['MapMouseEvent']} mouse
+   */
   function tell(feature, name, mouse) {
-    maps.event.trigger(feature.layer, name, Object.assign({ feature: feature }, mouse));
+    /** @type {Handed['MouseEvent']} */
+    const told = Object.assign({ feature: feature }, mouse);
+    maps.event.trigger(feature.layer, name, told);
   }
 
+  /** @param {ChartMap} map */
   function listenToButtons(map) {
-    Object.keys(names).forEach(name => map.leaflet.on(name, leafletEvent => {
+    Object.keys(names).forEach(name => map.leaflet.on(name, event => {
+      const leafletEvent = /** @type {L.LeafletMouseEvent} */ (event);
       const zooms = name === 'dblclick' && !map.options.disableDoubleClickZoom;
       const feature = featureAt(map, leafletEvent);
       if (feature)
@@ -54,7 +79,12 @@
     }));
   }
 
-  /** The pointer leaves the point under it, if there is one, and comes to another or to none. */
+  /**
+   * The pointer leaves the point under it, if there is one, and comes to another or to none.
+   * @param {MapParts} map
+   * @param {?google.maps.Data.Feature} feature
+   * @param {Handed['MapMouseEvent']} mouse
+   */
   function enter(map, feature, mouse) {
     const left = map.pointed;
     if (feature === left)
@@ -74,6 +104,7 @@
       enter(map, null, { latLng: left.geometry });
   };
 
+  /** @param {ChartMap} map */
   function listenToMoves(map) {
     map.leaflet.on('mousemove', leafletEvent => {
       enter(map, featureAt(map, leafletEvent), mouseEvent(leafletEvent));
@@ -85,9 +116,11 @@
     });
   }
 
+  /** @param {ChartMap} map */
   function listenToWheel(map) {
     let travel = 0;
-    L.DomEvent.on(map.element, 'wheel', domEvent => {
+    L.DomEvent.on(map.element, 'wheel', event => {
+      const domEvent = /** @type {WheelEvent} */ (event);
       L.DomEvent.stop(domEvent);
       travel += L.DomEvent.getWheelDelta(domEvent);
       if (Math.abs(travel) < wheelStep)

@@ -11,30 +11,35 @@
     fillColor: '#000',
     fillOpacity: 0,
     geodesic: false,
-    icons: null,
+    icons: /** @type {?google.maps.IconSequence[]} */ (null),
     zIndex: 0,
   };
 
   class Polyline extends maps.MVCObject {
     /**
-     * @param options path (positions), map, strokeColor, strokeOpacity, strokeWeight, geodesic, zIndex, and icons: an
-     *     array of { icon: Symbol, offset: '50%' or '20px', repeat: '40px' }. A line of a negative zIndex lies below
-     *     everything else and costs nothing but its new piece when it grows.
+     * @param {?PolylineOptions} [options] icons stand at an offset of '50%' or '20px' and are repeated after so much. A
+     *     line of a negative zIndex lies below everything else and costs nothing but its new piece when it grows.
      */
     constructor(options) {
       super();
+      /** @type {?google.maps.Map} */
       this.map = null;
+      /** @type {?LinesHome} */
       this.home = null;
-      this.line = Object.assign({ positions: () => this.positions() }, defaults);
+      /** @type {google.maps.MapsEventListener[]} */
+      this.listening = [];
+      /** @type {Line} */
+      this.line = Object.assign({ positions: () => this.positions(), geometry: new engine.LinePath(false) }, defaults);
       this.setOptions(options || {});
     }
 
+    /** @param {PolylineOptions} options */
     setOptions(options) {
       const before = this.line.zIndex;
-      Object.keys(defaults).forEach(name => {
-        if (options[name] !== undefined)
-          this.line[name] = options[name];
-      });
+      /** @type {Record<string, unknown>} */
+      const told = Object.assign({}, options);
+      Object.keys(defaults).filter(name => told[name] !== undefined)
+        .forEach(name => Object.assign(this.line, { [name]: told[name] }));
       if (options.path || !this.path)
         this.setPath(options.path || []);
       if (options.geodesic !== undefined)
@@ -46,17 +51,19 @@
       this.repaint();
     }
 
-    /** @return {MVCArray} the positions; what is pushed there is drawn */
+    /** @return {google.maps.MVCArray<LatLng>} the positions; what is pushed there is drawn */
     getPath() {
       return this.path;
     }
 
+    /** @param {PolylineOptions['path']} path */
     setPath(path) {
-      (this.listening || []).forEach(maps.event.removeListener);
-      this.path = path instanceof maps.MVCArray ? path : new maps.MVCArray(path);
+      this.listening.forEach(maps.event.removeListener);
+      /** @type {google.maps.MVCArray<LatLng>} */
+      this.path = path instanceof maps.MVCArray ? path : new maps.MVCArray(/** @type {LatLng[]} */ (path));
       const anew = () => this.forgetGeometry();
       this.listening = [
-        this.path.addListener('insert_at', index => this.inserted(index)),
+        this.path.addListener('insert_at', (/** @type {number} */ index) => this.inserted(index)),
         this.path.addListener('remove_at', anew),
         this.path.addListener('set_at', anew),
       ];
@@ -68,7 +75,10 @@
       return this.path.items;
     }
 
-    /** Only notes the change: a path often grows by thousands of points before the next frame is painted. */
+    /**
+     * Only notes the change: a path often grows by thousands of points before the next frame is painted.
+     * @param {number} index
+     */
     inserted(index) {
       if (index !== this.path.getLength() - 1)
         this.forgetGeometry();
@@ -85,6 +95,7 @@
       return this.map;
     }
 
+    /** @param {?google.maps.Map} map */
     setMap(map) {
       const next = map || null;
       if (next === this.map)
@@ -93,7 +104,7 @@
       this.enter(next);
     }
 
-    /** @return {?Map} the map that the line was on */
+    /** @return {?google.maps.Map} the map that the line was on */
     leave() {
       const map = this.map;
       if (this.home)
@@ -103,6 +114,7 @@
       return map;
     }
 
+    /** @param {?google.maps.Map} map */
     enter(map) {
       this.map = map;
       this.home = map ? engine.linesAt(map, this.line.zIndex) : null;
@@ -119,8 +131,10 @@
 
   /** A closed line with its area: options as for Polyline, with `paths`, fillColor and fillOpacity. */
   class Polygon extends Polyline {
+    /** @param {?PolygonOptions} [options] */
     constructor(options) {
-      super(Object.assign({ fillOpacity: 0.35, path: (options || {}).paths }, options));
+      const path = /** @type {PolylineOptions['path']} */ (options && options.paths);
+      super(Object.assign({ fillOpacity: 0.35, path: path }, options));
     }
 
     positions() {
@@ -133,6 +147,5 @@
     }
   }
 
-  maps.Polyline = Polyline;
-  maps.Polygon = Polygon;
+  engine.supply({ Polyline: Polyline, Polygon: Polygon });
 })();

@@ -12,26 +12,31 @@
     return power * (digit >= 5 ? 5 : digit >= 2 ? 2 : 1);
   }
 
-  engine.ScaleBar = L.Control.extend({
-    options: { position: 'bottomleft' },
+  class ScaleBar extends L.Control {
+    constructor() {
+      super({ position: 'bottomleft' });
+    }
 
-    onAdd: function (leaflet) {
+    /** @param {L.Map} leaflet */
+    onAdd(leaflet) {
       const box = L.DomUtil.create('div', 'scale-bar');
       this.lines = [
         { metres: 1852, unit: 'NM', element: L.DomUtil.create('div', 'scale-bar-line', box) },
         { metres: 1000, unit: 'km', element: L.DomUtil.create('div', 'scale-bar-line', box) },
       ];
+      this.leaflet = leaflet;
       leaflet.on('move', this.update, this);
       leaflet.whenReady(this.update, this);
       return box;
-    },
+    }
 
-    onRemove: function (leaflet) {
+    /** @param {L.Map} leaflet */
+    onRemove(leaflet) {
       leaflet.off('move', this.update, this);
-    },
+    }
 
-    update: function () {
-      const leaflet = this._map;
+    update() {
+      const leaflet = this.leaflet;
       const world = engine.tileSize * Math.pow(2, leaflet.getZoom());
       const latitude = Math.min(engine.latitudeLimit, Math.abs(leaflet.getCenter().lat));
       const metresPerPixel = metresAround * Math.cos(latitude * Math.PI / 180) / world;
@@ -46,6 +51,8 @@
         line.element.style.width = `${width}px`;
         line.element.textContent = `${length >= 1 ? length : length.toPrecision(1)} ${line.unit}`;
       });
-    },
-  });
+    }
+  }
+
+  engine.ScaleBar = ScaleBar;
 })();

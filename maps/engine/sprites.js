@@ -32,10 +32,9 @@
 
   /**
    * Draws a symbol on a canvas.
-   * @param {?HTMLCanvasElement} used a canvas whose picture may go; without it a new one is made
-   * @return {{canvas: HTMLCanvasElement, size: number, middle: number, radius: number, ratio: number,
-   *     isEmpty: boolean}} size in CSS
-   *     pixels; the symbol's origin lies `middle` pixels from the left and the upper edge, the symbol reaches `radius`
+   * @param {google.maps.Symbol} symbol
+   * @param {?HTMLCanvasElement} [used] a canvas whose picture may go; without it a new one is made
+   * @return {Sprite} size in CSS pixels; the symbol's origin lies `middle` pixels from the left and the upper edge, the symbol reaches `radius`
    *     pixels around it
    */
   function drawSymbol(symbol, used) {

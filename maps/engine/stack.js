@@ -5,8 +5,8 @@
 
   class Stack {
     /**
-     * @param {Array<{heights: function(): number[], paintHeight: function(Frame, number)}>} parts those that have `begin`
-     *     or `end` are told of the frame before and after all painting
+     * @param {HeightPainter[]} parts those that have `begin` or `end` are told of the frame before and after all
+     *     painting
      */
     constructor(parts) {
       this.parts = parts;

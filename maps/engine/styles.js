@@ -37,11 +37,11 @@
   }
 
   /**
-   * @param {?Array} rules `MapOptions.styles`
-   * @return {Object<string, ?string>} a colour for each part; null for one that is not to be seen
+   * @param {?google.maps.MapTypeStyle[]} [rules] `MapOptions.styles`
+   * @return {Colours} a colour for each part; null for one that is not to be seen
    */
   engine.baseColours = function (rules) {
-    const colours = {};
+    const colours = /** @type {Colours} */ ({});
     Object.keys(parts).forEach(name => {
       colours[name] = colourOf(parts[name], rules || []);
     });

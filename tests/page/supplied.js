@@ -1,16 +1,20 @@
 /**
- * Holds the map engine against what the scripts of the page use of the map service: every class and every method, every
- * event that they listen for and every option that they set. That the service itself has them is the type check's to say
- * (maps/tsconfig.json); between the two, page, engine and service cannot drift apart.
+ * Holds what the map engine supplies (maps/types/engine.d.ts) against what the scripts of the page use of the map
+ * service: every class and every member, every event that they listen for and every option that they set. That the
+ * service has what the page uses, and that the engine's classes are what engine.d.ts says of the service's, is the type
+ * check's to say (maps/tsconfig.json, maps/tsconfig.supplied.json): page, engine and service cannot drift apart.
  *
- *     node supplied.js MAPS TYPE_ROOTS
+ *     node supplied.js MAPS TYPE_ROOTS [Marker.setIcon]
+ *
+ * With a member it is seen what the check says if the engine had not got it.
  */
 'use strict';
 const fs = require('fs');
 const path = require('path');
 const ts = require('typescript');
 
-const [folder, typeRoots] = process.argv.slice(2).map(name => path.resolve(name));
+const [folder, typeRoots] = process.argv.slice(2, 4).map(name => path.resolve(name));
+const missing = (process.argv[4] || '').split('.');
 
 /** Options that speak of what only the service has: its own maps and buttons, and the fingers of a touch screen. */
 const withoutMeaning = ['mapTypeId', 'mapTypeControl', 'streetViewControl', 'fullscreenControl', 'gestureHandling'];
@@ -19,17 +23,17 @@ const filesOf = room => fs.readdirSync(path.join(folder, room)).filter(name => n
   .map(name => path.join(folder, room, name));
 const engineFiles = filesOf('engine');
 const pageFiles = filesOf('page');
-const program = ts.createProgram([...pageFiles, ...engineFiles, path.join(folder, 'types/page.d.ts')], {
+const typeFiles = ['types/page.d.ts', 'types/engine.d.ts'].map(name => path.join(folder, name));
+const program = ts.createProgram([...pageFiles, ...engineFiles, ...typeFiles], {
   allowJs: true,
   noEmit: true,
   target: ts.ScriptTarget.ES2015,
   lib: ['lib.es2015.d.ts', 'lib.dom.d.ts', 'lib.dom.iterable.d.ts'],
-  types: ['google.maps'],
+  types: ['google.maps', 'leaflet'],
   typeRoots: [typeRoots],
 });
 const checker = program.getTypeChecker();
 
-const isIn = room => declaration => path.dirname(declaration.getSourceFile().fileName) === path.join(folder, room);
 const isOfService = declaration => declaration.getSourceFile().fileName.includes('/google.maps/');
 const kindIs = (symbol, flags) => !!symbol && (symbol.flags & flags) !== 0;
 
@@ -47,54 +51,41 @@ function placeOf(node) {
   return `${path.relative(folder, file.fileName)}:${line}`;
 }
 
-/** What the engine puts into `maps`: the names and the types of classes and objects. */
-function findSupplied() {
-  const supplied = new Map();
-  visit(engineFiles, node => {
-    if (!ts.isBinaryExpression(node) || node.operatorToken.kind !== ts.SyntaxKind.EqualsToken
-      || !ts.isPropertyAccessExpression(node.left))
-      return;
-    const owner = node.left.expression.getText();
-    const isClass = kindIs(checker.getSymbolAtLocation(node.right), ts.SymbolFlags.Class);
-    if (owner === 'maps' || isClass)
-      supplied.set(node.left.name.text, typesOf(node.right));
-  });
-  return supplied;
+/** The members of an interface of engine.d.ts: the parts of the service, and the names of what each of them has. */
+function partsOf(name) {
+  const file = program.getSourceFile(typeFiles[1]);
+  const type = checker.getTypeAtLocation(file.statements.find(each => ts.isInterfaceDeclaration(each)
+    && each.name.text === name));
+  return type.getProperties().map(part => [part.name, membersOf(checker.getTypeOfSymbolAtLocation(part, file))]);
 }
 
-/** The type of an object, or for a class those of the class and of its instances. */
-function typesOf(expression) {
-  const type = checker.getTypeAtLocation(expression);
-  return [type, ...type.getConstructSignatures().map(signature => signature.getReturnType())];
+/** Of a class also those of its instances. */
+function membersOf(type) {
+  const types = [type, ...type.getConstructSignatures().map(signature => signature.getReturnType())];
+  return new Set([].concat(...types.map(each => each.getProperties().map(member => member.name))));
 }
 
-/** What the service declares besides is inherited on paper alone. */
-function hasOwn(types, member) {
-  return types.some(type => {
-    const found = type.getProperty(member);
-    return !!found && found.declarations.some(isIn('engine'));
-  });
-}
-
-const supplied = findSupplied();
+const made = new Map(partsOf('Supplied'));
+const supplied = new Map([...made, ...partsOf('Handed')]);
+if (supplied.has(missing[0]))
+  supplied.get(missing[0]).delete(missing[1]);
 const engineText = engineFiles.map(name => fs.readFileSync(name, 'utf8')).join('\n');
 const problems = new Set();
 const counts = { names: 0, events: 0, options: 0 };
 
 function supplies(owner, member) {
-  const types = supplied.get(owner);
-  const base = supplied.get('MVCObject');
-  return !!types && (hasOwn(types, member) || (owner !== 'event' && hasOwn(base, member)));
+  const members = supplied.get(owner);
+  return !!members && (members.has(member) || (owner !== 'event' && supplied.get('MVCObject').has(member)));
 }
 
-/** A class of the service, a member of one, or a function of `google.maps.event`. */
+/** A class of the service, a member of one, a constant, or a function of `google.maps.event`. */
 function checkName(node) {
   const symbol = checker.getSymbolAtLocation(node.name);
   if (!symbol || !symbol.declarations || !symbol.declarations.some(isOfService))
     return;
   const isPart = kindIs(symbol, ts.SymbolFlags.Class | ts.SymbolFlags.Enum);
-  // The page's own declarations add to classes by interfaces of the same name.
-  const isMember = kindIs(symbol.parent, ts.SymbolFlags.Class)
+  // Interfaces of the service are mostly options; and the page's own declarations add to classes by such.
+  const isMember = kindIs(symbol.parent, ts.SymbolFlags.Class | ts.SymbolFlags.Enum)
     || (kindIs(symbol.parent, ts.SymbolFlags.Interface) && supplied.has(symbol.parent.name))
     || (kindIs(symbol, ts.SymbolFlags.Function) && symbol.parent.name === 'event');
   if (!isPart && !isMember)
@@ -102,6 +93,17 @@ function checkName(node) {
   ++counts.names;
   if (isPart ? !supplied.has(symbol.name) : !supplies(symbol.parent.name, symbol.name))
     problems.add(`${placeOf(node)}: the engine has no ${isPart ? '' : `${symbol.parent.name}.`}${symbol.name}`);
+}
+
+/** What engine.d.ts names and no file of the engine gives to `supply`. */
+function checkMade() {
+  const given = new Set();
+  visit(engineFiles, node => {
+    if (ts.isCallExpression(node) && /\.supply$/.test(node.expression.getText()))
+      node.arguments[0].properties.forEach(property => given.add(property.name.text));
+  });
+  [...made.keys()].filter(name => !given.has(name)).forEach(name =>
+    problems.add(`types/engine.d.ts: no file of the engine supplies ${name}`));
 }
 
 /** The event that a listener is added for. Those of the document are not the map's. */
@@ -136,6 +138,7 @@ visit(pageFiles, node => {
     checkOption(node);
 });
 
+checkMade();
 console.log(`${counts.names} names, ${counts.events} events and ${counts.options} options are used`);
 problems.forEach(problem => console.log(problem));
 // A check that sees nothing has found nothing.
