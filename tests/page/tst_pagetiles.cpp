@@ -34,6 +34,9 @@ public:
         connect(this, &QTcpServer::newConnection, this, [this] {
             QTcpSocket* socket = nextPendingConnection();
             connect(socket, &QTcpSocket::readyRead, this, [this, socket] {
+                // A request may come in pieces.
+                if (!socket->peek(65536).contains("\r\n\r\n"))
+                    return;
                 const QString asked = QString::fromLatin1(socket->readAll()).section(' ', 1, 1);
                 paths.append(asked);
                 const QByteArray status = bytes.isEmpty() ? "404 Not Found" : "200 OK";
