@@ -170,6 +170,11 @@ const QVector<SeenBox>& BoxResponder::seen() const
     return boxes;
 }
 
+void BoxResponder::forgetSeen()
+{
+    boxes.clear();
+}
+
 bool BoxResponder::allUsed() const
 {
     return answers.isEmpty();

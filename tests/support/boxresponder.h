@@ -55,6 +55,8 @@ public:
 
     /// All boxes so far, expected or not.
     const QVector<SeenBox>& seen() const;
+    /// Begins the list of the seen ones anew, for a responder that answers thousands.
+    void forgetSeen();
     bool allUsed() const;
     /// What went wrong so far, with the answers that are still unused. Taken complaints no longer fail the test.
     QStringList takeComplaints();
