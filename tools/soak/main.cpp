@@ -53,6 +53,7 @@ int main(int argc, char* argv[])
     parser.addOptions({{"seconds", "how long (120)", "N", "120"},
                        {"seed", "which commands (1)", "N", "1"},
                        {"until", "end with command N, whatever the time", "N", "0"},
+                       {"only", "run these commands alone, to find which of them does something", "NAME,NAME..."},
                        {"growth", "fail when the memory grows by more than N kB in a thousand commands", "N", "0"},
                        {"quiet", "tell the commands only when something goes wrong"}});
     parser.process(application);
@@ -61,6 +62,7 @@ int main(int argc, char* argv[])
     options.seed = parser.value("seed").toUInt();
     options.until = parser.value("until").toInt();
     options.mostGrowth = parser.value("growth").toDouble();
+    options.only = parser.value("only").split(',', Qt::SkipEmptyParts);
     options.quiet = parser.isSet("quiet");
 
     QTemporaryDir folder;

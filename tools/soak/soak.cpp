@@ -63,10 +63,18 @@ const Command& Soak::choose()
     QVector<int> possible;
     int sum = 0;
     for (int i = 0; i < commands.size(); ++i) {
+        const bool wanted = options.only.isEmpty() || options.only.contains(commands.at(i).name);
+        if (!wanted) {
+            continue;
+        }
         if (commands.at(i).possible == nullptr || commands.at(i).possible(world)) {
             possible << i;
             sum += commands.at(i).weight;
         }
+    }
+    if (possible.isEmpty()) {
+        world.require(false, "no command is possible");
+        return commands.first();
     }
     int left = world.dice.below(sum);
     for (const int i : possible) {

@@ -17,6 +17,7 @@ struct SoakOptions
     int until = 0;           ///< number of the last command; 0 for none: the time decides
     double mostGrowth = 0.0; ///< kilobytes for a thousand commands; 0 does not judge
     double warmUp = 0.3;     ///< share of the time after which the memory is judged
+    QStringList only;        ///< names of the commands that are run; empty for all of them
     bool quiet = false;      ///< the commands are told only after a failure
 };
 
