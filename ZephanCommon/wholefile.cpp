@@ -40,7 +40,8 @@ WriteEnd replace(const QString& path, const QByteArray& bytes)
     if (!file.open(QIODevice::WriteOnly)) {
         return writeInPlace(path, bytes);
     }
-    return file.write(bytes) == bytes.size() && file.commit() ? WriteEnd::Whole : WriteEnd::NotWhole;
+    // Flushed by hand: what fails in the flush of `commit` itself goes unnoticed there, and an empty file takes over.
+    return file.write(bytes) == bytes.size() && file.flush() && file.commit() ? WriteEnd::Whole : WriteEnd::NotWhole;
 }
 
 } // namespace
@@ -55,4 +56,11 @@ WriteEnd writeWholeFile(const QString& path, const QByteArray& bytes)
         QMessageBox::warning(nullptr, QCoreApplication::translate("WholeFile", "Erreur d'écriture"), text.arg(path));
     }
     return end;
+}
+
+bool hasRoomBeside(const QString& path, qint64 bytes)
+{
+    QSaveFile trial(platformPath(path));
+    return trial.open(QIODevice::WriteOnly) && trial.write(QByteArray(static_cast<int>(bytes), '\0')) == bytes &&
+           trial.flush();
 }

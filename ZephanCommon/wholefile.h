@@ -15,3 +15,6 @@ enum class WriteEnd
 /// the old file's place when they are complete, so that for anything but `Whole` what was there before stands as it
 /// was.
 WriteEnd writeWholeFile(const QString& path, const QByteArray& bytes);
+
+/// True when the folder of the file takes that much beside it; nothing stays of the trial. For files that others write.
+bool hasRoomBeside(const QString& path, qint64 bytes);

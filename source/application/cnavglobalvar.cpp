@@ -2,6 +2,9 @@
 
 #include "cnavglobalvar.h"
 
+#include "wholefile.h"
+
+#include <QFileInfo>
 #include <QSettings>
 
 namespace {
@@ -98,6 +101,11 @@ void CNavGlobalVar::loadSettings()
 
 void CNavGlobalVar::saveSettings()
 {
+    // On a full disk QSettings leaves an empty file and takes it for written; the file from before is better.
+    constexpr qint64 furtherKeys = 16384;
+    if (!hasRoomBeside(settingsFile(), QFileInfo(settingsFile()).size() + furtherKeys)) {
+        return;
+    }
     QSettings settings(settingsFile(), QSettings::IniFormat);
     for (const Switch& entry : switchesWritten) {
         settings.setValue(QLatin1String(entry.key), this->*entry.field);

@@ -125,21 +125,28 @@ private slots:
         }
     }
 
+    void aFullDiskLeavesTheFile_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("of pages") << after;
+        QTest::newRow("of few bytes") << QByteArray("few"); // fits into the writer's buffer
+    }
     void aFullDiskLeavesTheFile()
     {
         SKIP_WITHOUT_MOUNTS();
+        QFETCH(QByteArray, content);
         Disk on;
         on.disk->fill();
         BoxResponder boxes;
         expectFull(boxes, on.path("A"));
-        QCOMPARE(writeWholeFile(on.path("A"), after), WriteEnd::NotWhole);
+        QCOMPARE(writeWholeFile(on.path("A"), content), WriteEnd::NotWhole);
         QVERIFY(boxes.allUsed());
         QCOMPARE(boxes.seen().value(0).icon, QMessageBox::Warning);
         QCOMPARE(on.get("A"), before);
         on.disk->makeRoom();
         QCOMPARE(on.names(), QStringList{"A"}); // nothing half is left beside it
-        QCOMPARE(writeWholeFile(on.path("A"), after), WriteEnd::Whole);
-        QCOMPARE(on.get("A"), after);
+        QCOMPARE(writeWholeFile(on.path("A"), content), WriteEnd::Whole);
+        QCOMPARE(on.get("A"), content);
     }
 
     void aDiskThatFillsHalfWayLeavesTheFile()
@@ -160,8 +167,13 @@ private slots:
         on.disk->fill();
         BoxResponder boxes;
         expectFull(boxes, on.path("B"));
-        QCOMPARE(writeWholeFile(on.path("B"), after), WriteEnd::NotWhole);
+        QCOMPARE(writeWholeFile(on.path("B"), "few"), WriteEnd::NotWhole);
         QVERIFY(!QFile::exists(on.path("B")));
+        QVERIFY(!hasRoomBeside(on.path("A"), 1));
+        on.disk->makeRoom();
+        QVERIFY(hasRoomBeside(on.path("A"), 1));
+        QVERIFY(!hasRoomBeside(on.path("A"), 65536));
+        QCOMPARE(on.names(), QStringList{"A"});
     }
 
     void aReadOnlyDiskIsNotTold()

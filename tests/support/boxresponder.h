@@ -53,6 +53,9 @@ public:
     /// Any dialog of this class; `drive` works in it and must end it.
     void expectDialog(const QString& className, const std::function<void(QDialog*)>& drive);
 
+    /// From here on a box that is not the next expected one is no complaint: it is closed, and `seen` has it.
+    void closeOthers();
+
     /// All boxes so far, expected or not.
     const QVector<SeenBox>& seen() const;
     /// Begins the list of the seen ones anew, for a responder that answers thousands.
@@ -78,5 +81,6 @@ private:
     QVector<Answer> answers;
     QVector<SeenBox> boxes;
     QStringList complaints;
+    bool othersMayCome = false;
     QVector<QPointer<QDialog>> handled;
 };
