@@ -32,6 +32,9 @@ wanted_for_checks='
 git|git
 clang-format|clang-format
 clang-tidy|run-clang-tidy
+clang|clang++
+libclang-rt-dev|
+llvm|llvm-symbolizer
 shellcheck|shellcheck
 sqlite3|sqlite3
 chromium|chromium

@@ -6,22 +6,11 @@
 #include "External.h"
 #include "cnavglobalvar.h"
 #include "mapscript.h"
-#include "positions.h"
+#include "tracescript.h"
 
 #include <QDebug>
 #include <QMessageBox>
 #include <QTimer>
-
-namespace {
-
-/// The aircraft's place: the longitude goes to the page as the simulator gives it, not wrapped. There is no lock, so
-/// latitude and longitude may come from two writes of the simulator, which a marker on a map can bear.
-mapscript::Place placeOf(const volatile AeoZephanNavRecord& record)
-{
-    return {record.latS / arcSecondsPerDegree, record.lonS / arcSecondsPerDegree};
-}
-
-} // namespace
 
 void MainWindow::on_pbTraceAcft_clicked(bool checked)
 {
@@ -45,8 +34,7 @@ void MainWindow::startTrace()
         return;
     }
     qDebug() << "Trace is ON";
-    const volatile AeoZephanNavRecord& record = *navPlug->record;
-    runMapScript(mapscript::addAircraft(placeOf(record), record.heading));
+    runMapScript(tracescript::start(*navPlug->record));
     connect(navPlug->timer, SIGNAL(timeout()), SLOT(sTraceAircraft()));
 }
 
@@ -70,7 +58,5 @@ void MainWindow::sTraceAircraft()
     if (!navPlug->mapping.holdsView()) {
         return;
     }
-    const volatile AeoZephanNavRecord& record = *navPlug->record;
-    const auto script = ui->pbCenterAcft->isChecked() ? mapscript::followAircraft : mapscript::moveAircraft;
-    runMapScript(script(placeOf(record), record.heading));
+    runMapScript(tracescript::move(*navPlug->record, ui->pbCenterAcft->isChecked()));
 }

@@ -87,7 +87,7 @@ bool writeInvented(const QDir& folder, int number)
     const QString name = QStringLiteral("inv%1").arg(inventedCode(number, 4));
     const QString make = inventedTown(dice) + QLatin1Char(' ') + QString::number(100 + dice.roll(900));
     return writePod(folder.filePath(name + QStringLiteral(".pod")),
-                    contents(name, inventedNfo(make), inventedSvh(number, dice), dice.roll(1 << 20)));
+                    contents(name, inventedNfo(make), inventedSvh(number, dice), std::uint64_t(dice.roll(1 << 20))));
 }
 
 } // namespace
