@@ -52,7 +52,7 @@ void checkSaved(const QList<CFpLinePtr>& lines)
     const QString text = savedText(lines);
     MUST(text.count(QLatin1Char('\n')) == linesAround + linesOfAPoint * lines.size());
     const QString path = scratchFile(QStringLiteral("PLAN.FPL"), "the plan before");
-    MUST(writeTextFile(path, planText(lines, 1, ceiling)));
+    MUST(writeTextFile(path, planText(lines, 1, ceiling)) == WriteEnd::Whole);
     QFile file(path);
     MUST(file.open(QIODevice::ReadOnly));
     const PlanFile again = readPlan(file, newLine);

@@ -18,11 +18,21 @@ QString startupLine(const QString& situationFile)
     return QStringLiteral("startupSituation=Saved Simulations/%1").arg(situationFile);
 }
 
+// As they stand in the file, whose first character may be a carriage return.
+QByteArray firstBytes(QIODevice& ini, int count)
+{
+    const bool textMode = ini.isTextModeEnabled();
+    ini.setTextModeEnabled(false);
+    const QByteArray bytes = ini.peek(count);
+    ini.setTextModeEnabled(textMode);
+    return bytes;
+}
+
 // For a file that an editor has saved as "Unicode", two bytes a character: told by the mark or by the empty half of
 // the first character. Null for a file of single bytes.
 QTextCodec* wideCodec(QIODevice& ini)
 {
-    const QByteArray start = ini.peek(2);
+    const QByteArray start = firstBytes(ini, 2);
     if (start.size() < 2) {
         return nullptr;
     }
