@@ -16,11 +16,14 @@
       this.overlays = overlays;
       this.rasters = [];
       this.grid = null;
+      /** Called when the names come or go, which the chart paints. */
+      this.onNames = () => {};
       const graticule = new engine.Graticule();
       this.names = new engine.Names(window.worldNames);
-      const painters = [new engine.Outlines(window.worldOutlines), graticule, this.names];
+      // The names are painted with the chart, which they give way to.
+      const painters = [new engine.Outlines(window.worldOutlines), graticule];
       this.labels = new engine.GraticuleLabels();
-      this.coloured = [...painters, this.labels];
+      this.coloured = [...painters, this.names, this.labels];
       this.world = new engine.BaseTiles('tilePane', painters).addTo(leaflet);
       this.lines = new engine.BaseTiles('gridPane', [graticule]);
       this.labels.addTo(leaflet);
@@ -47,6 +50,8 @@
     showOverlays() {
       this.rasters.forEach(raster => raster.remove());
       this.rasters = this.overlays.getArray().filter(Boolean).map(type => engine.rasterOf(type).addTo(this.leaflet));
+      this.names.hidden = this.rasters.length > 0;
+      this.onNames();
       if (this.rasters.length)
         this.lines.addTo(this.leaflet);
       else

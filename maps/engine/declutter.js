@@ -1,7 +1,9 @@
 /**
- * Finds room for the labels: the higher the `zIndex` of a point, the earlier its label is placed, and a label that finds
- * no room stays away. Everything is counted in pixels of the whole world at the zoom, so that a decision does not hang on
- * where the view lies, and what stood in the last picture of the same points keeps its place while the map is moved.
+ * Finds room for all that is written on the map, in one grid of cells: the symbols and what may be dragged take theirs
+ * first, then the labels, the higher the `zIndex` of a point the earlier, then the names of the base map, and the
+ * degrees on the view's edges ask what is left. What finds no room stays away. Everything is counted in pixels of the
+ * whole world at the zoom, so that a decision does not hang on where the view lies, and what stood in the last picture
+ * of the same points keeps its place while the map is moved.
  */
 (function () {
   'use strict';
@@ -16,21 +18,34 @@
   const highest = 32000;
 
   /**
-   * Where a label may stand, best first: its middle, as parts of the reach of symbol and label from the symbol's middle.
-   * Corners move in a little, for symbols are round.
+   * Where a label may stand, best first: its middle, as parts of the reach of symbol and label from the symbol's
+   * middle. Corners move in a little, for symbols are round.
    */
   const sides = [[1, 0], [-1, 0], [0.86, -0.95], [0.86, 0.95], [-0.86, -0.95], [-0.86, 0.95], [0, -1], [0, 1]];
 
-  /** What is not drawn keeps its own label at a distance and no other one. What neither answers the mouse nor has a name is an ornament: a compass rose may lie below a label. */
-  const isObstacle = look => look.clickable !== false || !!look.label;
+  /** Points up to this `zIndex` that neither answer the mouse nor have a name are ornaments, as a rose is. */
+  const ornaments = 9;
+  const isObstacle = look => look.clickable !== false || !!look.label || look.zIndex > ornaments;
 
-  /** What the base map writes is given way to, but hides no label. */
-  const baseLevel = 1;
-  const level = height => Math.max(baseLevel + 1, Math.min(highest, Math.floor(height) + 2));
+  /** The heights in the cells: what the base map writes and lines are given way to, but hide no label. */
+  const nameLevel = 1;
+  const lineLevel = 2;
+  const symbolLevel = 3;
+  const level = height => Math.max(symbolLevel, Math.min(highest, Math.floor(height) + symbolLevel));
+  const labelLevel = highest + 1;
+  /** `coverAt` from here on: a line, then a symbol or a label. */
+  engine.lineCover = lineLevel;
+
+  /** How much a label would cover, by the greatest height below it: the fewer the better. */
+  const worstRank = 4;
+  const rankOf = height => Math.min(height, symbolLevel);
+
+  /** Of what may be dragged, the part of its symbol's reach that is not mostly air. */
+  const pinBody = 0.65;
 
   /**
-   * Where more points of one height or above share a square of so many pixels, no label fits between them: it is not even
-   * tried.
+   * Where more points of one height or above share a square of so many pixels, no label fits between them: it is not
+   * even tried.
    */
   const crowd = { points: 8, pixels: 32 };
 
@@ -84,21 +99,40 @@
       }
     }
 
-    /** Whether a box is free of labels and of symbols from a height on. What leaves the room is not free. */
-    isFree(x, y, width, height, least) {
+    /** A line takes the cells that it goes through. */
+    putLine(x1, y1, x2, y2, height) {
+      const steps = Math.ceil(Math.max(Math.abs(x2 - x1), Math.abs(y2 - y1)) / cell) + 1;
+      for (let i = 0; i <= steps; ++i) {
+        const column = Math.floor((x1 + (x2 - x1) * i / steps) / cell) - this.firstColumn;
+        const row = Math.floor((y1 + (y2 - y1) * i / steps) / cell) - this.firstRow;
+        const at = row * this.columns + column;
+        if (column >= 0 && row >= 0 && column < this.columns && row < this.rows && this.heights[at] < height)
+          this.heights[at] = height;
+      }
+    }
+
+    /**
+     * The greatest height in a box: 0 where it is empty.
+     * @param {number} most from here on the box is taken, and the search ends
+     * @return {number} `most` when it is taken; what leaves the room is
+     */
+    heightIn(x, y, width, height, most) {
       const left = Math.floor(x / cell) - this.firstColumn;
       const right = Math.floor((x + width) / cell) - this.firstColumn;
       const top = Math.floor(y / cell) - this.firstRow;
       const bottom = Math.floor((y + height) / cell) - this.firstRow;
       if (left < 0 || top < 0 || right >= this.columns || bottom >= this.rows)
-        return false;
+        return most;
+      let found = 0;
       for (let row = top; row <= bottom; ++row) {
         for (let at = row * this.columns + left, end = row * this.columns + right; at <= end; ++at) {
-          if (this.heights[at] >= least)
-            return false;
+          if (this.heights[at] >= most)
+            return most;
+          if (this.heights[at] > found)
+            found = this.heights[at];
         }
       }
-      return true;
+      return found;
     }
 
     putLabel(x, y, width, height) {
@@ -106,17 +140,21 @@
       const right = Math.floor((x + width) / cell) - this.firstColumn;
       const bottom = Math.floor((y + height) / cell) - this.firstRow;
       for (let row = Math.floor(y / cell) - this.firstRow; row <= bottom; ++row)
-        this.heights.fill(highest + 1, row * this.columns + left, row * this.columns + right + 1);
+        this.heights.fill(labelLevel, row * this.columns + left, row * this.columns + right + 1);
     }
   }
 
   class Declutter {
     /**
-     * @param {?{placesAt: function(number, number): Array}} names what the base map writes: boxes in pixels of the first copy
-     *     of the world for a zoom and a scale
+     * @param {?WrittenNames} names what the base map writes
+     * @param {?Lines} lines those that a label had better not cross
+     * @param {?Set<Pin>} pins what the user may drag
      */
-    constructor(names) {
+    constructor(names, lines, pins) {
       this.names = names;
+      this.lines = lines;
+      this.pins = pins || new Set();
+      this.room = null;
       this.kept = new Map();
       this.zoom = NaN;
       this.version = NaN;
@@ -133,13 +171,16 @@
     place(frame, levels, margin, version) {
       const sameView = frame.zoom === this.zoom;
       this.isSame = sameView && version === this.version;
-      this.room = new Room(frame.left - margin, frame.top - margin, frame.width + 2 * margin, frame.height + 2 * margin);
+      this.room = new Room(frame.left - margin, frame.top - margin, frame.width + 2 * margin,
+        frame.height + 2 * margin);
       this.frame = frame;
       this.before = sameView ? this.kept : new Map();
       this.kept = new Map();
       this.placed = [];
       this.crowd = new Crowd(frame, margin);
       this.putNames();
+      this.putLines();
+      this.putPins();
       levels.forEach(each => this.putSymbols(each));
       const order = levels.slice().reverse();
       // The same points as in the last picture: what stands there stays, whatever new ones come in from the side.
@@ -161,8 +202,30 @@
       const boxes = this.names ? this.names.placesAt(frame.zoom, frame.scale) : [];
       for (let world = frame.firstWorld; world <= frame.lastWorld; ++world) {
         const shift = world * frame.scale;
-        boxes.forEach(box => this.room.putBox(box.left + shift, box.top, box.right + shift, box.bottom, baseLevel));
+        boxes.forEach(box => this.room.putBox(box.left + shift, box.top, box.right + shift, box.bottom, nameLevel));
       }
+    }
+
+    putLines() {
+      const { left, top } = this.frame;
+      if (this.lines)
+        this.lines.eachPiece(this.frame, (x1, y1, x2, y2) =>
+          this.room.putLine(x1 + left, y1 + top, x2 + left, y2 + top, lineLevel));
+    }
+
+    putPins() {
+      const frame = this.frame;
+      for (let world = frame.firstWorld; world <= frame.lastWorld; ++world)
+        this.pins.forEach(pin =>
+          this.room.putSymbol((pin.x + world) * frame.scale, pin.y * frame.scale, pin.radius * pinBody, symbolLevel));
+    }
+
+    /**
+     * What lies in a box of the last picture: 0 for nothing, else a height up to that of symbols and labels.
+     * @param {number} zoom that of the box, in pixels of the whole world
+     */
+    coverAt(zoom, x, y, width, height) {
+      return this.room && zoom === this.zoom ? this.room.heightIn(x, y, width, height, symbolLevel) : 0;
     }
 
     putSymbols(each) {
@@ -191,41 +254,62 @@
     }
 
     /**
-     * Rather beside all symbols than on one of less height, if need be with the first line alone; on one of less height
-     * rather than nowhere. A place is the number of a side, and with the first line that of the sides more.
+     * Rather beside everything than on a name of the base map, on this rather than on a line, and on a symbol of less
+     * height rather than nowhere; if need be with the first line alone. A place is the number of a side, and with the
+     * first line that of the sides more.
      */
     placePoint(point, x, y, height, former) {
       const text = engine.labelText(point.look.label);
-      if (former >= 0 && (this.tryPlace(point, x, y, text, former, baseLevel)
-        || (this.isSame && this.tryPlace(point, x, y, text, former, height))))
-        return;
-      const places = engine.firstLine(text) ? 2 * sides.length : sides.length;
-      [baseLevel, height].some(least => {
-        for (let i = 0; i < places; ++i) {
-          if (this.tryPlace(point, x, y, text, i, least))
-            return true;
+      if (former >= 0) {
+        const covered = this.coveredAt(point, x, y, text, former, height);
+        if (covered === 0 || (this.isSame && covered < height)) {
+          this.putAt(point, x, y, text, former);
+          return;
         }
-        return false;
-      });
+      }
+      const places = engine.firstLine(text) ? 2 * sides.length : sides.length;
+      let best = -1;
+      let rank = worstRank;
+      for (let i = 0; i < places && rank > 0; ++i) {
+        const covered = this.coveredAt(point, x, y, text, i, height);
+        if (covered < height && rankOf(covered) < rank) {
+          best = i;
+          rank = rankOf(covered);
+        }
+      }
+      if (best >= 0)
+        this.putAt(point, x, y, text, best);
     }
 
-    tryPlace(point, x, y, whole, place, least) {
+    /** The greatest height below a label at one of its places; that of the point where it may not stand. */
+    coveredAt(point, x, y, whole, place, height) {
       const text = place < sides.length ? whole : engine.firstLine(whole);
       if (!text)
-        return false;
-      const side = sides[place % sides.length];
-      const reach = point.sprite.radius + gap;
-      const left = Math.round(x + side[0] * (reach + text.width / 2) - text.width / 2);
-      const top = Math.round(y + side[1] * (reach + text.height / 2) - text.height / 2);
-      const frame = this.frame;
-      if (!this.room.isFree(left + frame.left, top + frame.top, text.width, text.height, least))
-        return false;
-      this.room.putLabel(left + frame.left, top + frame.top, text.width, text.height);
+        return height;
+      const left = leftAt(point, x, text, place) + this.frame.left;
+      const top = topAt(point, y, text, place) + this.frame.top;
+      return this.room.heightIn(left, top, text.width, text.height, height);
+    }
+
+    putAt(point, x, y, whole, place) {
+      const text = place < sides.length ? whole : engine.firstLine(whole);
+      const left = leftAt(point, x, text, place);
+      const top = topAt(point, y, text, place);
+      this.room.putLabel(left + this.frame.left, top + this.frame.top, text.width, text.height);
       this.kept.set(point, place);
       this.placed.push({ x: left, y: top, text: text });
-      return true;
     }
   }
+
+  /** The left and the upper edge of a label at one of its places. */
+  const leftAt = (point, x, text, place) => {
+    const reach = point.sprite.radius + gap;
+    return Math.round(x + sides[place % sides.length][0] * (reach + text.width / 2) - text.width / 2);
+  };
+  const topAt = (point, y, text, place) => {
+    const reach = point.sprite.radius + gap;
+    return Math.round(y + sides[place % sides.length][1] * (reach + text.height / 2) - text.height / 2);
+  };
 
   engine.Declutter = Declutter;
 })();

@@ -25,7 +25,7 @@
     return `${Math.floor(minutes / 60)}°${withMinutes ? `${rest < 10 ? '0' : ''}${rest}'` : ''}${side}`;
   }
 
-  /** Lines of one pixel are sharp on half pixels; counted from the world's edge, so that neighbouring canvases agree. */
+  /** Lines of one pixel are sharp on half pixels; counted from the world's edge, so that neighbours agree. */
   function half(unit, scale, origin) {
     return Math.floor(unit * scale) + 0.5 - Math.round(origin);
   }
@@ -69,8 +69,8 @@
       context.lineWidth = 1;
       context.beginPath();
       // A line on the very edge of a canvas belongs to it or to its neighbour, and the halves of it to both.
-      const area = Object.assign({}, frame, { left: frame.left - 1, width: frame.width + 2, top: frame.top - 1,
-        height: frame.height + 2 });
+      const area = Object.assign({}, frame, {
+        left: frame.left - 1, width: frame.width + 2, top: frame.top - 1, height: frame.height + 2 });
       meridians(area, frame.scale).forEach(line => {
         context.moveTo(line.at - 1, 0);
         context.lineTo(line.at - 1, frame.height);
@@ -88,6 +88,8 @@
   const rim = 2;
   /** More labels than many views have. */
   const mostPictures = 200;
+  /** Half the height of a label's digits. */
+  const letterHalf = 5;
   const ruler = document.createElement('canvas').getContext('2d');
 
   /** @return {{canvas: HTMLCanvasElement, width: number, height: number}} CSS pixels, with the rim */
@@ -112,11 +114,18 @@
     context.fillText(text, rim, strip.height / 2);
   }
 
-  /** The labels: longitudes along the upper edge of the view, latitudes along the left one. They do not move with it. */
+  /**
+   * The labels: longitudes along the upper edge of the view, latitudes along the left one. They do not move with it;
+   * one that would stand on something of the chart stays away.
+   */
   engine.GraticuleLabels = L.Layer.extend({
     initialize: function () {
       this.colours = engine.baseColours();
       this.pictures = new Map();
+      /** What the chart has written, as Declutter tells it. */
+      this.room = null;
+      /** The texts that stand on the view's edges. */
+      this.shown = [];
     },
 
     onAdd: function (leaflet) {
@@ -142,7 +151,9 @@
       const corner = this.leaflet.containerPointToLayerPoint([0, 0]).add(this.leaflet.getPixelOrigin());
       const size = this.leaflet.getSize();
       const scale = engine.tileSize * Math.pow(2, this.leaflet.getZoom());
-      const area = { left: corner.x, top: corner.y, width: size.x, height: size.y };
+      const area = { left: corner.x, top: corner.y, width: size.x, height: size.y, zoom: this.leaflet.getZoom() };
+      this.area = area;
+      this.shown = [];
       const along = this.context(this.top, size.x, strip.height);
       meridians(area, scale).filter(line => line.at > strip.width / 2 && line.at < size.x - corners.right)
         .forEach(line => this.text(along, line.text, line.at, strip.height / 2 + 1, 0.5));
@@ -171,7 +182,13 @@
         return;
       const picture = this.picture(text);
       const left = x - rim - part * (picture.width - 2 * rim);
-      context.drawImage(picture.canvas, Math.round(left), Math.round(y - strip.height / 2), picture.width, picture.height);
+      const area = this.area;
+      if (this.room && this.room.coverAt(area.zoom, area.left + left, area.top + y - letterHalf, picture.width,
+        2 * letterHalf) > 0)
+        return;
+      this.shown.push(text);
+      context.drawImage(picture.canvas, Math.round(left), Math.round(y - strip.height / 2), picture.width,
+        picture.height);
     },
 
     /** A text with its rim is dear to draw, and a map that follows an aircraft moves all the time: drawn once. */

@@ -18,6 +18,9 @@
    */
   const pathPieces = 8;
 
+  /** From so many pixels of width on a text had better stand beside a line. */
+  const broad = 2.5;
+
   /** Straight pieces of one piece of a great circle at the most. */
   const mostPieces = 500;
 
@@ -75,6 +78,20 @@
       this.stroke(frame, line);
       engine.paintIcons(frame, line, emitRun);
       this.note(line);
+    }
+
+    /**
+     * Tells the pieces in a frame of the lines that are broad enough to strike a text out.
+     * @param {Frame} frame
+     * @param {Emit} tell x and y of both ends, pixels of the frame
+     */
+    eachPiece(frame, tell) {
+      this.lines.forEach(line => {
+        if (line.strokeWeight < broad || line.strokeOpacity <= 0)
+          return;
+        line.geometry.extend(line.positions());
+        line.geometry.runs.forEach(run => emitRun(frame, run, line.geometry.geodesic, tell));
+      });
     }
 
     /** Paints anew where lines have grown since they were painted. */
@@ -188,8 +205,8 @@
   }
 
   /**
-   * Tells how far a line may go straight: from its start the points seen so far leave a cone of directions that pass all
-   * of them near enough.
+   * Tells how far a line may go straight: from its start the points seen so far leave a cone of directions that pass
+   * all of them near enough.
    */
   class Cone {
     begin(x, y) {
@@ -268,7 +285,7 @@
     };
   }
 
-  /** A piece of a great circle in as many straight pieces as the zoom asks for, if it may come into the frame at all. */
+  /** A piece of a great circle in as many straight pieces as the zoom wants, if it may come into the frame at all. */
   function emitBent(frame, run, left, from, to, along, put) {
     const scale = frame.scale;
     const top = frame.top;

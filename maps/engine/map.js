@@ -27,6 +27,10 @@
     maxZoom: zoomLimits.most,
   };
 
+  /** What the zoom buttons are called, as the map service's are, in the page's language. */
+  const zoomWords = () =>
+    (document.documentElement.lang === 'fr' ? ['Zoom avant', 'Zoom arrière'] : ['Zoom in', 'Zoom out']);
+
   class ChartMap extends maps.MVCObject {
     /**
      * @param {HTMLElement} element
@@ -52,9 +56,14 @@
       /** @type {google.maps.MVCArray<?google.maps.MapType>} */
       this.overlayMapTypes = new maps.MVCArray();
       this.base = new engine.BaseMap(this.leaflet, this.overlayMapTypes);
-      this.points = new engine.Points(this.base.names);
-      this.chart = new engine.ChartCanvas('overlayPane', [new engine.Stack([this.lines, this.points])]);
+      /** The markers that the user may drag, which labels keep away from. */
+      this.pins = /** @type {Set<Pin>} */ (new Set());
+      this.points = new engine.Points(this.base.names, this.lines, this.pins);
+      this.base.labels.room = this.points.declutter;
+      const rewrite = { paint: () => this.base.labels.write() };
+      this.chart = new engine.ChartCanvas('overlayPane', [new engine.Stack([this.lines, this.points]), rewrite]);
       this.chart.addTo(this.leaflet);
+      this.base.onNames = () => this.chart.invalidate();
       this.controls = engine.controlsOf(this.leaflet);
       this.addControls(wanted);
       this.setOptions({ styles: wanted.styles });
@@ -66,7 +75,8 @@
     /** @param {MapOptions} wanted */
     addControls(wanted) {
       if (wanted.zoomControl !== false)
-        L.control.zoom({ position: 'topright', zoomInTitle: '', zoomOutTitle: '' }).addTo(this.leaflet);
+        L.control.zoom({ position: 'topright', zoomInTitle: zoomWords()[0], zoomOutTitle: zoomWords()[1] })
+          .addTo(this.leaflet);
       if (wanted.scaleControl)
         new engine.ScaleBar().addTo(this.leaflet);
     }

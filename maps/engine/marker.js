@@ -21,6 +21,8 @@
       this.dragged = false;
       this.size = 0;
       this.pending = 0;
+      /** Where it stands on the map, for the labels. @type {?Pin} */
+      this.body = null;
       /** @type {MarkerOptions} */
       this.options = Object.assign({}, options);
       this.follow = () => this.place();
@@ -43,6 +45,7 @@
         this.enter();
       else
         this.place();
+      this.keepRoom();
     }
 
     getTitle() {
@@ -60,6 +63,7 @@
       this.options.icon = icon;
       if (!this.pending)
         this.pending = window.requestAnimationFrame(() => this.drawIcon());
+      this.keepRoom();
     }
 
     getMap() {
@@ -88,6 +92,7 @@
       Object.keys(names).forEach(name => this.pin.on(name, leafletEvent => this.tell(name, leafletEvent)));
       this.place();
       this.pin.addTo(this.map.leaflet);
+      this.keepRoom();
       this.showTitle();
       this.drawIcon();
       this.map.leaflet.on('moveend', this.follow);
@@ -98,6 +103,26 @@
       if (this.pin)
         this.pin.remove();
       this.pin = null;
+      if (this.map.pins.delete(this.body)) {
+        this.map.points.forget();
+        this.map.chart.invalidate();
+      }
+    }
+
+    /**
+     * Labels keep away from what may be dragged, for it stands still. What moves by itself, hundreds of times a second,
+     * would drive them before it.
+     */
+    keepRoom() {
+      if (!this.pin || !this.options.draggable || !this.options.icon)
+        return;
+      const at = this.getPosition();
+      const icon = /** @type {google.maps.Symbol} */ (this.options.icon);
+      this.body = Object.assign(this.body || {}, {
+        x: engine.unitX(at.lng()), y: engine.unitY(at.lat()), radius: engine.spriteOf(icon).radius });
+      this.map.pins.add(this.body);
+      this.map.points.forget();
+      this.map.chart.invalidate();
     }
 
     /**
@@ -110,6 +135,8 @@
         const at = this.pin.getLatLng();
         this.options.position = new maps.LatLng(at.lat, at.lng);
         this.dragged = name !== 'dragend';
+        if (!this.dragged)
+          this.keepRoom();
       }
       const target = maps.event.hasListeners(this, names[name]) || this.dragged ? this : this.map;
       /** @type {Handed['MapMouseEvent']} */

@@ -1,6 +1,7 @@
 /**
- * The names of the base map: countries, seas, cities. Which of them have room is found once for a zoom and the whole
- * world, so that a name stays where it is however the map is moved.
+ * The names of the base map: countries, seas, cities. Which of them have room beside each other is found for a zoom
+ * and the whole world, so that a name stays where it is however the map is moved. Where the chart has written, a name
+ * goes elsewhere about its place or stays away.
  */
 (function () {
   'use strict';
@@ -21,6 +22,12 @@
   };
   /** Pixels of a city's letters and the radius of its dot, by rank. */
   const cities = [null, [12, 2.2], [11, 2], [10.5, 1.8], [10, 1.6], [10, 1.5]];
+
+  /** Half the height of what letters cover, and the pixels from the place to a row of letters above or below it. */
+  const letterHalf = 6;
+  const rowStep = 13;
+  /** How many rows a name that has no dot may move. */
+  const rows = [-1, 1, -2, 2];
 
   /** Boxes of pixels that no other may touch, found by squares. Hundreds are tried for each zoom. */
   const square = 128;
@@ -94,21 +101,36 @@
       const x = Math.round(this.x * scale);
       const y = Math.round(this.y * scale);
       if (!this.dot)
-        return [this.placeAt(x, y, Math.round(x - this.width / 2))];
+        return [this.placeAt(x, y, x - this.width / 2, y)];
       const away = this.dot + 4;
-      return [this.placeAt(x, y, x + away), this.placeAt(x, y, x - away - this.width)];
+      return [this.placeAt(x, y, x + away, y), this.placeAt(x, y, x - away - this.width, y)];
     }
 
-    placeAt(x, y, letters) {
+    /** Where else the letters may stand. @param {{x: number, y: number}} place one of the above */
+    otherPlaces(place) {
+      const { x, y } = place;
+      const centred = x - this.width / 2;
+      if (!this.dot)
+        return rows.map(row => this.placeAt(x, y, centred, y + row * rowStep));
+      const away = this.dot + 4;
+      const columns = [x + away, x - away - this.width, centred];
+      return [].concat(...[0, -rowStep, rowStep].map(down =>
+        columns.filter(letters => down || letters !== centred)
+          .map(letters => this.placeAt(x, y, letters, y + down))));
+    }
+
+    /** @param {number} letters the left end of the letters @param {number} row their middle */
+    placeAt(x, y, letters, row) {
       return {
         name: this,
         x: x,
         y: y,
+        row: row,
         letters: Math.round(letters),
         left: Math.min(letters, x - this.dot) - gap,
         right: Math.max(letters + this.width, x + this.dot) + gap,
-        top: y - 7 - gap / 2,
-        bottom: y + 7 + gap / 2,
+        top: Math.min(y, row) - 7 - gap / 2,
+        bottom: Math.max(y, row) + 7 + gap / 2,
       };
     }
   }
@@ -122,9 +144,15 @@
       this.zoom = NaN;
       this.placedIn = null;
       this.placed = [];
+      this.written = [];
+      /** A raster map has its own names. */
+      this.hidden = false;
     }
 
     placesAt(zoom, scale) {
+      if (this.hidden)
+        return [];
+
       if (zoom === this.zoom && this.colours === this.placedIn)
         return this.placed;
       const room = new Room();
@@ -141,28 +169,65 @@
       return this.placed;
     }
 
-    paint(frame) {
+    /**
+     * Writes the names for which there is room.
+     * @param {TakenRoom} room what the chart has taken of it
+     */
+    paint(frame, room) {
+      this.written = [];
+      const waiting = [];
+      this.placesIn(frame).forEach(place => {
+        if (coverOf(place, frame.zoom, room) < engine.lineCover)
+          this.written.push(place);
+        else
+          waiting.push(place);
+      });
+      waiting.forEach(place => {
+        const other = this.otherPlace(place, frame.zoom, room);
+        if (other)
+          this.written.push(other);
+      });
+      this.written.forEach(place => this.write(frame.context, place, frame.left, frame.top));
+    }
+
+    /** The places in a frame, in every copy of the world that it shows. */
+    placesIn(frame) {
       const all = this.placesAt(frame.zoom, frame.scale);
+      const found = [];
       for (let world = frame.firstWorld - 1; world <= frame.lastWorld + 1; ++world) {
         const left = frame.left - world * frame.scale;
         all.forEach(place => {
           if (place.right > left && place.left < left + frame.width && place.bottom > frame.top
             && place.top < frame.top + frame.height)
-            this.write(frame.context, place, left, frame.top);
+            found.push(world ? movedBy(place, world * frame.scale) : place);
         });
       }
+      return found;
+    }
+
+    /** Another place about that of a name; of two on a line the first. Null when nothing is free. */
+    otherPlace(place, zoom, room) {
+      let onLine = coverOf(place, zoom, room) === engine.lineCover ? place : null;
+      const free = place.name.otherPlaces(place).find(other => {
+        const cover = coverOf(other, zoom, room);
+        if (cover > engine.lineCover || this.written.some(each => touch(each, other)))
+          return false;
+        onLine = onLine || other;
+        return cover < engine.lineCover;
+      });
+      return free || onLine;
     }
 
     /** Copies the name's picture; the dot and the letters stand on whole pixels, so that it stays sharp. */
     write(context, place, left, top) {
       const name = place.name;
       const picture = this.pictureOf(name);
-      const y = place.y - top;
-      context.drawImage(picture.canvas, place.letters - left - margin, y - half - margin, picture.width, picture.height);
+      context.drawImage(picture.canvas, place.letters - left - margin, place.row - top - half - margin, picture.width,
+        picture.height);
       if (name.dot) {
         context.fillStyle = this.colours[name.kind.colour];
         context.beginPath();
-        context.arc(place.x - left, y, name.dot, 0, 2 * Math.PI);
+        context.arc(place.x - left, place.y - top, name.dot, 0, 2 * Math.PI);
         context.fill();
       }
     }
@@ -206,6 +271,19 @@
       });
     }
   }
+
+  /** What the chart has where the letters would stand. The dot may lie below a symbol of the same place. */
+  function coverOf(place, zoom, room) {
+    return room.coverAt(zoom, place.letters, place.row - letterHalf, place.name.width, 2 * letterHalf);
+  }
+
+  /** A place in another copy of the world. */
+  const movedBy = (place, shift) => Object.assign({}, place, {
+    x: place.x + shift,
+    letters: Math.round(place.letters + shift),
+    left: place.left + shift,
+    right: place.right + shift,
+  });
 
   engine.Names = Names;
 })();

@@ -35,6 +35,15 @@
       return new maps.Point(point.x, point.y);
     }
 
+    /**
+     * The position of a pixel of the panes.
+     * @param {google.maps.Point} pixel
+     */
+    fromDivPixelToLatLng(pixel) {
+      const position = this.leaflet.unproject(L.point(pixel.x, pixel.y).add(this.leaflet.getPixelOrigin()));
+      return new maps.LatLng(position.lat, position.lng);
+    }
+
     /** Pixels around the world. */
     getWorldWidth() {
       return engine.tileSize * Math.pow(2, this.leaflet.getZoom());

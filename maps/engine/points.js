@@ -13,16 +13,22 @@
   const margin = 160;
 
   /**
-   * Of so many points at one height hardly one can be told from its neighbours: of those in a square of so many pixels one
-   * is drawn.
+   * Of so many points at one height hardly one can be told from its neighbours: of those in a square of so many pixels
+   * one is drawn.
    */
   const crowd = { points: 5000, pixels: 4 };
 
   class Points {
-    /** @param {?Object} names what the base map writes, as Declutter takes it */
-    constructor(names) {
+    /**
+     * @param {?WrittenNames} names what the base map writes where there is room left
+     * @param {?Lines} lines what else is on the map, as Declutter takes it
+     * @param {?Set<Pin>} pins
+     */
+    constructor(names, lines, pins) {
       this.layers = new Set();
-      this.declutter = new engine.Declutter(names);
+      this.names = names;
+      this.declutter = new engine.Declutter(names, lines, pins);
+      this.labels = [];
       this.version = 0;
       this.levels = new Map();
       this.rim = 'rgba(255, 255, 255, 0.85)';
@@ -48,7 +54,10 @@
       this.rim = colour;
     }
 
-    /** Finds out what the frame shows: for each zIndex the points and their pixels. Comes before all painting. */
+    /**
+     * Finds out what the frame shows: for each zIndex the points and their pixels. Comes before all painting: the names
+     * of the base map, which have the room that the labels leave, lie below everything.
+     */
     begin(frame) {
       const ratio = window.devicePixelRatio || 1;
       this.levels = new Map();
@@ -56,6 +65,10 @@
         for (let world = frame.firstWorld; world <= frame.lastWorld; ++world)
           this.gather(frame, layer, frame.left - world * frame.scale, ratio);
       });
+      const levels = Array.from(this.levels.values()).sort((a, b) => a.height - b.height);
+      this.labels = this.declutter.place(frame, levels, margin, this.version);
+      if (this.names)
+        this.names.paint(frame, this.declutter);
     }
 
     gather(frame, layer, left, ratio) {
@@ -117,14 +130,14 @@
 
     /** Labels stand over everything. Comes after all painting. */
     end(frame) {
-      const levels = Array.from(this.levels.values()).sort((a, b) => a.height - b.height);
-      engine.writeLabels(frame.context, this.declutter.place(frame, levels, margin, this.version), this.rim);
+      engine.writeLabels(frame.context, this.labels, this.rim);
       this.levels = new Map();
+      this.labels = [];
     }
 
     /**
-     * @return the point nearest to a place in unit coordinates, or null when none is near enough to be meant; of several
-     *     at the same place the one drawn last
+     * @return the point nearest to a place in unit coordinates, or null when none is near enough to be meant; of
+     *     several at the same place the one drawn last
      */
     nearest(x, y, scale) {
       const best = { point: null, square: Infinity };
@@ -142,7 +155,7 @@
     }
   }
 
-  /** For each point whether one that is drawn later stands in its square; squares are counted from the world's corner. */
+  /** For each point whether one drawn later stands in its square; squares are counted from the world's corner. */
   function hiddenIn(frame, level) {
     const hidden = new Uint8Array(level.points.length);
     const columns = Math.ceil((frame.width + 2 * margin) / crowd.pixels) + 2;

@@ -119,7 +119,8 @@
     return markers.filter(marker => {
       const place = marker.position;
       const row = Math.floor(place.lat() / rowDegrees);
-      const isFree = [row - 1, row, row + 1].every(near => (rows.get(near) || []).every(other => areApart(place, other)));
+      const isFree = [row - 1, row, row + 1]
+        .every(near => (rows.get(near) || []).every(other => areApart(place, other)));
       if (isFree)
         rows.set(row, (rows.get(row) || []).concat(place));
       return isFree;
@@ -127,6 +128,14 @@
   }
 
   let drawn = '';
+
+  /**
+   * Whether frequency and name are to be told: from near, and of the marker that the user has clicked.
+   * @param {ChartMarker} marker
+   */
+  const isNamed = marker => page.isChosen(marker) || page.hasNames(marker.symbol);
+  /** @param {ChartMarker[]} markers */
+  const titlesOf = markers => markers.map(marker => marker.title).join();
 
   /** The markers that may have a rose: those of the VOR layer, and of the plan without it. @return {ChartMarker[]} */
   const shownNow = () => Array.from(new Set(page.plannedMarkers().concat(VORMgr ? VORMgr.markers() : [])));
@@ -136,8 +145,8 @@
     const zoom = map.getZoom();
     const near = zoom >= fromZoom ? shownNow() : [];
     const shown = near.filter(marker => withRose.indexOf(marker.symbol) >= 0);
-    const named = shown.filter(marker => page.hasNames(marker.symbol));
-    const key = shown.length ? `${zoom} ${named.length} ${shown.map(marker => marker.title).join()}` : '';
+    const named = shown.filter(isNamed);
+    const key = shown.length ? `${zoom} ${titlesOf(named)} ${titlesOf(shown)}` : '';
     if (key === drawn)
       return;
     drawn = key;
@@ -146,7 +155,7 @@
     drawnAround = new Set(apart(shown, zoom));
     drawnAround.forEach(marker => {
       layer.add({ geometry: marker.position });
-      const text = page.hasNames(marker.symbol) ? textAround(marker) : '';
+      const text = isNamed(marker) ? textAround(marker) : '';
       if (text)
         texts.add({ geometry: marker.position, properties: { text: text } });
     });

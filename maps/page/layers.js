@@ -50,7 +50,8 @@ var WPTVfrMgr = null;
       return hidden;
     if (marker === chosen)
       return page.fullLook(marker, {
-        text: page.longText(marker),
+        // A VOR has the rest around its rose.
+        text: page.hasRose(marker) ? page.identOf(marker) : page.longText(marker),
         colour: page.symbolColour(marker.symbol),
         zIndex: chosenHeight,
       });
@@ -160,7 +161,11 @@ var WPTVfrMgr = null;
       return;
     chosen = marker;
     page.dressLayers();
+    page.fitRoses();
   };
+
+  /** Whether a marker is the one that the user has clicked. */
+  page.isChosen = marker => marker === chosen;
 
   /** A fresh manager in place of an old one, which would otherwise leave its markers on the map. */
   page.newManager = function (old) {

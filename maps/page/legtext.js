@@ -17,8 +17,14 @@
   const arrowLeg = 34;
   const arrow = [[7, 0], [-5, 5], [-2.5, 0], [-5, -5]];
 
-  /** Where else on its leg a text may stand than in the middle, the better first. */
-  const parts = [0.38, 0.62, 0.25, 0.75];
+  /** Where a text may stand from its first spot, the better first: parts of the leg, or of a lower view's height. */
+  const parts = [0, -0.12, 0.12, -0.25, 0.25, -0.37, 0.37];
+
+  /** The reach of a compass rose, pixels. */
+  const roseReach = 56;
+
+  /** Just below the points of the plan: the chart's other labels keep away from the texts. */
+  const coverHeight = 62;
 
   /** Degrees of latitude in the view from which on the chart's symbols are too many to be spared. */
   const mostSpared = 12;
@@ -64,6 +70,22 @@
     return discs;
   }
 
+  /** The middles of discs that cover a compass rose. @param {Spot} middle */
+  function discsOfRose(middle) {
+    const discs = [];
+    for (let x = -roseReach; x <= roseReach; x += textHeight) {
+      for (let y = -roseReach; y <= roseReach; y += textHeight) {
+        if (Math.hypot(x, y) <= roseReach)
+          discs.push({ x: middle.x + x, y: middle.y + y });
+      }
+    }
+    return discs;
+  }
+
+  /** What keeps the room of a piece of text and is not to be seen: a circle drawn with no ink. */
+  const cover = page.symbol(page.shapes.circle(0, 0, textHeight / 2 - 1), '#000', 1, '#000',
+    { fillOpacity: 0, strokeOpacity: 0 });
+
   /** Keeps discs apart, by cells as large as a disc. */
   class Room {
     constructor() {
@@ -96,6 +118,11 @@
     }
   }
 
+  /** The part of a leg from its end to the nearest middle of its text. @type {(leg: Leg, length: number) => number} */
+  const leastPart = (leg, length) => Math.min(0.5, (leg.width / 2 + textMargin) / length);
+  /** Parts are no exact numbers. */
+  const slack = 1e-6;
+
   class LegTexts extends google.maps.OverlayView {
     /** @param {function(): {text: string, rim: string}} colours asked for with each drawing */
     constructor(colours) {
@@ -108,6 +135,8 @@
       /** What a text may not cover, and what it covers only where it must. */
       this.room = new Room();
       this.symbols = new Room();
+      /** The texts as the chart knows them. @type {?google.maps.Data} */
+      this.covers = null;
       /** @type {?HTMLElement} */
       this.element = null;
       this.pending = 0;
@@ -134,6 +163,7 @@
     onRemove() {
       this.element.parentNode.removeChild(this.element);
       this.element = null;
+      this.tellChart([]);
     }
 
     /** Draws anew with the next frame. */
@@ -175,7 +205,22 @@
       // Of a heap of legs in one view the longest.
       if (shown.length > mostShown)
         shown.sort((a, b) => b.spot.length - a.spot.length);
-      shown.slice(0, mostShown).forEach(entry => this.drawLeg(entry.leg, entry.spot));
+      /** @type {Spot[][]} */
+      const taken = shown.slice(0, mostShown).map(entry => this.drawLeg(entry.leg, entry.spot));
+      this.tellChart([].concat(...taken));
+    }
+
+    /** Keeps the room of the texts on the chart. @param {Spot[]} discs */
+    tellChart(discs) {
+      if (this.covers)
+        this.covers.setMap(null);
+      this.covers = discs.length ? new google.maps.Data() : null;
+      if (!this.covers)
+        return;
+      this.covers.setStyle({ icon: cover, zIndex: coverHeight, clickable: false });
+      discs.forEach(disc => this.covers.add(new google.maps.Data.Feature({
+        geometry: this.projection.fromDivPixelToLatLng(new google.maps.Point(disc.x, disc.y)) })));
+      this.covers.setMap(map);
     }
 
     /** The points of the track and their names, right of them, are there already. */
@@ -196,8 +241,10 @@
       if (reach > mostSpared)
         return;
       page.layers.map(layer => layer.manager()).forEach(manager => manager.markers().forEach(marker => {
-        if (Math.abs(marker.position.lat() - this.laidOut.lat()) < reach && manager.draws(marker))
-          this.symbols.take([this.projection.fromLatLngToDivPixel(marker.position)]);
+        if (Math.abs(marker.position.lat() - this.laidOut.lat()) > reach || !manager.draws(marker))
+          return;
+        const at = this.projection.fromLatLngToDivPixel(marker.position);
+        this.symbols.take(page.hasRose(marker) ? discsOfRose(at) : [at]);
       }));
     }
 
@@ -206,13 +253,17 @@
       return this.projection.getWorldWidth() / milesAround / Math.max(0.02, Math.cos(latitude * radians));
     }
 
-    /** @type {(leg: Leg, first: LegSpot) => void} */
+    /** What the text covers comes back. @type {(leg: Leg, first: LegSpot) => Spot[]} */
     drawLeg(leg, first) {
       const place = first.length < leg.width + 2 * textMargin ? null : this.freePlace(leg, first);
       this.element.appendChild(this.picture(place || first, place && leg.text, leg.width));
+      return place ? place.discs : [];
     }
 
-    /** The best spot of a leg in the view; null when there is none or the leg is too short. @type {(leg: Leg) => ?LegSpot} */
+    /**
+     * The best spot of a leg in the view; null when there is none or the leg is too short.
+     * @type {(leg: Leg) => ?LegSpot}
+     */
     firstSpot(leg) {
       const length = leg.distance * this.pixelsPerMile(page.midPoint(leg.from, leg.to).lat());
       if (length < arrowLeg)
@@ -221,7 +272,7 @@
       if (this.isInView(middle))
         return middle;
       // Of a leg that reaches beyond the view: the point nearest to the view's middle.
-      const least = Math.min(0.5, (leg.width / 2 + textMargin) / length);
+      const least = leastPart(leg, length);
       const part = page.partAlong(leg.from, leg.to, this.laidOut);
       const spot = this.spotAt(leg, Math.max(least, Math.min(1 - least, part)), length);
       return this.isInView(spot) ? spot : null;
@@ -241,6 +292,8 @@
         view: this.projection.fromLatLngToContainerPixel(position),
         angle: Math.atan2(next.y - at.y, dx),
         length: length,
+        part: part,
+        discs: [],
       };
     }
 
@@ -255,11 +308,15 @@
      * @type {(leg: Leg, first: LegSpot) => ?LegSpot}
      */
     freePlace(leg, first) {
+      /** @type {?LegSpot} */
       let best = null;
       let least = Infinity;
-      for (let i = -1; i < parts.length; ++i) {
-        const spot = i < 0 ? first : this.spotAt(leg, parts[i], first.length);
-        if (!this.isInView(spot))
+      const end = leastPart(leg, first.length);
+      const reach = Math.min(1, this.size().y / first.length);
+      for (const away of parts) {
+        const part = first.part + away * reach;
+        const spot = away ? this.spotAt(leg, part, first.length) : first;
+        if (part < end - slack || part > 1 - end + slack || !this.isInView(spot))
           continue;
         const upright = uprightOf(spot.angle);
         for (const offset of [-textOffset, textOffset]) {
@@ -269,7 +326,7 @@
           const covered = discs.filter(disc => !this.symbols.isFree(disc)).length;
           if (covered < least && discs.every(disc => this.room.isFree(disc))) {
             least = covered;
-            best = { spot: Object.assign({ offset: offset }, spot), discs: discs };
+            best = Object.assign({}, spot, { offset: offset, discs: discs });
           }
         }
         if (least === 0)
@@ -277,7 +334,7 @@
       }
       if (best)
         this.room.take(best.discs);
-      return best && best.spot;
+      return best;
     }
 
     /**

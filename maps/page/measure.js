@@ -7,7 +7,8 @@
   const sameClick = 5;
 
   const circle = 'M -3.5 0 A 3.5 3.5 0 1 1 3.5 0 A 3.5 3.5 0 1 1 -3.5 0 Z';
-  const nothing = page.symbol('M 0 0', '', 0, '');
+  /** Nothing to be seen, as broad as keeps the text off the line. */
+  const nothing = page.symbol(page.shapes.circle(0, 0, 4), '', 0, '', { fillOpacity: 0 });
   /** @type {google.maps.Symbol} */
   let point = null;
 

@@ -11,14 +11,24 @@
   /** Metres: the threshold's stripes from the runway's end, from its middle, and half their width. */
   const stripes = { from: 8, to: 38, sides: [-15.5, -9.5, -4, 4, 9.5, 15.5], half: 1.6 };
 
-  /** What is drawn, each with what gives it its colours. @type {Array<{shape: Shape, look: (palette: Palette) => Object}>} */
+  /** From which zoom on the paint on a runway can be told from the runway itself. */
+  const paintFrom = { centre: 12, threshold: 15.7 };
+
+  /** Below the trail: an aircraft flies over its runway. */
+  const zIndex = -10;
+
+  /** What is drawn, each with its zoom and what gives it its colours. @type {RunwayPart[]} */
   let drawn = [];
 
-  /** @type {(shape: Shape, look: (palette: Palette) => Object) => void} */
-  function draw(shape, look) {
+  /** @param {RunwayPart} part */
+  const fit = part => part.shape.setMap(map.getZoom() >= part.from ? map : null);
+
+  /** @type {(shape: Shape, from: number, look: (palette: Palette) => Object) => void} */
+  function draw(shape, from, look) {
+    const part = { shape: shape, from: from, look: look };
     shape.setOptions(look(page.palette));
-    shape.setMap(map);
-    drawn.push({ shape: shape, look: look });
+    fit(part);
+    drawn.push(part);
   }
 
   /**
@@ -34,7 +44,8 @@
   }
 
   /** @type {(corners: Place[]) => google.maps.Polygon} */
-  const area = corners => new google.maps.Polygon({ paths: corners, strokeWeight: 0, fillOpacity: 1, clickable: false });
+  const area = corners =>
+    new google.maps.Polygon({ paths: corners, strokeWeight: 0, fillOpacity: 1, clickable: false });
 
   /** @param {RunwayFrame} frame */
   function drawThreshold(frame) {
@@ -43,7 +54,7 @@
       const right = side + stripes.half;
       const { from, to } = stripes;
       draw(area([frame(from, left), frame(to, left), frame(to, right), frame(from, right)]),
-        palette => ({ fillColor: palette.runwayCentre, zIndex: 51 }));
+        paintFrom.threshold, palette => ({ fillColor: palette.runwayCentre, zIndex: zIndex + 1 }));
     });
   }
 
@@ -53,10 +64,10 @@
       return;
     const ends = [frameOf(highEnd, lowEnd), frameOf(lowEnd, highEnd)];
     const corners = [].concat(...ends.map(frame => [frame(0, halfWidth), frame(0, -halfWidth)]));
-    draw(area(corners), palette =>
-      ({ fillColor: palette.runway, strokeColor: palette.runway, strokeWeight: 4.5, zIndex: 50 }));
-    draw(new google.maps.Polyline({ path: [highEnd, lowEnd], strokeOpacity: 0, clickable: false }), palette =>
-      ({ icons: centreLine(palette.runwayCentre), zIndex: 51 }));
+    draw(area(corners), 0, palette =>
+      ({ fillColor: palette.runway, strokeColor: palette.runway, strokeWeight: 4.5, zIndex: zIndex }));
+    draw(new google.maps.Polyline({ path: [highEnd, lowEnd], strokeOpacity: 0, clickable: false }), paintFrom.centre,
+      palette => ({ icons: centreLine(palette.runwayCentre), zIndex: zIndex + 1 }));
     ends.forEach(drawThreshold);
   };
 
@@ -75,6 +86,7 @@
   page.hasRunways = () => drawn.length > 0;
 
   page.onPalette(palette => drawn.forEach(item => item.shape.setOptions(item.look(palette))));
+  google.maps.event.addListener(map, 'zoom_changed', () => drawn.forEach(fit));
 })();
 
 /** Removes the runways shown. */

@@ -2,8 +2,10 @@
 (function () {
   'use strict';
 
-  const path = 'M 0 -15 L 4 -4 L 11 2 L 11 5 L 3 3 L 2 9 L 5 12 L 5 14 L 0 12.5 '
-    + 'L -5 14 L -5 12 L -2 9 L -3 3 L -11 5 L -11 2 L -4 -4 Z';
+  /** A disc with a nose that points to the heading and an arrow in it: the simulator's aircraft is a silhouette. */
+  const path = 'M 0 -16 L 7.2 -6.9 A 10 10 0 1 1 -7.2 -6.9 Z M 0 6 L 0 -7 M -4.5 -2.5 L 0 -7.5 L 4.5 -2.5';
+  /** From afar it is smaller, or it would hide the airport. */
+  const small = { below: 9, scale: 0.7 };
   /** @type {?google.maps.Marker} */
   let marker = null;
   let drawn = 0;
@@ -11,7 +13,8 @@
   /** @param {number} heading degrees */
   function iconFor(heading) {
     drawn = heading;
-    return page.symbol(path, page.palette.startEdge, 1.4, page.palette.start, { rotation: heading });
+    const scale = map.getZoom() < small.below ? small.scale : 1;
+    return page.symbol(path, page.palette.startEdge, 1.4, page.palette.start, { rotation: heading, scale: scale });
   }
 
   /** Puts the marker to a place; there is never more than one. */
@@ -39,10 +42,12 @@
     });
   };
 
-  page.onPalette(() => {
+  const dress = () => {
     if (marker)
       marker.setIcon(iconFor(drawn));
-  });
+  };
+  page.onPalette(dress);
+  google.maps.event.addListener(map, 'zoom_changed', dress);
 })();
 
 /**

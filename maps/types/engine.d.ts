@@ -166,6 +166,33 @@ interface PointLevel {
 /** What the base map writes: boxes in pixels of the first copy of the world. */
 interface WrittenNames {
   placesAt(zoom: number, scale: number): Box[];
+  /** Writes what finds room. */
+  paint(frame: Frame, room: TakenRoom): void;
+  /** Under a raster map there are none. */
+  hidden: boolean;
+}
+
+/** What the chart has taken of the room for texts: declutter.js tells the heights. */
+interface TakenRoom {
+  coverAt(zoom: number, x: number, y: number, width: number, height: number): number;
+}
+
+interface Declutter extends TakenRoom {
+  place(frame: Frame, levels: PointLevel[], margin: number, version: number): PlacedLabel[];
+}
+
+/** Where something stands that the user may drag: unit coordinates, and its reach in pixels. */
+interface Pin {
+  x: number;
+  y: number;
+  radius: number;
+}
+
+/** The degrees on the edges of the view. */
+interface EdgeLabels {
+  colours: Colours;
+  room: TakenRoom | null;
+  write(): void;
 }
 
 interface HitGrid {
@@ -181,6 +208,7 @@ interface Found {
 }
 
 interface Points extends HeightPainter {
+  declutter: Declutter;
   show(layer: LayerParts): void;
   hide(layer: LayerParts): void;
   forget(): void;
@@ -219,6 +247,7 @@ interface Line extends Required<Omit<PolylineOptions, 'path' | 'map'>> {
 interface Lines extends HeightPainter, Painter {
   add(line: Line): void;
   remove(line: Line): void;
+  eachPiece(frame: Frame, tell: Emit): void;
 }
 
 interface LinesHome {
@@ -238,6 +267,7 @@ interface MapParts {
   options: MapOptions;
   lines: Lines;
   points: Points;
+  pins: Set<Pin>;
   chart: Canvas;
   ground?: LinesHome;
   pointed: google.maps.Data.Feature | null;
@@ -314,10 +344,12 @@ interface MapEngine {
   worldLevels(data: any[] | null): any[];
   Outlines: new (data: any[] | null) => Painter & { colours: Colours };
   Graticule: new () => Painter & { colours: Colours };
-  GraticuleLabels: new () => L.Layer & { colours: Colours, write(): void };
-  Names: new (data: any[] | null) => Painter & WrittenNames & { colours: Colours };
+  GraticuleLabels: new () => L.Layer & EdgeLabels;
+  Names: new (data: any[] | null) => WrittenNames & { colours: Colours };
   BaseMap: new (leaflet: L.Map, overlays: google.maps.MVCArray<google.maps.MapType | null>) => {
     names: WrittenNames,
+    labels: EdgeLabels,
+    onNames: () => void,
     setColours(colours: Colours): void,
   };
   rasterOf(type: google.maps.MapType): L.GridLayer;
@@ -338,10 +370,10 @@ interface MapEngine {
   labelText(label: Partial<google.maps.MarkerLabel>): LabelText;
   firstLine(text: LabelText): LabelText | null;
   writeLabels(context: CanvasRenderingContext2D, labels: PlacedLabel[], rim: string): void;
-  Declutter: new (names: WrittenNames | null) => {
-    place(frame: Frame, levels: PointLevel[], margin: number, version: number): PlacedLabel[],
-  };
-  Points: new (names: WrittenNames | null) => Points;
+  Declutter: new (names: WrittenNames | null, lines: Lines | null, pins: Set<Pin> | null) => Declutter;
+  /** What `TakenRoom.coverAt` tells of a line; names are less, symbols and labels more. */
+  lineCover: number;
+  Points: new (names: WrittenNames | null, lines: Lines | null, pins: Set<Pin> | null) => Points;
 
   controlsOf(leaflet: L.Map): google.maps.MVCArray<HTMLElement>[];
   nextZoom(zoom: number, inwards: boolean): number;

@@ -163,12 +163,23 @@ interface LegSpot extends Spot {
   angle: number;
   /** Of the leg, pixels. */
   length: number;
+  /** Of the leg, up to here. */
+  part: number;
+  /** What the text covers. */
+  discs: Spot[];
   /** Of the text from the line, pixels, below it where positive. */
   offset?: number;
 }
 
 /** What a runway is drawn with. */
 type Shape = google.maps.Polyline | google.maps.Polygon;
+
+/** A piece of a runway's picture, from which zoom on it is drawn, and its colours. */
+interface RunwayPart {
+  shape: Shape;
+  from: number;
+  look: (palette: Palette) => Object;
+}
 
 /** A place on a runway by metres from its end and to the right of its middle. */
 type RunwayFrame = (along: number, right: number) => Place;
@@ -262,6 +273,7 @@ interface Page {
   choose(marker: ChartMarker | null): void;
   hasNames(symbol: string): boolean;
   hasRose(marker: ChartMarker): boolean;
+  isChosen(marker: ChartMarker): boolean;
   fitRoses(): void;
   noteRunway(highEnd: Place, lowEnd: Place): void;
 

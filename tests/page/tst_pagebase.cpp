@@ -30,6 +30,8 @@ private slots:
     void noFalseLineRunsAroundTheWorld();
     void theDateLineIsNoCoast();
     void theScaleTellsMilesAndKilometres();
+    void theZoomButtonsHaveNames_data();
+    void theZoomButtonsHaveNames();
     void thePageWorksInAViewWithoutSize();
 
 private:
@@ -387,6 +389,25 @@ void TestPageBase::theScaleTellsMilesAndKilometres()
                                   .toStringList();
     // At 60 degrees a pixel is 156543 m / 256 / 2.
     QCOMPARE(lines, (QStringList{"10 NM 61px", "20 km 65px"}));
+}
+
+void TestPageBase::theZoomButtonsHaveNames_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QStringList>("names");
+
+    QTest::newRow("French") << "gm_trajector_fr.html" << QStringList{"Zoom avant", "Zoom arrière"};
+    QTest::newRow("English") << "gm_trajector_en.html" << QStringList{"Zoom in", "Zoom out"};
+}
+
+void TestPageBase::theZoomButtonsHaveNames()
+{
+    QFETCH(QString, page);
+    QFETCH(QStringList, names);
+    open(page);
+    const QString told = "Array.from(document.querySelectorAll('.leaflet-control-zoom a'))";
+    QCOMPARE(window->run(told + ".map(e => e.getAttribute('aria-label'))").toStringList(), names);
+    QCOMPARE(window->run(told + ".map(e => e.title)").toStringList(), names);
 }
 
 void TestPageBase::thePageWorksInAViewWithoutSize()

@@ -29,6 +29,9 @@ private slots:
     void aPointMoreIsNoNewDrawing_data();
     void aPointMoreIsNoNewDrawing();
     void runwaysShowUntilTheyAreCleared();
+    void theTrailLiesOverARunway();
+    void thePaintOfARunwayIsSeenFromNear();
+    void theStartMarkerIsADisc();
     void airwaysShowByLevel();
     void airwaysAddedLaterFollowTheirSwitch();
     void aPointWithoutAnAirwayIsIgnored();
@@ -235,6 +238,46 @@ void TestPageDrawing::runwaysShowUntilTheyAreCleared()
         QVERIFY(around(latitude, 2.3, runwayColour) > 0);
     window->run("clearRunway();");
     QCOMPARE(around(46.55, 2.3, runwayColour, 80), 0);
+}
+
+void TestPageDrawing::theTrailLiesOverARunway()
+{
+    window->run("map.setZoom(13);map.setCenter(new google.maps.LatLng(46.50000, 2.30000));"
+                "drawRwy(new google.maps.LatLng(46.50000, 2.28000),new google.maps.LatLng(46.50000, 2.32000));"
+                "addAcftMrkr(new google.maps.LatLng(46.49000, 2.30500),\"\",0);"
+                "for (let i = 1; i <= 20; ++i) setAcftMrkr(new google.maps.LatLng(46.49 + i * 0.001, 2.305), 0);");
+    QVERIFY(around(46.5, 2.31, runwayColour, 4) > 0);
+    // Where both cross.
+    QCOMPARE(window->colourAt(46.5, 2.305), QColor("#b5541c"));
+}
+
+void TestPageDrawing::thePaintOfARunwayIsSeenFromNear()
+{
+    // 1500 m, to scale: at zoom 16 its width is 27 pixels and a stripe of the threshold has two.
+    window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.30000));map.setZoom(16);"
+                "drawRwy(new google.maps.LatLng(46.50000, 2.30000),new google.maps.LatLng(46.50000, 2.32000));");
+    const QString painted = "Array.from(map.ground.lines.lines).length";
+    // The runway, its centre line, six stripes at each end.
+    QCOMPARE(window->run(painted).toInt(), 14);
+    window->run("map.setZoom(14)");
+    QCOMPARE(window->run(painted).toInt(), 2);
+    window->run("map.setZoom(11)");
+    QCOMPARE(window->run(painted).toInt(), 1);
+    window->run("map.setZoom(16)");
+    QCOMPARE(window->run(painted).toInt(), 14);
+}
+
+void TestPageDrawing::theStartMarkerIsADisc()
+{
+    window->run("map.setZoom(10);map.setCenter(new google.maps.LatLng(46.50000, 2.30000));"
+                "addSitMarker(new google.maps.LatLng(46.50000000, 2.30000000),\"\", 0);");
+    window->settle();
+    const QImage image = window->view->grab().toImage();
+    const QPoint middle = window->mouse->pointOf(46.5, 2.3);
+    // Within ten pixels on every side; the aircraft has nothing before and behind its wings.
+    for (const QPoint& beside : {QPoint(-6, -5), QPoint(6, -5), QPoint(-6, 5), QPoint(6, 5)})
+        QCOMPARE(image.pixelColor(middle + beside), QColor(startColour));
+    QVERIFY(image.pixelColor(middle + QPoint(0, 13)) != QColor(startColour));
 }
 
 void TestPageDrawing::airwaysShowByLevel()

@@ -24,6 +24,12 @@ private slots:
     void aCrowdHasNoLabelsButThoseOfMoreImportance();
     void labelsStayWhileTheMapIsPanned();
     void labelsGiveWayToTheNamesOfTheBaseMap();
+    void aNameOfTheBaseMapGivesWayToASymbol();
+    void aNameWithNoRoomStaysAway();
+    void aLabelStandsBesideALine();
+    void aLabelKeepsAwayFromTheStartMarker();
+    void aDegreeStaysAwayFromALabel();
+    void aClickedVorTellsItsNameAroundItsRose();
     void aLabelTellsMoreFromNear();
     void aTextWithoutAKindIsLabelledByItsTitle_data();
     void aTextWithoutAKindIsLabelledByItsTitle();
@@ -227,6 +233,100 @@ void TestPageLabels::labelsGiveWayToTheNamesOfTheBaseMap()
     window->run(QString("pushAPT();map.setCenter(new google.maps.LatLng(%1))").arg(place));
     QCOMPARE(labels(), QStringList{"LFXX"});
     QVERIFY(window->run("Array.from(map.points.declutter.kept.values())[0]").toInt() != 0);
+}
+
+void TestPageLabels::aNameOfTheBaseMapGivesWayToASymbol()
+{
+    // Bourges lies at 47.08 N 2.40 E; its name stands right of its dot.
+    window->run("map.setZoom(8);map.setCenter(new google.maps.LatLng(47.08000, 2.40000))");
+    window->settle();
+    const QString town = "var town = map.base.names.written.find(each => each.name.text === 'Bourges');";
+    QCOMPARE(window->run(town + "Math.sign(town.letters - town.x) + ' ' + (town.row - town.y)").toString(),
+             QString("1 0"));
+    // 28 pixels east of the dot.
+    addAirport("LFXX", 47.08, 2.55);
+    window->run("pushAPT();");
+    window->settle();
+    QVERIFY(window->run(town + "!!town").toBool());
+    QVERIFY(window->run(town + "town.letters < town.x || town.row !== town.y").toBool());
+    window->run("ArptMgr.clearMarkers()");
+    window->settle();
+    QCOMPARE(window->run(town + "Math.sign(town.letters - town.x) + ' ' + (town.row - town.y)").toString(),
+             QString("1 0"));
+}
+
+void TestPageLabels::aNameWithNoRoomStaysAway()
+{
+    window->run("map.setZoom(8);map.setCenter(new google.maps.LatLng(47.08000, 2.40000))");
+    window->settle();
+    const QString isWritten = "map.base.names.written.some(each => each.name.text === 'Bourges')";
+    QVERIFY(window->run(isWritten).toBool());
+    addWaypoints(9, 15, 0.06, 47.08, 2.4);
+    window->settle();
+    QVERIFY(!window->run(isWritten).toBool());
+}
+
+void TestPageLabels::aLabelStandsBesideALine()
+{
+    addAirport("LFXX", 46.5, 2.5);
+    window->run("pushAPT();clearFP();addPointToFp(new google.maps.LatLng(46.50000, 2.00000),\"A\");"
+                "addPointToFp(new google.maps.LatLng(46.50000, 2.50000),\"LFXX\");"
+                "addPointToFp(new google.maps.LatLng(46.50000, 3.00000),\"B\");pushFP();");
+    QVERIFY(labels().contains("LFXX"));
+    // Sides 0 and 1 are right and left of the symbol, where the route runs.
+    const int side = window
+                         ->run("map.points.declutter.kept.get(Array.from(map.points.declutter.kept.keys())"
+                               ".find(point => point.look.label.text === 'LFXX'))")
+                         .toInt();
+    QVERIFY2(side > 1, qPrintable(QString::number(side)));
+}
+
+void TestPageLabels::aLabelKeepsAwayFromTheStartMarker()
+{
+    addAirport("LFXX", 46.5, 2.5);
+    window->run("pushAPT();");
+    const QString side = "Array.from(map.points.declutter.kept.values())[0]";
+    QCOMPARE(labels(), QStringList{"LFXX"});
+    QCOMPARE(window->run(side).toInt(), 0);
+    // 22 pixels east of the airport.
+    window->run("addSitMarker(new google.maps.LatLng(46.50000000, 2.56000000),\"B737-800\", 63);");
+    QCOMPARE(labels(), QStringList{"LFXX"});
+    QVERIFY(window->run(side).toInt() > 0);
+    // It goes elsewhere: the label comes back.
+    window->run("addSitMarker(new google.maps.LatLng(46.70000000, 2.56000000),\"B737-800\", 63);");
+    window->run("map.setZoom(10)");
+    window->settle();
+    window->run("map.setZoom(9)");
+    QCOMPARE(labels(), QStringList{"LFXX"});
+    QCOMPARE(window->run(side).toInt(), 0);
+}
+
+void TestPageLabels::aDegreeStaysAwayFromALabel()
+{
+    window->settle();
+    QVERIFY(window->run("map.base.labels.shown").toStringList().contains("2°30'E"));
+    // The upper edge of the view, 300 pixels from its middle, lies at 47.062 N.
+    addAirport("LFXX", 47.05, 2.47);
+    window->run("pushAPT();");
+    QCOMPARE(labels(), QStringList{"LFXX"});
+    QVERIFY(!window->run("map.base.labels.shown").toStringList().contains("2°30'E"));
+    window->run("ArptMgr.clearMarkers()");
+    window->settle();
+    QVERIFY(window->run("map.base.labels.shown").toStringList().contains("2°30'E"));
+}
+
+void TestPageLabels::aClickedVorTellsItsNameAroundItsRose()
+{
+    window->run("addVORMarker(new google.maps.LatLng(46.50000, 2.50000),\"ABC-K\",1,"
+                "\"<font color=blue><b>VOR ABC</b><font color=black><br/>BEACON<br/>113.7 Mhz<br/>x\");"
+                "addNavMgr();VORMgr.addMarkers(listVOR)");
+    QCOMPARE(labels(), QStringList{"ABC"});
+    window->run("page.choose(listVOR[0])");
+    QStringList texts = labels();
+    texts.sort();
+    QCOMPARE(texts, (QStringList{"113.7\nBEACON", "ABC"}));
+    window->run("page.choose(null)");
+    QCOMPARE(labels(), QStringList{"ABC"});
 }
 
 void TestPageLabels::aLabelTellsMoreFromNear()

@@ -28,6 +28,8 @@ private slots:
     void aTextOnAMeridianGoesUp_data();
     void aTextOnAMeridianGoesUp();
     void aTextSparesTheSymbolsOfTheChart();
+    void theLabelsOfTheChartSpareTheTexts();
+    void aTextStandsOffARose();
     void thereAndBackHaveATextEach();
     void manyLegsAtOnePlaceHaveNoHeapOfTexts();
     void aLegFarBeyondTheViewKeepsItsTextInIt();
@@ -221,6 +223,39 @@ void TestPageLegs::aTextSparesTheSymbolsOfTheChart()
     window->run("VORMgr.clearMarkers()");
     draw({{46.5, 1.9}, {46.5, 3.1}});
     QVERIFY(pixels(QRect(360, 280, 80, 12), QColor(routeColour)) > 10);
+}
+
+void TestPageLegs::theLabelsOfTheChartSpareTheTexts()
+{
+    // A VOR left of the text, 12 pixels above the line: its label would stand on the text.
+    window->run("addVORMarker(new google.maps.LatLng(46.54500, 2.18000), 'ABC-K', 17, '<b>VOR ABC</b>');"
+                "addNavMgr();VORMgr.addMarkers(listVOR);");
+    window->settle();
+    const QString side = "map.points.declutter.kept.get(Array.from(map.points.declutter.kept.keys())"
+                         ".find(point => point.look.label.text === 'ABC'))";
+    QCOMPARE(window->run(side).toInt(), 0);
+    draw({{46.5, 1.9}, {46.5, 3.1}});
+    QCOMPARE(texts().size(), 1);
+    QVERIFY(pixels(QRect(360, 280, 80, 12), QColor(routeColour)) > 10);
+    QVERIFY(window->run(side + " !== 0").toBool());
+    window->run("clearFP()");
+    window->settle();
+    QVERIFY(window->run("page.route.legs.covers === null").toBool());
+}
+
+void TestPageLegs::aTextStandsOffARose()
+{
+    window->run("map.setZoom(10);"
+                "addVORMarker(new google.maps.LatLng(46.50000, 2.50000), 'ABC-K', 1, '<b>VOR ABC</b>');"
+                "addNavMgr();VORMgr.addMarkers(listVOR);");
+    draw({{46.5, 2.5}, {46.5, 6.5}});
+    QCOMPARE(texts().size(), 1);
+    // The rose has a radius of 50 pixels around the view's middle; the text is more than 80 pixels wide.
+    const double x = window
+                         ->run("var box = document.querySelector('.leg-text').getBoundingClientRect();"
+                               "box.left + box.width / 2")
+                         .toDouble();
+    QVERIFY2(x > 400 + 50 + 40, qPrintable(QString::number(x)));
 }
 
 void TestPageLegs::thereAndBackHaveATextEach()

@@ -20,6 +20,7 @@ private slots:
     }
 
     void aLegTellsItsLengthAndBothCourses();
+    void theTextOfALegToTheEastStandsBesideIt();
     void theLineFollowsThePointer();
     void theLineEndsAtTheMarkerUnderThePointer();
     void theLineLeavesADeletedMarker();
@@ -88,6 +89,17 @@ void TestPageMeasure::aLegTellsItsLengthAndBothCourses()
     start(48, 2);
     corner(48.05, 2);
     QCOMPARE(rows(), QStringList{"1|3.00 NM|5.56 km|360° / 180°"});
+}
+
+void TestPageMeasure::theTextOfALegToTheEastStandsBesideIt()
+{
+    start(46.55, 1.6);
+    corner(46.55, 2.2);
+    window->settle();
+    const QString side = "map.points.declutter.kept.get(Array.from(map.points.declutter.kept.keys())"
+                         ".find(point => / NM /.test(point.look.label.text)))";
+    // Sides 0 and 1 are right and left of the leg's middle.
+    QVERIFY2(window->run(side).toInt() > 1, qPrintable(window->run(side).toString()));
 }
 
 void TestPageMeasure::theLineFollowsThePointer()
