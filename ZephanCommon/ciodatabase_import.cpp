@@ -5,6 +5,7 @@
 #include "boxtext.h"
 #include "databaselayout.h"
 #include "databaseplace.h"
+#include "databasewait.h"
 #include "updateline.h"
 #include "updatestatements.h"
 
@@ -181,6 +182,7 @@ bool CIODataBase::importOsm(QFile& file, CGlobalVar& navVar)
     qDebug() << navVar.dbOSM << QFileInfo(file).absoluteFilePath();
     navVar.sqlMgr->addDB(navVar.dbOSM, navVar.dirOSM.path());
     QSqlQuery query(QSqlDatabase::database(navVar.dbOSM, true));
+    OneWait patience(QSqlDatabase::database(navVar.dbOSM, true));
     while (!file.atEnd()) {
         const QByteArray line = readUpdateLine(file);
         if (line.isEmpty()) {
@@ -188,7 +190,7 @@ bool CIODataBase::importOsm(QFile& file, CGlobalVar& navVar)
         }
         const QString statement =
             QStringLiteral("DELETE FROM OSM_OBJ WHERE Ident = '%1';").arg(QString::fromUtf8(line.trimmed()));
-        if (!query.exec(statement)) {
+        if (!patience.exec(query, statement)) {
             qWarning() << "CIODataBase::importDB Error" << query.lastQuery();
         }
         qDebug() << statement;

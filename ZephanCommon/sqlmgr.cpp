@@ -4,6 +4,7 @@
 
 #include "boxtext.h"
 #include "databaseplace.h"
+#include "databasewait.h"
 
 #include <QDebug>
 #include <QMessageBox>
@@ -39,8 +40,7 @@ void SqlMgr::addDB(const QString& name, const QString& path)
     lastConnection = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
     const QString file = QStringLiteral("%1/%2").arg(path, name);
     lastConnection.setDatabaseName(file);
-    // The window stands still while a statement waits for another program to let go of the file (ms).
-    lastConnection.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=1000"));
+    lastConnection.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(databaseWait));
     if (!lastConnection.open()) {
         QMessageBox::critical(nullptr, tr("Ouverture de la base de données impossible."),
                               tr("Impossible d\"établir la connexion avec %1.").arg(boxText(name)), QMessageBox::Ok,

@@ -7,6 +7,7 @@
 #include "cfpline.h"
 #include "cnavglobalvar.h"
 #include "databaseplace.h"
+#include "databasewait.h"
 #include "datadictionary.h"
 #include "mapscript.h"
 #include "positions.h"
@@ -131,9 +132,10 @@ void MainWindow::createProcedure(const ProcedureKind& kind)
     }
     const int row = airportRow(kind);
     QSqlQuery query(QSqlDatabase::database(settings->dbRTE));
+    OneWait patience(QSqlDatabase::database(settings->dbRTE));
     const QStringList statements = procedureStatements(flightPlan->lines, {name, planLine(row)->dbKey, kind.type});
     for (const QString& statement : statements) {
-        query.exec(statement); // one that fails goes unnoticed: the message is the same
+        patience.exec(query, statement); // one that fails goes unnoticed: the message is the same
     }
     on_fltplnGrid_cellClicked(row, 1);
     QMessageBox::information(this, tr(kind.storedTitle), tr(kind.stored).arg(name));
