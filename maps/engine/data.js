@@ -37,7 +37,7 @@
       super();
       /** @type {Set<google.maps.Data.Feature>} */
       this.features = new Set();
-      this.grid = new engine.HitGrid();
+      this.grid = new engine.HitGrid(this.features);
       /** @type {Map<PointParts, PointStyle>} */
       this.overrides = new Map();
       /** @type {google.maps.Data.StylingFunction|PointStyle} */
@@ -61,7 +61,7 @@
       feature.y = engine.unitY(feature.geometry.lat());
       feature.dressing = 0;
       this.features.add(feature);
-      this.grid.add(feature);
+      this.grid.forget();
       this.changed();
       return feature;
     }
@@ -72,7 +72,7 @@
         return;
       if (this.map)
         engine.leavePoint(this.map, this, feature);
-      this.grid.remove(feature);
+      this.grid.forget();
       this.overrides.delete(feature);
       feature.layer = null;
       this.changed();
@@ -130,8 +130,8 @@
      */
     dress(feature) {
       const look = typeof this.style === 'function' ? this.style(feature) : this.style;
-      const override = this.overrides.get(feature);
-      feature.look = override ? Object.assign({}, look, override) : look;
+      const override = this.overrides.size ? this.overrides.get(feature) : undefined;
+      feature.look = override ? Object.assign(Object.create(look), override) : look;
       feature.sprite = engine.spriteOf(/** @type {google.maps.Symbol} */ (feature.look.icon || noSymbol));
       feature.dressing = this.dressing;
     }

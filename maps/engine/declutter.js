@@ -246,9 +246,12 @@
       for (let i = 0; i < each.points.length; ++i) {
         const point = each.points[i];
         const side = former ? this.before.get(point) : -1;
-        if (side === undefined || !point.look.label || this.kept.has(point))
+        if (side === undefined || this.kept.has(point))
           continue;
-        if (former || !this.crowd.isDense(each.xs[i] + this.frame.left, each.ys[i] + this.frame.top))
+        if (!former && this.crowd.isDense(each.xs[i] + this.frame.left, each.ys[i] + this.frame.top))
+          continue;
+        // A label may be made only when it is asked for, so this comes last.
+        if (point.look.label)
           this.placePoint(point, each.xs[i], each.ys[i], height, side);
       }
     }

@@ -73,36 +73,44 @@
 
     gather(frame, layer, left, ratio) {
       const scale = frame.scale;
+      const found = layer.grid.inBox((left - margin) / scale, (frame.top - margin) / scale,
+        (left + frame.width + margin) / scale, (frame.top + frame.height + margin) / scale);
+      for (let i = 0; i < found.runs.length; i += 2)
+        this.gatherRun(frame, layer, left, ratio, found.points, found.runs[i], found.runs[i + 1]);
+    }
+
+    gatherRun(frame, layer, left, ratio, points, from, to) {
+      const scale = frame.scale;
       const top = frame.top;
       const right = frame.width + margin;
       const bottom = frame.height + margin;
-      const visit = points => {
-        for (let i = 0; i < points.length; ++i) {
-          const point = points[i];
-          const x = Math.round(point.x * scale - left);
-          const y = Math.round(point.y * scale - top);
-          if (x < -margin || y < -margin || x > right || y > bottom)
-            continue;
-          if (point.dressing !== layer.dressing || point.sprite.ratio !== ratio)
-            layer.dress(point);
-          if (point.look.visible !== false)
-            this.put(point, x, y);
-        }
-      };
-      layer.grid.visitBox((left - margin) / scale, (top - margin) / scale,
-        (left + right) / scale, (top + bottom) / scale, visit);
+      let level = null;
+      for (let i = from; i < to; ++i) {
+        const point = points[i];
+        const x = Math.round(point.x * scale - left);
+        const y = Math.round(point.y * scale - top);
+        if (x < -margin || y < -margin || x > right || y > bottom)
+          continue;
+        if (point.dressing !== layer.dressing || point.sprite.ratio !== ratio)
+          layer.dress(point);
+        if (point.look.visible === false)
+          continue;
+        const height = point.look.zIndex || 0;
+        if (!level || level.height !== height)
+          level = this.levelAt(height);
+        level.points.push(point);
+        level.xs.push(x);
+        level.ys.push(y);
+      }
     }
 
-    put(point, x, y) {
-      const height = point.look.zIndex || 0;
+    levelAt(height) {
       let level = this.levels.get(height);
       if (!level) {
         level = { height: height, points: [], xs: [], ys: [] };
         this.levels.set(height, level);
       }
-      level.points.push(point);
-      level.xs.push(x);
-      level.ys.push(y);
+      return level;
     }
 
     /** @return {number[]} the zIndex values that occur in the frame */

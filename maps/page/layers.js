@@ -55,8 +55,7 @@ var WPTVfrMgr = null;
         colour: page.symbolColour(marker.symbol),
         zIndex: chosenHeight,
       });
-    const look = looks.of(marker);
-    return look.label && page.procedure.tells(marker) ? Object.assign(look, { label: undefined }) : look;
+    return looks.of(marker, page.procedure.tells(marker));
   }
 
   /** Shows and hides the markers of one list. */

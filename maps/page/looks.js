@@ -1,14 +1,14 @@
 /**
- * How a marker looks at a zoom. From afar a symbol becomes a small sign, then a dot, then it leaves: points of procedures
- * first, then those en route, then beacons, the airports last. A layer of thousands behaves as if it were seen from
- * farther away.
+ * How a marker looks at a zoom. From afar a symbol becomes a small sign, then a dot, then it leaves: points of
+ * procedures first, then those en route, then beacons, the airports last. A layer of thousands behaves as if it were
+ * seen from farther away.
  */
 (function () {
   'use strict';
 
   /**
-   * From which zoom on a symbol is a dot, a small sign, drawn in full, has its identifier beside it, and its name too. So
-   * many markers of the kind leave the map as open as it should be; four times as many want a zoom more.
+   * From which zoom on a symbol is a dot, a small sign, drawn in full, has its identifier beside it, and its name too.
+   * So many markers of the kind leave the map as open as it should be; four times as many want a zoom more.
    */
   const navaid = { dot: 3.5, sign: 5.4, symbol: 6.6, ident: 5.8, name: 10, many: 250 };
   /** @type {Record<string, Stage>} */
@@ -101,6 +101,29 @@
 
   const hidden = { visible: false };
 
+  /**
+   * A style with a label that is made when it is asked for: where markers are crowded most of them never get to theirs,
+   * and to read its text takes longer than all the rest.
+   */
+  class LabelledStyle {
+    /** @param {google.maps.Data.StyleOptions} style @param {Look} look @param {ChartMarker} marker */
+    constructor(style, look, marker) {
+      this.icon = style.icon;
+      this.zIndex = style.zIndex;
+      this.look = look;
+      this.marker = marker;
+      /** @type {?google.maps.MarkerLabel} */
+      this.made = null;
+    }
+
+    get label() {
+      return this.made || (this.made = this.look.labelOf(this.marker));
+    }
+  }
+
+  // Who copies a style takes the label too.
+  Object.defineProperty(LabelledStyle.prototype, 'label', { enumerable: true });
+
   /** What all markers of one kind and zoom have in common. */
   class Look {
     /** @param {string} name @param {LookAt} at */
@@ -108,22 +131,41 @@
       this.at = at;
       this.colour = page.symbolColour(name);
       this.height = page.symbolHeight(name);
+      this.goesAround = at.form === 'symbol' && page.goesAround(name);
       this.weight = this.height >= boldFrom ? 'bold' : 'normal';
+      /** @type {?google.maps.Data.StyleOptions} */
+      this.common = null;
+    }
+
+    /**
+     * @param {ChartMarker} marker @param {boolean} isAround whether it is drawn around an airport
+     * @param {boolean} isTold whether its label stands there already
+     * @return {google.maps.Data.StyleOptions}
+     */
+    of(marker, isAround, isTold) {
+      if (this.at.form === 'none')
+        return hidden;
+      const style = isAround || marker.path ? this.newStyle(marker, isAround) : this.commonStyle(marker);
+      return this.at.text && !isTold ? new LabelledStyle(style, this, marker) : style;
     }
 
     /** @type {(marker: ChartMarker, isAround: boolean) => google.maps.Data.StyleOptions} */
-    of(marker, isAround) {
-      const form = this.at.form;
-      if (form === 'none')
-        return hidden;
+    newStyle(marker, isAround) {
       const scale = isAround ? this.at.scale * aroundAirport : this.at.scale;
-      /** @type {google.maps.Data.StyleOptions} */
-      const style = { icon: page.symbolOf(marker, form, scale), zIndex: this.height };
-      if (this.at.text) {
-        const text = this.at.text === 'name' && !page.hasRose(marker) ? page.longText(marker) : page.identOf(marker);
-        style.label = page.labelOf(text, this.colour, this.at.letters, { fontWeight: this.weight });
-      }
-      return style;
+      return { icon: page.symbolOf(marker, /** @type {SymbolForm} */ (this.at.form), scale), zIndex: this.height };
+    }
+
+    /** What all markers share that have nothing of their own. @param {ChartMarker} marker one of them */
+    commonStyle(marker) {
+      if (!this.common)
+        this.common = this.newStyle(marker, false);
+      return this.common;
+    }
+
+    /** @param {ChartMarker} marker */
+    labelOf(marker) {
+      const text = this.at.text === 'name' && !page.hasRose(marker) ? page.longText(marker) : page.identOf(marker);
+      return page.labelOf(text, this.colour, this.at.letters, { fontWeight: this.weight });
     }
   }
 
@@ -148,9 +190,9 @@
     return {
       hasNames: symbol => looks[symbol].at.text === 'name',
       key: `${page.palette.name} ${near} ${keys.join(' ')}`,
-      of: marker => {
+      of: (marker, isTold) => {
         const look = looks[marker.symbol];
-        return look.of(marker, areFull && look.at.form === 'symbol' && page.isUnderAirport(marker, near));
+        return look.of(marker, areFull && look.goesAround && page.isUnderAirport(marker, near), isTold);
       },
     };
   };

@@ -1,49 +1,69 @@
-/** Navaids on an airport's place: the two symbols would be a blot, so the navaid is drawn larger, around the airport's. */
+/**
+ * Navaids on an airport's place: the two symbols would be a blot, so the navaid is drawn larger, around the airport's.
+ */
 (function () {
   'use strict';
 
   /** Pixels between the middles up to which one symbol lies on the other. */
   const nearPixels = 6;
   const around = ['vor', 'vorDme', 'vortac', 'tacan', 'dme'];
-  /** Degrees: wider than those pixels at every zoom at which symbols are drawn in full. */
-  const cell = 0.1;
-  const columns = 10000;
+  /**
+   * Degrees of a cell: wider than those pixels at every zoom at which symbols are drawn in full, and a narrower one
+   * from the near zoom on, so that few airports share a cell there.
+   */
+  const wideCell = 0.1;
+  const nearZoom = 9.5;
+  const nearCell = 0.0125;
+  const columns = 100000;
 
-  /** The airports that are shown, by cell; null: to be sorted when somebody asks. @type {?Map<number, Place[]>} */
+  /**
+   * The airports that are shown, by cells of a width; null: to be sorted when somebody asks.
+   * @type {?{width: number, places: Map<number, Place[]>}}
+   */
   let cells = null;
 
-  /** @param {number} degrees */
-  const lineOf = degrees => Math.floor(degrees / cell);
+  /** @type {(degrees: number, width: number) => number} the row or column of cells of a latitude or longitude */
+  const lineOf = (degrees, width) => Math.floor(degrees / width);
 
-  function sorted() {
+  /** @param {number} width */
+  function sorted(width) {
     /** @type {Map<number, Place[]>} */
-    const made = new Map();
+    const places = new Map();
     (ArptMgr ? ArptMgr.markers() : []).forEach(marker => {
-      const key = lineOf(marker.position.lat()) * columns + lineOf(marker.position.lng());
-      const there = made.get(key);
+      const key = lineOf(marker.position.lat(), width) * columns + lineOf(marker.position.lng(), width);
+      const there = places.get(key);
       if (there)
         there.push(marker.position);
       else
-        made.set(key, [marker.position]);
+        places.set(key, [marker.position]);
     });
-    return made;
+    return { width: width, places: places };
   }
 
   /** @type {(a: Place, b: Place, zoom: number) => boolean} */
   function isNear(a, b, zoom) {
-    const north = (a.lat() - b.lat()) / Math.max(0.01, Math.cos(a.lat() * Math.PI / 180));
-    return Math.hypot(north, a.lng() - b.lng()) * 256 * Math.pow(2, zoom) / 360 <= nearPixels;
+    const pixels = 256 * Math.pow(2, zoom) / 360;
+    const north = a.lat() - b.lat();
+    const east = a.lng() - b.lng();
+    // Nearly all are told apart by this; the cosine takes longer.
+    if (Math.max(Math.abs(north), Math.abs(east)) * pixels > nearPixels)
+      return false;
+    return Math.hypot(north / Math.max(0.01, Math.cos(a.lat() * Math.PI / 180)), east) * pixels <= nearPixels;
   }
 
-  /** Whether a marker is a navaid at whose place an airport is shown as well. */
+  /** Whether markers of a kind are drawn around an airport where they would lie under it. */
+  page.goesAround = symbol => around.indexOf(symbol) >= 0;
+
+  /** Whether an airport is shown at the place of a marker. */
   page.isUnderAirport = function (marker, zoom) {
-    if (around.indexOf(marker.symbol) < 0)
-      return false;
-    cells = cells || sorted();
-    const middle = lineOf(marker.position.lat()) * columns + lineOf(marker.position.lng());
+    const width = zoom < nearZoom ? wideCell : nearCell;
+    if (!cells || cells.width !== width)
+      cells = sorted(width);
+    const places = cells.places;
+    const middle = lineOf(marker.position.lat(), width) * columns + lineOf(marker.position.lng(), width);
     const steps = [-1, 0, 1];
     return steps.some(row => steps.some(column =>
-      (cells.get(middle + row * columns + column) || []).some(airport => isNear(airport, marker.position, zoom))));
+      (places.get(middle + row * columns + column) || []).some(airport => isNear(airport, marker.position, zoom))));
   };
 
   /** Has to be called after airports have come or gone. */

@@ -39,7 +39,13 @@
 
     /** Whether the track writes a marker's name: the chart then leaves it out. @param {ChartMarker} marker */
     tells(marker) {
-      return !!this.layer && this.points.some(point => page.isPointOf(marker, point));
+      // Asked of every marker in view, and mostly without a track.
+      return !!this.layer && this.hasPointOf(marker);
+    }
+
+    /** @param {ChartMarker} marker */
+    hasPointOf(marker) {
+      return this.points.some(point => page.isPointOf(marker, point));
     }
 
     clear() {

@@ -196,9 +196,8 @@ interface EdgeLabels {
 }
 
 interface HitGrid {
-  add(point: PointParts): void;
-  remove(point: PointParts): void;
-  visitBox(minX: number, minY: number, maxX: number, maxY: number, visit: (points: PointParts[]) => void): void;
+  forget(): void;
+  inBox(minX: number, minY: number, maxX: number, maxY: number): { points: PointParts[], runs: number[] };
   nearest(x: number, y: number, radius: number, accepts: (point: PointParts) => boolean): Found;
 }
 
@@ -363,7 +362,7 @@ interface MapEngine {
   Lines: new () => Lines;
   linesAt(map: MapParts, height: number): LinesHome;
 
-  HitGrid: new () => HitGrid;
+  HitGrid: new (points: Set<PointParts>) => HitGrid;
   clearPicture(canvas: HTMLCanvasElement, picture: { width: number, height: number }): CanvasRenderingContext2D;
   drawRim(context: CanvasRenderingContext2D, picture: { width: number, height: number },
     write: (context: CanvasRenderingContext2D) => void): void;

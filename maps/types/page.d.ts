@@ -69,7 +69,8 @@ interface Looks {
   key: string;
   /** Whether names stand beside the symbols of a kind. */
   hasNames: (symbol: string) => boolean;
-  of: (marker: ChartMarker) => google.maps.Data.StyleOptions;
+  /** `isTold`: the marker's label stands there already. */
+  of: (marker: ChartMarker, isTold: boolean) => google.maps.Data.StyleOptions;
 }
 
 /** Pieces of symbol paths. */
@@ -265,6 +266,7 @@ interface Page {
   fullLook(marker: ChartMarker, more: { text: string, colour: string, zIndex: number }): google.maps.Data.StyleOptions;
 
   isUnderAirport(marker: ChartMarker, zoom: number): boolean;
+  goesAround(symbol: string): boolean;
   airportsChanged(): void;
 
   joinBeacons(): void;

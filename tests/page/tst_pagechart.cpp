@@ -4,6 +4,8 @@
 
 #include <QtTest>
 
+#include <cmath>
+
 class TestPageChart : public QObject
 {
     Q_OBJECT
@@ -48,6 +50,9 @@ private slots:
     void theClickedMarkerIsNamedFromAfar();
     void onePointOfALayerHasOptionsOfItsOwn();
     void aCrowdIsDrawnWithoutHoles();
+    void theProjectionIsThatOfTheWeb_data();
+    void theProjectionIsThatOfTheWeb();
+    void aCopiedLookKeepsItsLabel();
 
 private:
     QScopedPointer<ProgramSide> program;
@@ -552,6 +557,51 @@ void TestPageChart::aCrowdIsDrawnWithoutHoles()
                 "crowd.add({ geometry: new google.maps.LatLng(46.9, 1.6) });");
     QCOMPARE(ink(46.5, 2.5, "#00ff00", 70), 141 * 141);
     QVERIFY(ink(46.9, 1.6, "#00ff00", 10) > 80);
+}
+
+void TestPageChart::theProjectionIsThatOfTheWeb_data()
+{
+    QTest::addColumn<double>("latitude");
+    QTest::addColumn<double>("y");
+    QTest::newRow("equator") << 0.0 << 128.0;
+    QTest::newRow("on a step of the table") << 48.7 << 88.24026125;
+    QTest::newRow("between two steps") << 46.64321 << 90.41269937;
+    QTest::newRow("south") << -33.9461 << 153.68984877;
+    QTest::newRow("south, on a step") << -54.8 << 174.78040511;
+    QTest::newRow("below the table's end") << 79.95 << 28.94265717;
+    QTest::newRow("above the table's end") << 80.02 << 28.65642219;
+    QTest::newRow("far north") << 85.0 << 0.41930619;
+    QTest::newRow("far south") << -85.0 << 255.58069381;
+    QTest::newRow("beyond the limit") << 89.0 << 0.0;
+    QTest::newRow("the south pole") << -90.0 << 256.0;
+}
+
+void TestPageChart::theProjectionIsThatOfTheWeb()
+{
+    QFETCH(double, latitude);
+    QFETCH(double, y);
+    const double found = window
+                             ->run(QString("map.getProjection().fromLatLngToPoint(new google.maps.LatLng(%1, 2.3)).y")
+                                       .arg(latitude, 0, 'f', 5))
+                             .toDouble();
+    // A tenth of a pixel at zoom 18.
+    QVERIFY2(std::abs(found - y) < 4e-7, qPrintable(QString::number(found, 'f', 9)));
+}
+
+void TestPageChart::aCopiedLookKeepsItsLabel()
+{
+    window->run("map.setZoom(12);"
+                "addAPTMarker(new google.maps.LatLng(46.6, 2.5), 'LFXX', 1, '<b>AERODROME LFXX</b>');pushAPT();"
+                "var look = null;"
+                "ArptMgr.layer.forEach(point => { look = ArptMgr.layer.style(point); });"
+                "var copy = {};"
+                "for (var name in look) copy[name] = look[name];");
+    QCOMPARE(window->run("copy.label.text").toString(), QString("LFXX"));
+    QVERIFY(window->run("copy.icon === look.icon && copy.zIndex === look.zIndex").toBool());
+    window->run("ArptMgr.layer.forEach(point => ArptMgr.layer.overrideStyle(point, { zIndex: 7 }));"
+                "ArptMgr.layer.forEach(point => { ArptMgr.layer.dress(point); look = point.look; });");
+    QCOMPARE(window->run("look.zIndex").toInt(), 7);
+    QCOMPARE(window->run("look.label.text").toString(), QString("LFXX"));
 }
 
 QTEST_MAIN(TestPageChart)
