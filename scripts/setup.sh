@@ -16,6 +16,7 @@ g++|c++
 cmake|cmake
 ninja-build|ninja
 ccache|ccache
+lld|ld.lld
 qtbase5-dev|pc:Qt5Widgets
 libqt5webkit5-dev|pc:Qt5WebKitWidgets
 libqt5sql5-sqlite|
@@ -30,6 +31,9 @@ fonts-liberation|
 '
 wanted_for_checks='
 git|git
+clang|clang++
+libclang-rt-dev|
+llvm|llvm-symbolizer
 clang-format|clang-format
 clang-tidy|run-clang-tidy
 clang|clang++

@@ -3,6 +3,7 @@
 
 #include "cnavglobalvar.h"
 #include "mainwindow.h"
+#include "waiting.h"
 
 #include <QPushButton>
 #include <QtTest>
@@ -59,7 +60,7 @@ QStringList TraceWindow::tick()
 bool TraceWindow::markerComesTo(const QString& place, const QString& heading)
 {
     const QString call = QString("setAcftMrkr(LatLng(%1),%2)").arg(place, heading);
-    return QTest::qWaitFor([this, call] { return page().calls("setAcftMrkr").contains(call); }, patience);
+    return waitUntil([this, call] { return page().calls("setAcftMrkr").contains(call); }, patience);
 }
 
 QString TraceWindow::mapCentre()

@@ -1,5 +1,7 @@
 #include "pagewindow.h"
 
+#include "waiting.h"
+
 #include <QApplication>
 #include <QMouseEvent>
 #include <QNetworkAccessManager>
@@ -90,7 +92,7 @@ void PageWindow::settle()
 {
     run("var settledFrames = 0;"
         "requestAnimationFrame(function () { requestAnimationFrame(function () { settledFrames = 2; }); });");
-    QTRY_COMPARE_WITH_TIMEOUT(run("settledFrames").toInt(), 2, 20000);
+    QVERIFY(waitUntil([this] { return run("settledFrames").toInt() == 2; }));
 }
 
 QImage PageWindow::picture()

@@ -1,6 +1,8 @@
 // Wraps the page's functions to record their calls, and sends mouse events to the view.
 #include "pageprobe.h"
 
+#include "waiting.h"
+
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QTextEdit>
@@ -127,7 +129,7 @@ bool PageProbe::waitUntilLoaded(int timeout)
     const auto* debugText = window->findChild<QTextEdit*>("debugText");
     const QString last = QCoreApplication::translate("MainWindow", "Chargement terminé");
     const bool loaded =
-        QTest::qWaitFor([debugText, last] { return debugText->toPlainText().trimmed().endsWith(last); }, timeout);
+        waitUntil([debugText, last] { return debugText->toPlainText().trimmed().endsWith(last); }, timeout);
     // A probe made after the load starts to record here.
     if (!evaluate("typeof zephanProbe").toString().startsWith("object"))
         installOnNewPage();
