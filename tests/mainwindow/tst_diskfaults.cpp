@@ -13,6 +13,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QDir>
 #include <QtTest>
 
@@ -137,6 +138,23 @@ private slots:
         QVERIFY(boxes->allUsed());
         QCOMPARE(data.bytes("PGS"), QByteArray("an older file"));
         win->sandbox.addNavaid({{"ukey", "N1"}, {"iden", "PGS"}, {"name", "PARIS"}, {"ntyp", 1}});
+    }
+
+    void aSavedNavaidsFileOnAFullDisk()
+    {
+        const DataFolder data({"PARIS"});
+        data.write("PARIS", "an older file");
+        SmallDisk disk(QCoreApplication::applicationDirPath() + "/Data", 65536);
+        disk.fill();
+        boxes->expectDialog("CDialogNav", [](QDialog* dialog) {
+            widgetOf<QCheckBox>(*dialog, "cbSaveCSV")->setChecked(true);
+            press(*dialog, "pbOK");
+        });
+        boxes->expectMessage("Nouveau NAVAID", "PARIS a été modifié/ajouté à la base GEN.db");
+        boxes->expectMessage("Erreur d'écriture", notWritten(data.shownName("PARIS"))); // and no word of success
+        win->window->sAddNavToDB("PGS-N1", 0, 0);
+        QVERIFY(boxes->allUsed());
+        QCOMPARE(data.bytes("PARIS"), QByteArray("an older file"));
     }
 
     void anImportIntoADatabaseOnAFullDisk()

@@ -33,7 +33,8 @@ QString makeFolders(const QDir& root)
 QString writeFile(const QString& path, const QByteArray& bytes)
 {
     QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() ? QString() : fault(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() ? QString()
+                                                                                                : fault(path);
 }
 
 QString writeSimulatorIni(const QDir& root)

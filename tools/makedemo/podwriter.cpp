@@ -71,5 +71,5 @@ bool writePod(const QString& path, const QVector<PodContent>& entries)
 {
     const QByteArray bytes = podBytes(entries);
     QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
 }
