@@ -6,6 +6,7 @@
 #include "databaselayout.h"
 #include "databaseplace.h"
 #include "databasewait.h"
+#include "keyedstatement.h"
 #include "updateline.h"
 #include "updatestatements.h"
 
@@ -161,7 +162,9 @@ void CIODataBase::deleteAll(const QSqlDatabase& db, const QStringList& fields)
     const QString key = updateField(fields, updatefield::key).trimmed();
     QSqlQuery query(db);
     if (!key.isEmpty()) {
-        report(query.exec(QStringLiteral("DELETE FROM %1 WHERE %2=\"%3\"").arg(table, column, key)), query);
+        const QString statement = QStringLiteral("DELETE FROM %1 WHERE %2=\"%3\"").arg(table, column, key);
+        const bool sound = isColumnName(column) && staysQuoted(key, QLatin1Char('"'));
+        report(runKeyed(query, statement, sound), query);
         return;
     }
     const QString question =
@@ -188,9 +191,10 @@ bool CIODataBase::importOsm(QFile& file, CGlobalVar& navVar)
         if (line.isEmpty()) {
             break; // the file cannot be read to its end
         }
-        const QString statement =
-            QStringLiteral("DELETE FROM OSM_OBJ WHERE Ident = '%1';").arg(QString::fromUtf8(line.trimmed()));
-        if (!patience.exec(query, statement)) {
+        const QString ident = QString::fromUtf8(line.trimmed());
+        const QString statement = QStringLiteral("DELETE FROM OSM_OBJ WHERE Ident = '%1';").arg(ident);
+        const bool sound = staysQuoted(ident, QLatin1Char('\''));
+        if (!(sound ? patience.exec(query, statement) : runKeyed(query, statement, false))) {
             qWarning() << "CIODataBase::importDB Error" << query.lastQuery();
         }
         qDebug() << statement;

@@ -2,6 +2,8 @@
 
 #include "sqlmgr.h"
 
+#include "keyedstatement.h"
+
 #include "boxtext.h"
 
 #include <QMessageBox>
@@ -78,9 +80,9 @@ constexpr LookupStep lookupSteps[] = {
     {Lookup::BDRY, R"(SELECT * FROM COM WHERE ckey = "%1")", R"(SELECT * FROM COM WHERE ckey LIKE "%%1%")"},
 };
 
-QString statementFor(const char* form, const QString& key)
+bool runFor(const char* form, const QString& key, QSqlQuery& query)
 {
-    return QString(QLatin1String(form)).arg(key);
+    return runKeyed(query, QString(QLatin1String(form)).arg(key), staysQuoted(key, QLatin1Char('"')));
 }
 
 bool lookUp(Lookup lookup, const QString& key, bool exact, QSqlQuery& query)
@@ -90,7 +92,7 @@ bool lookUp(Lookup lookup, const QString& key, bool exact, QSqlQuery& query)
             continue;
         }
         // A step that fails is reported and does not end the cascade.
-        if (!query.exec(statementFor(exact ? step.equalForm : step.likeForm, key))) {
+        if (!runFor(exact ? step.equalForm : step.likeForm, key, query)) {
             SqlMgr::showQueryError(query);
         }
         if (query.next()) {
@@ -102,7 +104,7 @@ bool lookUp(Lookup lookup, const QString& key, bool exact, QSqlQuery& query)
 
 void removeRows(const char* statement, const QString& key, QSqlQuery& query)
 {
-    if (!query.exec(statementFor(statement, key))) {
+    if (!runFor(statement, key, query)) {
         SqlMgr::showQueryError(query);
     }
 }

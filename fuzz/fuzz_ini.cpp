@@ -117,6 +117,8 @@ QByteArray rewrittenPairs(const QByteArray& bytes)
     QStringList lines = text.split(QLatin1Char('\n'));
     if (lines.last().isEmpty()) {
         lines.removeLast();
+    } else if (lines.last().endsWith(QLatin1Char('\r'))) {
+        lines.last().chop(1); // half of what ends a line, and nothing behind it
     }
     for (QString& line : lines) {
         const QString mark = line.startsWith(QChar(QChar::ByteOrderMark)) ? line.left(1) : QString();

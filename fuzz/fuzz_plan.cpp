@@ -10,6 +10,7 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTableWidget>
 
 #include <cmath>
@@ -41,10 +42,12 @@ QString savedText(const QList<CFpLinePtr>& lines)
     return planText(lines, 1, ceiling).join(QString());
 }
 
-/// The text as a file has it: a stray half of a surrogate pair does not survive.
-QString asWritten(const QString& text)
+/// The text as it is after one more saving: a stray half of a surrogate pair does not survive, and a position that lies
+/// south or west of zero by less than the last decimal loses its sign.
+QString settled(const QString& text)
 {
-    return utf8Text(text.toUtf8());
+    static const QRegularExpression lostSign(QStringLiteral("-(?=0\\.000,)"));
+    return utf8Text(text.toUtf8()).replace(lostSign, QString());
 }
 
 void checkSaved(const QList<CFpLinePtr>& lines)
@@ -59,7 +62,7 @@ void checkSaved(const QList<CFpLinePtr>& lines)
     MUST(file.error() == QFileDevice::NoError);
     MUST(again.lines.size() == lines.size());
     MUST(again.skipped == 0 && again.versionSeen && again.version == 0);
-    MUST(savedText(again.lines) == asWritten(text));
+    MUST(settled(savedText(again.lines)) == settled(text));
 }
 
 void checkLegs(const QList<CFpLinePtr>& lines)

@@ -212,7 +212,7 @@ void startAnew()
 } // namespace
 
 /// Found by name by LeakSanitizer: the web engine and the window keep much to the end of the process.
-extern "C" int __lsan_is_turned_off()
+extern "C" int __lsan_is_turned_off() // NOLINT(bugprone-reserved-identifier): LeakSanitizer's own
 {
     return 1;
 }

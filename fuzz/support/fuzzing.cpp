@@ -24,7 +24,7 @@ void dropMessage(QtMsgType type, const QMessageLogContext&, const QString& text)
 } // namespace
 
 /// Found by name by LeakSanitizer: what the font library keeps to its end is no leak of ours.
-extern "C" const char* __lsan_default_suppressions()
+extern "C" const char* __lsan_default_suppressions() // NOLINT(bugprone-reserved-identifier): LeakSanitizer's own
 {
     return "leak:libfontconfig\n";
 }

@@ -2,6 +2,7 @@
 #include "ui_cdialognav.h"
 
 #include "cnavglobalvar.h"
+#include "keyedstatement.h"
 #include "mapscript.h"
 #include "markertext.h"
 #include "radiochoices.h"
@@ -125,7 +126,8 @@ void CDialogNav::on_leIden_textEdited(const QString& arg1)
 int CDialogNav::countOfKeys(const QString& start) const
 {
     QSqlQuery query(QSqlDatabase::database(settings->dbGEN));
-    if (!query.exec(QStringLiteral("SELECT COUNT(ukey) FROM NAV WHERE ukey LIKE \"%1%\";").arg(start))) {
+    const QString statement = QStringLiteral("SELECT COUNT(ukey) FROM NAV WHERE ukey LIKE \"%1%\";").arg(start);
+    if (!runKeyed(query, statement, staysQuoted(start, QLatin1Char('"')))) {
         SqlMgr::showQueryError(query);
     }
     return query.next() ? query.value(0).toInt() : 0;

@@ -1,6 +1,7 @@
 #include "rowsaving.h"
 
 #include "databaseplace.h"
+#include "keyedstatement.h"
 #include "sqlmgr.h"
 #include "textfile.h"
 #include "updateline.h"
@@ -11,6 +12,8 @@
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
+#include <algorithm>
+
 void storeRow(const SavedRow& row, QWidget* parent)
 {
     if (!databaseIsInPlace(row.connection)) {
@@ -18,7 +21,9 @@ void storeRow(const SavedRow& row, QWidget* parent)
     }
     const QString statement = QStringLiteral("REPLACE INTO ") + row.table + QLatin1Char(' ') + valuesClause(row.values);
     QSqlQuery query(QSqlDatabase::database(row.connection));
-    if (query.exec(statement)) {
+    const bool sound = std::all_of(row.values.begin(), row.values.end(),
+                                   [](const QString& value) { return staysQuoted(value, QLatin1Char('\'')); });
+    if (runKeyed(query, statement, sound)) {
         QMessageBox::information(parent, row.title, row.storedText);
     } else {
         SqlMgr::showQueryError(query);

@@ -1,5 +1,6 @@
 #include "procedurerows.h"
 
+#include "keyedstatement.h"
 #include "valuesclause.h"
 
 namespace {
@@ -51,4 +52,13 @@ QStringList procedureStatements(const QList<CFpLinePtr>& lines, const StoredProc
         statements << insertion(procedureRow(*line, number, procedure), procedure.type);
     }
     return statements;
+}
+
+bool isSoundStatement(int place, const QList<CFpLinePtr>& lines, const StoredProcedure& procedure)
+{
+    const auto isSound = [](const QString& value) { return staysQuoted(value, QLatin1Char('\'')); };
+    if (place == 0) {
+        return isSound(procedure.name);
+    }
+    return isSound(procedure.name) && isSound(procedure.airportKey) && isSound(lines.at(place - 1)->iden);
 }

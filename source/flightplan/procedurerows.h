@@ -46,3 +46,6 @@ QStringList procedureRow(const CFpLine& line, int number, const StoredProcedure&
 /// The statements that store a whole plan, the airport included, to be run in their order: first the one that removes
 /// what has the name already, of any airport. Nothing is escaped: an apostrophe in a value spoils its statement.
 QStringList procedureStatements(const QList<CFpLinePtr>& lines, const StoredProcedure& procedure);
+
+/// Whether one of these statements, by its place, is not spoiled: what comes out by chance must not run either.
+bool isSoundStatement(int place, const QList<CFpLinePtr>& lines, const StoredProcedure& procedure);

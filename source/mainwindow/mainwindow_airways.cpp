@@ -3,6 +3,7 @@
 #include "mainwindow.h"
 
 #include "cnavglobalvar.h"
+#include "keyedstatement.h"
 #include "markertitle.h"
 
 #include <QDebug>
@@ -25,7 +26,8 @@ QString labelOfTitle(const QString& title)
 QStringList airwaysThrough(const QString& point, const QString& connection)
 {
     QSqlQuery row(QSqlDatabase::database(connection));
-    row.exec(QStringLiteral(R"(SELECT * FROM ATSROUTE WHERE nvi1 = "%1" OR nvi2 = "%1")").arg(point));
+    runKeyed(row, QStringLiteral(R"(SELECT * FROM ATSROUTE WHERE nvi1 = "%1" OR nvi2 = "%1")").arg(point),
+             staysQuoted(point, QLatin1Char('"')));
     QStringList names;
     while (row.next()) {
         const QString name = row.value(airwayName).toString();
@@ -40,7 +42,8 @@ QStringList airwaysThrough(const QString& point, const QString& connection)
 bool readAirway(const QString& name, const QString& connection)
 {
     QSqlQuery row(QSqlDatabase::database(connection));
-    row.exec(QStringLiteral(R"(SELECT * FROM ATSROUTE WHERE aaid = "%1")").arg(name));
+    runKeyed(row, QStringLiteral(R"(SELECT * FROM ATSROUTE WHERE aaid = "%1")").arg(name),
+             staysQuoted(name, QLatin1Char('"')));
     const bool found = row.first();
     while (row.next()) {
     }

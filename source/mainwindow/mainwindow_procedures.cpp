@@ -133,9 +133,12 @@ void MainWindow::createProcedure(const ProcedureKind& kind)
     const int row = airportRow(kind);
     QSqlQuery query(QSqlDatabase::database(settings->dbRTE));
     OneWait patience(QSqlDatabase::database(settings->dbRTE));
-    const QStringList statements = procedureStatements(flightPlan->lines, {name, planLine(row)->dbKey, kind.type});
-    for (const QString& statement : statements) {
-        patience.exec(query, statement); // one that fails goes unnoticed: the message is the same
+    const StoredProcedure procedure{name, planLine(row)->dbKey, kind.type};
+    const QStringList statements = procedureStatements(flightPlan->lines, procedure);
+    for (int place = 0; place < statements.size(); ++place) {
+        if (isSoundStatement(place, flightPlan->lines, procedure)) {
+            patience.exec(query, statements.at(place)); // one that fails goes unnoticed: the message is the same
+        }
     }
     on_fltplnGrid_cellClicked(row, 1);
     QMessageBox::information(this, tr(kind.storedTitle), tr(kind.stored).arg(name));

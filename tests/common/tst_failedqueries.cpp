@@ -171,6 +171,21 @@ private slots:
         QVERIFY(responder.seen().value(0).text.startsWith(errorStart + "SELECT * FROM RWY WHERE rapt = \"LF\"PO\" "));
     }
 
+    void aKeyThatGoesOnAsSqlIsNotRun()
+    {
+        Sandbox sandbox;
+        sandbox.addRunway();
+        SqlMgr sqlMgr;
+        QSqlQuery query = queryOn(sqlMgr, sandbox, dbfile::gen);
+        BoxResponder responder;
+        responder.expectMessage(errorTitle, errorStart + "SELECT * FROM RWY WHERE rapt = \"X\" OR \"1\"=\"1\" ");
+        QVERIFY(!sqlMgr.getRWY("X\" OR \"1\"=\"1", true, query));
+        responder.expectMessage(errorTitle, errorStart + "DELETE FROM RWY WHERE rapt = \"X\" OR \"1\"=\"1\" ");
+        sqlMgr.delRWY("X\" OR \"1\"=\"1", query);
+        QVERIFY(responder.allUsed());
+        QCOMPARE(sandbox.sqlValue(dbfile::gen, "SELECT count(*) FROM RWY").toInt(), 1);
+    }
+
     void aBoundaryLookupFailsTwiceInTheRouteDatabase()
     {
         Sandbox sandbox;

@@ -24,6 +24,9 @@ private slots:
     void aKeyThatIsNotThereIsNoFailure();
     void aPercentSignInAKeyIsHarmless();
     void aDoubleQuoteInAKeyBreaksTheStatement();
+    void aKeyThatGoesOnAsSqlIsRefused_data();
+    void aKeyThatGoesOnAsSqlIsRefused();
+    void doubledQuotesInAKeyStandForOne();
     void aWrongColumnIsTold();
     void anAcceptedWholeTableMeetsTheStrayParenthesis();
     void aCancelledWholeTableGoesOnWithTheNextLine();
@@ -119,6 +122,36 @@ void TestImportDeletes::aDoubleQuoteInAKeyBreaksTheStatement()
     QVERIFY(world.importToTheEnd("GEN;NAV;-;ukey;A\"1\n" + navaidLine("B1") + '\n'));
     QVERIFY(world.sqlErrors().value(0).startsWith("DELETE FROM NAV WHERE ukey=\"A\"1\" "));
     QCOMPARE(world.column(dbfile::gen, navKeys), QString("A\"1 B1"));
+}
+
+void TestImportDeletes::aKeyThatGoesOnAsSqlIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::newRow("every row") << QByteArray(R"(GEN;NAV;-;ukey;A1" OR "1"="1)");
+    QTest::newRow("a condition for a column") << QByteArray("GEN;NAV;-;1=1 OR ukey;A1");
+    QTest::newRow("a count without an end for a column") << QByteArray(
+        "GEN;NAV;-;(WITH RECURSIVE c(x) AS (SELECT 1 UNION ALL SELECT x+1 FROM c) SELECT max(x) FROM c) OR "
+        "ukey,A1");
+    QTest::newRow("a quote left open for a column") << QByteArray(R"(GEN;NAV;-;";=1 OR 1 --)");
+}
+
+void TestImportDeletes::aKeyThatGoesOnAsSqlIsRefused()
+{
+    QFETCH(QByteArray, line);
+    UpdateWorld world;
+    world.sandbox.addNavaid();
+    world.expectSqlError();
+    QVERIFY(world.importToTheEnd(line.replace(',', ';') + '\n' + navaidLine("B1") + '\n'));
+    QVERIFY(world.sqlErrors().value(0).startsWith("DELETE FROM NAV WHERE "));
+    QCOMPARE(world.column(dbfile::gen, navKeys), QString("B1 RBT"));
+}
+
+void TestImportDeletes::doubledQuotesInAKeyStandForOne()
+{
+    UpdateWorld world;
+    world.sandbox.addNavaid({{"ukey", "A\"1"}});
+    QVERIFY(world.importToTheEnd("GEN;NAV;-;\"ukey\";A\"\"1\n"));
+    QCOMPARE(world.column(dbfile::gen, navKeys), QString());
 }
 
 void TestImportDeletes::aWrongColumnIsTold()

@@ -36,6 +36,7 @@ private slots:
     void osmInTheMiddleTakesOverTheRest();
     void osmReadsUtf8();
     void osmGoesOnAfterAFailure();
+    void osmRunsNoNameThatGoesOnAsSql();
     void osmTakesAnEmptyLineForAnEmptyName();
     void osmWritesToTheLog();
     void osmAtTheEndOfTheFile();
@@ -156,6 +157,16 @@ void TestImportFiles::osmGoesOnAfterAFailure()
     QCOMPARE(world.column(osmFile, idents), QString("l'église way/3"));
     QCOMPARE(world.logged(QtWarningMsg),
              QStringList{"CIODataBase::importDB Error \"DELETE FROM OSM_OBJ WHERE Ident = 'l'église';\""});
+}
+
+void TestImportFiles::osmRunsNoNameThatGoesOnAsSql()
+{
+    UpdateWorld world;
+    makeOsmDatabase(world, {"l'église", "way/1", "way/2"});
+    QVERIFY(world.importToTheEnd("OSM\nOSM_FR.db\nx' OR '1'='1\nl''\xc3\xa9glise\nway/2\n"));
+    QCOMPARE(world.column(osmFile, idents), QString("way/1"));
+    QCOMPARE(world.logged(QtWarningMsg),
+             QStringList{"CIODataBase::importDB Error \"DELETE FROM OSM_OBJ WHERE Ident = 'x' OR '1'='1';\""});
 }
 
 void TestImportFiles::osmTakesAnEmptyLineForAnEmptyName()

@@ -119,6 +119,20 @@ private slots:
         QVERIFY(statements.last().contains("'L'Est10','K','L'Est','10','2','O'B'"));
     }
 
+    void aSpoiledStatementIsNotSound()
+    {
+        const QList<CFpLinePtr> lines{pointAt(0, 0, "A"), pointAt(0, 0, "'||'B"), pointAt(0, 0, "O''B")};
+        const StoredProcedure sound{"NAME", "K", ProcedureType::Sid};
+        QVERIFY(isSoundStatement(0, lines, sound));
+        QVERIFY(isSoundStatement(1, lines, sound));
+        QVERIFY(!isSoundStatement(2, lines, sound));
+        QVERIFY(isSoundStatement(3, lines, sound));
+        QVERIFY(isSoundStatement(0, lines, {"NAME", "K'", ProcedureType::Sid}));
+        QVERIFY(!isSoundStatement(1, lines, {"NAME", "K'", ProcedureType::Sid}));
+        QVERIFY(!isSoundStatement(0, lines, {"NAME' OR '1'='1", "K", ProcedureType::Sid}));
+        QVERIFY(!isSoundStatement(1, lines, {"NAME' OR '1'='1", "K", ProcedureType::Sid}));
+    }
+
     void whatLooksLikeAPlaceToFillStays()
     {
         const QStringList statements = procedureStatements({pointAt(0, 0, "%2")}, {"%1%3", "%4", ProcedureType::Sid});
