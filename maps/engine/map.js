@@ -49,6 +49,8 @@
        * @type {?google.maps.Data.Feature}
        */
       this.pointed = null;
+      /** While a button's event is being told: its longitude in the copy of the world that it met. */
+      this.clickedLongitude = null;
       this.quiet = false;
       this.exactCentre = centre;
       this.leaflet = L.map(element, leafletOptions);

@@ -34,7 +34,12 @@
   }
 
   /**
-   * @param {L.LeafletMouseEvent} leafletEvent
+   * What is asked of Leaflet's events.
+   * @typedef {Pick<L.LeafletMouseEvent, 'latlng' | 'containerPoint' | 'originalEvent'>} Move
+   */
+
+  /**
+   * @param {Move} leafletEvent
    * @return {Handed['MapMouseEvent']}
    */
   function mouseEvent(leafletEvent) {
@@ -46,7 +51,7 @@
 
   /**
    * @param {ChartMap} map
-   * @param {L.LeafletMouseEvent} leafletEvent
+   * @param {Move} leafletEvent
    */
   function featureAt(map, leafletEvent) {
     const scale = engine.tileSize * Math.pow(2, map.getZoom());
@@ -70,10 +75,15 @@
       const leafletEvent = /** @type {L.LeafletMouseEvent} */ (event);
       const zooms = name === 'dblclick' && !map.options.disableDoubleClickZoom;
       const feature = featureAt(map, leafletEvent);
-      if (feature)
-        tell(feature, names[name], mouseEvent(leafletEvent));
-      else
-        maps.event.trigger(map, names[name], mouseEvent(leafletEvent));
+      map.clickedLongitude = leafletEvent.latlng.lng;
+      try {
+        if (feature)
+          tell(feature, names[name], mouseEvent(leafletEvent));
+        else
+          maps.event.trigger(map, names[name], mouseEvent(leafletEvent));
+      } finally {
+        map.clickedLongitude = null;
+      }
       if (zooms)
         zoomAround(map, leafletEvent.originalEvent, true);
     }));
@@ -104,15 +114,36 @@
       enter(map, null, { latLng: left.geometry });
   };
 
-  /** @param {ChartMap} map */
+  /** A view that moves below a still pointer brings it to another place: that is told once a frame. @param {ChartMap} map */
   function listenToMoves(map) {
-    map.leaflet.on('mousemove', leafletEvent => {
-      enter(map, featureAt(map, leafletEvent), mouseEvent(leafletEvent));
-      maps.event.trigger(map, 'mousemove', mouseEvent(leafletEvent));
+    const leaflet = map.leaflet;
+    /** The last move of the mouse, as long as the pointer is on the map. @type {?Move} */
+    let last = null;
+    let pending = 0;
+    function followView() {
+      pending = 0;
+      if (!last)
+        return;
+      const before = last.latlng;
+      const latlng = leaflet.containerPointToLatLng(last.containerPoint);
+      last = { latlng: latlng, containerPoint: last.containerPoint, originalEvent: last.originalEvent };
+      enter(map, featureAt(map, last), mouseEvent(last));
+      if (!latlng.equals(before, 0))
+        maps.event.trigger(map, 'mousemove', mouseEvent(last));
+    }
+    leaflet.on('mousemove', leafletEvent => {
+      last = leafletEvent;
+      enter(map, featureAt(map, last), mouseEvent(last));
+      maps.event.trigger(map, 'mousemove', mouseEvent(last));
     });
-    map.leaflet.on('mouseout', leafletEvent => {
+    leaflet.on('mouseout', leafletEvent => {
+      last = null;
       enter(map, null, mouseEvent(leafletEvent));
       maps.event.trigger(map, 'mouseout', mouseEvent(leafletEvent));
+    });
+    leaflet.on('move', () => {
+      if (last && !pending)
+        pending = window.requestAnimationFrame(followView);
     });
   }
 

@@ -78,6 +78,4 @@
   document.addEventListener('mousedown', () => page.pointAt(null), true);
   ['wheel', 'keydown'].forEach(name => document.addEventListener(name, hide, true));
   window.addEventListener('blur', hide);
-  google.maps.event.addListener(map, 'center_changed', hide);
-  google.maps.event.addListener(map, 'zoom_changed', hide);
 })();

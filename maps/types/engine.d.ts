@@ -270,6 +270,8 @@ interface MapParts {
   chart: Canvas;
   ground?: LinesHome;
   pointed: google.maps.Data.Feature | null;
+  /** While a button's event is being told, its longitude in the copy of the world that it met; else null. */
+  clickedLongitude: number | null;
 }
 
 interface LayerParts {
@@ -327,6 +329,7 @@ interface MapEngine {
   unitY(latitude: number): number;
   longitudeOf(x: number): number;
   latitudeOf(y: number): number;
+  longitudeNear(longitude: number, other: number): number;
   isFinitePosition(position: unknown): position is LatLng;
 
   frameOf(context: CanvasRenderingContext2D, area: Area): Frame;

@@ -36,6 +36,13 @@ private slots:
     void aFloodOfDragsIsOneReportAFrame();
     void leavingTheMapEmptiesTheReport();
     void theLastCentreOfADragIsReported();
+    void aViewThatMovesBelowTheMouseIsReported_data();
+    void aViewThatMovesBelowTheMouseIsReported();
+    void aViewThatMovesWithoutTheMouseIsNot();
+    void theViewsMovesAreOneReportAFrame();
+    void aMapThatFollowsShowsTheBox();
+    void aMarkerThatComesToThePointerShowsItsBox();
+    void aWindowInTheBackgroundHasNoBox();
 
 private:
     QScopedPointer<ProgramSide> program;
@@ -289,6 +296,111 @@ void TestPageHover::theLastCentreOfADragIsReported()
     QCOMPARE(program->calls("doCenter").last(), centreNow);
     window->settle();
     QCOMPARE(program->calls("doCenter").last(), centreNow);
+}
+
+void TestPageHover::aViewThatMovesBelowTheMouseIsReported_data()
+{
+    QTest::addColumn<QString>("way");
+    for (const char* way : {"key", "centre", "zoom", "following"})
+        QTest::newRow(way) << way;
+}
+
+void TestPageHover::aViewThatMovesBelowTheMouseIsReported()
+{
+    QFETCH(QString, way);
+    const auto isOver = [this] {
+        return window->run("document.getElementById('chart').classList.contains('over-point')").toBool();
+    };
+    rest(airport);
+    QTRY_VERIFY_WITH_TIMEOUT(program->calls("doData").last().endsWith("Aéroport LFLX\""), 20000);
+    QVERIFY(isOver());
+    program->clear();
+    if (way == "key")
+        window->pressKey(Qt::Key_Right);
+    else if (way == "centre")
+        window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.30000));");
+    else if (way == "zoom")
+        window->run("map.setZoom(9)");
+    else
+        window->run(
+            "addAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),\"\",90);setAcftMrkr(new "
+            "google.maps.LatLng(46.70000, 2.60000),90);;map.setCenter(new google.maps.LatLng(46.70000, 2.60000));");
+    QTRY_VERIFY_WITH_TIMEOUT(!isOver(), 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(!program->calls("doData").isEmpty(), 20000);
+    window->settle();
+    // The place that is below the pointer now, and nothing on it.
+    const QPoint place = pixel(*window, airport);
+    QVERIFY(program->calls("doData").last().endsWith(" E\""));
+    program->clear();
+    // The marker goes back below it.
+    if (way == "key")
+        window->pressKey(Qt::Key_Left);
+    else
+        window->run("map.setZoom(8);map.setCenter(new google.maps.LatLng(46.70000, 2.30000));");
+    QTRY_VERIFY_WITH_TIMEOUT(
+        program->calls("doData").value(0) != "" && program->calls("doData").last().endsWith("Aéroport LFLX\""), 20000);
+    QVERIFY(isOver());
+    QVERIFY(pixel(*window, airport) != place);
+}
+
+void TestPageHover::aViewThatMovesWithoutTheMouseIsNot()
+{
+    rest(airport);
+    // Out of the window.
+    window->mouse->moveTo({-20, 300});
+    QTRY_COMPARE_WITH_TIMEOUT(program->calls("doData").last(), QString("doData \"\""), 20000);
+    program->clear();
+    window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.30000));");
+    window->settle();
+    QCOMPARE(program->calls("doData"), QStringList());
+}
+
+void TestPageHover::theViewsMovesAreOneReportAFrame()
+{
+    rest(airport);
+    window->settle();
+    holdFrames();
+    program->clear();
+    for (int i = 0; i < 50; ++i)
+        window->run(QString("map.setCenter(new google.maps.LatLng(46.%1, 2.30000));").arg(50 + i));
+    QCOMPARE(program->calls("doData").size(), 0);
+    nextFrame();
+    QCOMPARE(program->calls("doData").size(), 1);
+}
+
+void TestPageHover::aMapThatFollowsShowsTheBox()
+{
+    rest(airport);
+    // An aircraft that stands still, or hardly moves: the map follows it all the same, ten times a second.
+    window->run("var ticks = setInterval(function () {"
+                "map.setCenter(new google.maps.LatLng(46.70000, 2.30000)); }, 20)");
+    QTRY_VERIFY_WITH_TIMEOUT(isShown(), 20000);
+    QCOMPARE(lines().first(), "Aéroport LFLX");
+    QTest::qWait(200);
+    QVERIFY(isShown());
+    // It takes off.
+    window->run("clearInterval(ticks);map.setCenter(new google.maps.LatLng(46.70000, 2.60000));");
+    QTRY_VERIFY_WITH_TIMEOUT(!isShown(), 20000);
+}
+
+void TestPageHover::aMarkerThatComesToThePointerShowsItsBox()
+{
+    const QPoint place = pixel(*window, airport);
+    window->run("map.setCenter(new google.maps.LatLng(46.70000, 2.60000));");
+    window->mouse->moveTo({5, 300});
+    window->mouse->moveTo(place);
+    QTest::qWait(500);
+    QVERIFY(!isShown());
+    window->run("map.setCenter(new google.maps.LatLng(46.70000, 2.30000));");
+    QTRY_VERIFY_WITH_TIMEOUT(isShown(), 20000);
+}
+
+void TestPageHover::aWindowInTheBackgroundHasNoBox()
+{
+    rest(airport);
+    QTRY_VERIFY_WITH_TIMEOUT(isShown(), 20000);
+    window->run("window.dispatchEvent(new Event('blur'))");
+    QVERIFY(!isShown());
 }
 
 QTEST_MAIN(TestPageHover)
