@@ -15,9 +15,13 @@
       this.options = Object.assign({ content: '' }, options);
       /** @type {?google.maps.Map} */
       this.map = null;
+      /** Where it stands, in the copy of the world of the view. */
+      this.longitude = 0;
       this.popup = L.popup({
         autoPanPadding: [10, 10],
         maxWidth: 340,
+        // What is longer can be scrolled.
+        maxHeight: 320,
         offset: [0, -2],
         // Who opens it closes it; by itself only its cross does.
         closeOnClick: false,
@@ -25,6 +29,7 @@
       });
       this.closing = false;
       this.popup.on('remove', () => {
+        this.leave();
         if (!this.closing)
           maps.event.trigger(this, 'closeclick');
       });
@@ -54,12 +59,47 @@
       const position = this.options.position;
       if (!map || !engine.isFinitePosition(position))
         return;
+      this.leave();
       this.map = map;
-      const centre = map.leaflet.getCenter().lng;
-      this.popup.setLatLng([position.lat(), position.lng() + 360 * Math.round((centre - position.lng()) / 360)]);
+      // Where a view shows several copies of the world, in that of the click.
+      const near = map.clickedLongitude === null ? map.leaflet.getCenter().lng : map.clickedLongitude;
+      this.longitude = engine.longitudeNear(position.lng(), near);
+      this.popup.setLatLng([position.lat(), this.longitude]);
       this.popup.setContent(/** @type {string|HTMLElement} */ (this.options.content));
       this.popup.openOn(map.leaflet);
       this.nameCross();
+      this.passWheel();
+      map.leaflet.on('moveend', this.follow, this);
+    }
+
+    /** A view that has left the pop-up's copy of the world takes it along into its own. */
+    follow() {
+      const leaflet = this.map.leaflet;
+      const bounds = leaflet.getBounds();
+      const position = this.getPosition();
+      const wanted = engine.longitudeNear(position.lng(), leaflet.getCenter().lng);
+      const isInView = this.longitude >= bounds.getWest() && this.longitude <= bounds.getEast();
+      if (isInView || wanted === this.longitude)
+        return;
+      this.longitude = wanted;
+      // The user has moved the view: it stays where it is.
+      this.popup.options.autoPan = false;
+      this.popup.setLatLng([position.lat(), wanted]);
+      this.popup.options.autoPan = true;
+    }
+
+    leave() {
+      if (this.map)
+        this.map.leaflet.off('moveend', this.follow, this);
+    }
+
+    /** Leaflet keeps the wheel from the map; here a pop-up keeps it only when it has something to scroll. */
+    passWheel() {
+      /** @type {HTMLElement} */
+      const content = this.popup.getElement().querySelector('.leaflet-popup-content');
+      L.DomEvent.off(content, 'wheel', L.DomEvent.stopPropagation);
+      if (content.classList.contains('leaflet-popup-scrolled'))
+        L.DomEvent.on(content, 'wheel', L.DomEvent.stopPropagation);
     }
 
     /** Leaflet names the cross in English. */
@@ -71,6 +111,7 @@
     close() {
       if (!this.map)
         return;
+      this.leave();
       this.closing = true;
       this.map.leaflet.closePopup(this.popup);
       this.closing = false;

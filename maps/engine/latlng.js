@@ -44,6 +44,12 @@
     }
   }
 
+  /**
+   * The longitude in the copy of the world in which it lies nearest to another.
+   * @type {(longitude: number, other: number) => number}
+   */
+  engine.longitudeNear = (longitude, other) => longitude + 360 * Math.round((other - longitude) / 360);
+
   /** A place in pixels. */
   class Point {
     /**

@@ -151,10 +151,9 @@
     place() {
       if (!this.pin || this.dragged)
         return;
-      const centre = this.map.leaflet.getCenter().lng;
       const position = this.getPosition();
-      const longitude = position.lng();
-      this.pin.setLatLng([position.lat(), longitude + 360 * Math.round((centre - longitude) / 360)]);
+      const longitude = engine.longitudeNear(position.lng(), this.map.leaflet.getCenter().lng);
+      this.pin.setLatLng([position.lat(), longitude]);
     }
 
     showTitle() {

@@ -18,8 +18,7 @@
      * @return {L.LatLngTuple}
      */
     near(position) {
-      const centre = this.leaflet.getCenter().lng;
-      return [position.lat(), position.lng() + 360 * Math.round((centre - position.lng()) / 360)];
+      return [position.lat(), engine.longitudeNear(position.lng(), this.leaflet.getCenter().lng)];
     }
 
     /** @param {google.maps.LatLng} position */
