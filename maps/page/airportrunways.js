@@ -12,7 +12,7 @@
 
   /** @type {(from: Place, to: Place) => RunwayEnd} */
   const between = (from, to) => ({
-    east: (to.lng() - from.lng()) * Math.cos(from.lat() * Math.PI / 180),
+    east: page.degreesEast(from, to) * Math.cos(from.lat() * Math.PI / 180),
     south: from.lat() - to.lat(),
   });
 
@@ -64,7 +64,7 @@
   page.noteRunway = function (highEnd, lowEnd) {
     if (!page.isPlace(highEnd) || !page.isPlace(lowEnd))
       return;
-    const middle = new google.maps.LatLng((highEnd.lat() + lowEnd.lat()) / 2, (highEnd.lng() + lowEnd.lng()) / 2);
+    const middle = page.midPoint(highEnd, lowEnd);
     const airport = airportAt(middle);
     if (!airport)
       return;

@@ -113,8 +113,7 @@
     /** @type {(a: Place, b: Place) => boolean} */
     const areApart = (a, b) => {
       const north = (a.lat() - b.lat()) / Math.max(0.01, Math.cos(a.lat() * Math.PI / 180));
-      const east = Math.abs(a.lng() - b.lng());
-      return Math.hypot(north, Math.min(east, 360 - east)) * pixelsPerDegree >= least;
+      return Math.hypot(north, page.degreesEast(a, b)) * pixelsPerDegree >= least;
     };
     return markers.filter(marker => {
       const place = marker.position;

@@ -14,7 +14,6 @@
   const wideCell = 0.1;
   const nearZoom = 9.5;
   const nearCell = 0.0125;
-  const columns = 100000;
 
   /**
    * The airports that are shown, by cells of a width; null: to be sorted when somebody asks.
@@ -25,12 +24,18 @@
   /** @type {(degrees: number, width: number) => number} the row or column of cells of a latitude or longitude */
   const lineOf = (degrees, width) => Math.floor(degrees / width);
 
+  /** The number of a cell; the column in any copy of the world. @type {(row: number, column: number, width: number) => number} */
+  function keyOf(row, column, width) {
+    const columns = Math.round(360 / width);
+    return row * columns + (column % columns + columns) % columns;
+  }
+
   /** @param {number} width */
   function sorted(width) {
     /** @type {Map<number, Place[]>} */
     const places = new Map();
     (ArptMgr ? ArptMgr.markers() : []).forEach(marker => {
-      const key = lineOf(marker.position.lat(), width) * columns + lineOf(marker.position.lng(), width);
+      const key = keyOf(lineOf(marker.position.lat(), width), lineOf(marker.position.lng(), width), width);
       const there = places.get(key);
       if (there)
         there.push(marker.position);
@@ -44,7 +49,7 @@
   function isNear(a, b, zoom) {
     const pixels = 256 * Math.pow(2, zoom) / 360;
     const north = a.lat() - b.lat();
-    const east = a.lng() - b.lng();
+    const east = page.degreesEast(a, b);
     // Nearly all are told apart by this; the cosine takes longer.
     if (Math.max(Math.abs(north), Math.abs(east)) * pixels > nearPixels)
       return false;
@@ -60,10 +65,10 @@
     if (!cells || cells.width !== width)
       cells = sorted(width);
     const places = cells.places;
-    const middle = lineOf(marker.position.lat(), width) * columns + lineOf(marker.position.lng(), width);
+    const middle = { row: lineOf(marker.position.lat(), width), column: lineOf(marker.position.lng(), width) };
     const steps = [-1, 0, 1];
-    return steps.some(row => steps.some(column =>
-      (places.get(middle + row * columns + column) || []).some(airport => isNear(airport, marker.position, zoom))));
+    return steps.some(row => steps.some(column => (places.get(keyOf(middle.row + row, middle.column + column, width)) || [])
+      .some(airport => isNear(airport, marker.position, zoom))));
   };
 
   /** Has to be called after airports have come or gone. */
