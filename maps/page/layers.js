@@ -23,7 +23,7 @@ var WPTVfrMgr = null;
 
   /** How all markers look at the map's zoom. @type {?Looks} */
   let looks = null;
-  /** The marker that the user has clicked: it is drawn in full. @type {?ChartMarker} */
+  /** The marker whose pop-up is open: it is drawn in full. @type {?ChartMarker} */
   let chosen = null;
   const chosenHeight = 58;
 
@@ -125,7 +125,7 @@ var WPTVfrMgr = null;
       this.layer = new google.maps.Data();
       this.dress();
       page.listenToLayer(this.layer);
-      this.layer.addListener('click', event => page.choose(event.feature.getProperty('marker')));
+      page.closeLostPopup();
       this.fitOthers();
     }
 
@@ -154,7 +154,7 @@ var WPTVfrMgr = null;
   /** Whether names, and not identifiers alone, stand beside the symbols of a kind. */
   page.hasNames = symbol => !!looks && looks.hasNames(symbol);
 
-  /** Draws a marker in full as the one that the user has clicked; null for none. */
+  /** Draws a marker in full as the one whose pop-up is open; null for none. */
   page.choose = function (marker) {
     if (marker === chosen)
       return;
@@ -179,7 +179,6 @@ var WPTVfrMgr = null;
 
   page.onPalette(page.fitLooks);
   google.maps.event.addListener(map, 'zoom_changed', page.fitLooks);
-  google.maps.event.addListener(map, 'click', () => page.choose(null));
 
   /** Each list with the one who shows it; the manager is made when it is needed before the feed has made it. */
   page.layers = [

@@ -73,7 +73,6 @@
     const made = new google.maps.Data();
     made.setStyle(lookOf);
     page.listenToLayer(made);
-    made.addListener('click', event => page.choose(event.feature.getProperty('marker')));
     return made;
   }
 
@@ -124,6 +123,7 @@
     page.dressLayers();
     page.fitRoses();
     page.procedure.dressPoints();
+    page.closeLostPopup();
   };
 
   /**

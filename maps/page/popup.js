@@ -5,6 +5,7 @@
   const infoWindow = new google.maps.InfoWindow();
   /** @type {?ChartMarker} */
   let shown = null;
+  let pending = 0;
 
   /** What the program's texts are made of. Anything else in them came with a name and is shown as its text. */
   const allowed = ['B', 'BR', 'FONT', 'I', 'U'];
@@ -61,6 +62,7 @@
     infoWindow.setPosition(marker.position);
     infoWindow.open(map);
     shown = marker;
+    page.choose(marker);
   };
 
   /** The marker whose pop-up is open, or null. */
@@ -72,11 +74,22 @@
       return;
     shown = null;
     infoWindow.close();
+    page.choose(null);
+  };
+
+  /**
+   * Closes the pop-up of a marker that is no more on the map, as soon as the program's scripts have come to their end:
+   * they often take something away to draw it anew.
+   */
+  page.closeLostPopup = function () {
+    if (shown && !pending)
+      pending = window.requestAnimationFrame(() => {
+        pending = 0;
+        if (shown && !page.layers.some(layer => layer.list.indexOf(shown) >= 0 && layer.manager().draws(shown)))
+          page.closePopup();
+      });
   };
 
   google.maps.event.addListener(map, 'click', () => page.closePopup());
-  google.maps.event.addListener(infoWindow, 'closeclick', () => {
-    shown = null;
-    page.choose(null);
-  });
+  google.maps.event.addListener(infoWindow, 'closeclick', () => page.closePopup());
 })();

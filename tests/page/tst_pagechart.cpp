@@ -34,7 +34,9 @@ private slots:
     void runwaysShowInTheSymbolOfTheirAirport();
     void runwaysShowInAnAirportOfThePlan();
     void aRunwayFarFromAllAirportsChangesNone();
+    void aRunwayAcross180DegreesIsThatOfItsAirport();
     void aVorOnAnAirportIsDrawnAroundIt();
+    void aVorOnAnAirportAcross180DegreesIsDrawnAroundIt();
     void aRoseStandsAroundAVorFromNear();
     void ofTwoRosesThatOverlapOneIsDrawn();
     void rosesFollowTheSwitchOfTheirLayer();
@@ -518,7 +520,8 @@ void TestPageChart::theClickedMarkerIsNamedFromAfar()
     window->run("map.setZoom(5)");
     const QImage before = pictureAround(46.5, 2.5, 50);
     window->click(46.5, 2.5);
-    window->run("page.closePopup()");
+    // Its pop-up lies over it.
+    window->run("document.querySelector('.leaflet-popup').style.visibility = 'hidden'");
     const QImage chosen = pictureAround(46.5, 2.5, 50);
     QVERIFY(chosen != before);
     QVERIFY(ink(46.5, 2.5, navaidColour, 50) > 60);
@@ -602,6 +605,36 @@ void TestPageChart::aCopiedLookKeepsItsLabel()
                 "ArptMgr.layer.forEach(point => { ArptMgr.layer.dress(point); look = point.look; });");
     QCOMPARE(window->run("look.zIndex").toInt(), 7);
     QCOMPARE(window->run("look.label.text").toString(), QString("LFXX"));
+}
+
+void TestPageChart::aRunwayAcross180DegreesIsThatOfItsAirport()
+{
+    window->run("map.setCenter(new google.maps.LatLng(46.50000,179.99000));");
+    for (double longitude : {179.99, -179.99}) {
+        window->run(QString("listApt.length = 0;addAPTMarker(new google.maps.LatLng(46.50000,%1),\"LFLX\",1,\"x\");"
+                            "pushAPT();")
+                        .arg(longitude));
+        window->run("drawRwy(new google.maps.LatLng(46.50000,179.98000),new google.maps.LatLng(46.50000,-179.98000));"
+                    "clearRunway();");
+        // From west to east, a good deal longer than wide.
+        const QVariantList ends =
+            window->run("var runway = Array.from(listApt[0].runways.values())[0]; [runway[0].east, runway[1].east]")
+                .toList();
+        QCOMPARE(ends.size(), 2);
+        const double length = ends.value(1).toDouble() - ends.value(0).toDouble();
+        QVERIFY2(length > 0.02 && length < 0.04, qPrintable(QString::number(length)));
+    }
+}
+
+void TestPageChart::aVorOnAnAirportAcross180DegreesIsDrawnAroundIt()
+{
+    window->run("map.setCenter(new google.maps.LatLng(46.50000,179.99900));");
+    addVor("ABC", 46.5, 179.999);
+    showVors();
+    // The airport is a third of a pixel away, in the next degree.
+    QVERIFY(!window->run("page.isUnderAirport(listVOR[0], 8)").toBool());
+    window->run("addAPTMarker(new google.maps.LatLng(46.50000,-179.99900),\"LFLX\",1,\"x\");pushAPT();");
+    QVERIFY(window->run("page.isUnderAirport(listVOR[0], 8)").toBool());
 }
 
 QTEST_MAIN(TestPageChart)

@@ -24,6 +24,13 @@ private slots:
     void aDeletedMarkerTakesItsPopUpAlong();
     void ofCoincidingMarkersTheUpperOneAnswers();
     void aPopUpNearTheEdgeComesIntoView();
+    void aPopUpFollowsTheViewAcross180Degrees();
+    void aPopUpOpensInTheCopyOfTheWorldThatIsClicked();
+    void theWheelOverAPopUpZooms();
+    void aLongPopUpKeepsTheWheel();
+    void aHiddenLayerTakesThePopUpAlong();
+    void aPlannedMarkerKeepsItsPopUpWithoutItsLayer();
+    void aLongNameIsBroken();
     void hostileTextNeitherLoadsNorRuns_data();
     void hostileTextNeitherLoadsNorRuns();
 
@@ -169,6 +176,132 @@ void TestPagePopup::hostileTextNeitherLoadsNorRuns()
                   "a, .popup-text style, .popup-text [style], .popup-text [onclick]').length")
             .toInt(),
         0);
+}
+
+void TestPagePopup::aPopUpFollowsTheViewAcross180Degrees()
+{
+    window->run("map.setCenter(new google.maps.LatLng(46.50000,179.50000));");
+    addAirport(46.5, 179.8, "NFAA", "<b>A</b>");
+    const auto left = [this] {
+        return window
+            ->run("var box = document.querySelector('.leaflet-popup').getBoundingClientRect(); (box.left + box.right) "
+                  "/ 2")
+            .toDouble();
+    };
+    window->click(46.5, 179.8);
+    QCOMPARE(window->popupText(), "A");
+    // 182 pixels a degree at this zoom.
+    QVERIFY(qAbs(left() - (400 + 0.3 * 182)) < 3);
+    window->run("map.setCenter(new google.maps.LatLng(46.50000,-179.50000));");
+    QTRY_VERIFY_WITH_TIMEOUT(qAbs(left() - (400 - 0.7 * 182)) < 3, 20000);
+    // Nobody else has moved the view.
+    QCOMPARE(window->run("map.getCenter().lng()").toDouble(), -179.5);
+    window->run("map.setCenter(new google.maps.LatLng(46.50000,179.50000));");
+    QTRY_VERIFY_WITH_TIMEOUT(qAbs(left() - (400 + 0.3 * 182)) < 3, 20000);
+    QCOMPARE(window->popupText(), "A");
+}
+
+void TestPagePopup::aPopUpOpensInTheCopyOfTheWorldThatIsClicked()
+{
+    window->resize(1500, 600);
+    window->view->resize(1500, 600);
+    QTRY_COMPARE_WITH_TIMEOUT(window->run("innerWidth").toInt(), 1500, 20000);
+    // A world is 1024 pixels wide.
+    window->run("map.setCenter(new google.maps.LatLng(20.00000, 0.00000));map.setZoom(2)");
+    addAirport(20, 150, "LFAA", "<b>A</b>");
+    // From so far away only points of the plan are drawn.
+    window->run("addPointToFp(new google.maps.LatLng(20.00000,150.00000),\"LFAA\");pushFP();");
+    window->settle();
+    const int first = window->mouse->pointOf(20, 150).x();
+    for (int place : {first, first - 1024, first}) {
+        window->mouse->click({place, 300});
+        QCOMPARE(window->popupText(), "A");
+        const double middle = window
+                                  ->run("var box = document.querySelector('.leaflet-popup').getBoundingClientRect(); "
+                                        "(box.left + box.right) / 2")
+                                  .toDouble();
+        QVERIFY2(qAbs(middle - place) < 3, qPrintable(QString("%1 for %2").arg(middle).arg(place)));
+        // A view that shows it still leaves it where it is.
+        window->run("map.setCenter(new google.maps.LatLng(20.00000, 5.00000));"
+                    "map.setCenter(new google.maps.LatLng(20.00000, 0.00000));");
+        QCOMPARE(window
+                     ->run("var box = document.querySelector('.leaflet-popup').getBoundingClientRect();"
+                           "Math.round((box.left + box.right) / 2)")
+                     .toInt(),
+                 qRound(middle));
+        window->mouse->click({750, 550});
+    }
+}
+
+void TestPagePopup::theWheelOverAPopUpZooms()
+{
+    addAirport(46.5, 2.5, "LFAA", "<b>A</b><br/>second");
+    window->click(46.5, 2.5);
+    const QVariantList place = window
+                                   ->run("var box = document.querySelector('.popup-text').getBoundingClientRect();"
+                                         "[(box.left + box.right) / 2, (box.top + box.bottom) / 2]")
+                                   .toList();
+    window->mouse->wheel({place.value(0).toInt(), place.value(1).toInt()}, 120);
+    QTRY_COMPARE_WITH_TIMEOUT(window->run("map.getZoom()").toDouble(), 9.0, 20000);
+}
+
+void TestPagePopup::aLongPopUpKeepsTheWheel()
+{
+    addAirport(46.5, 2.5, "LFAA", QString("line<br/>").repeated(100));
+    window->click(46.5, 2.5);
+    const QString content = "document.querySelector('.leaflet-popup-content')";
+    QTRY_VERIFY_WITH_TIMEOUT(window->run(content + ".getBoundingClientRect().top").toDouble() >= 0, 20000);
+    QVERIFY(window->run(content + ".scrollHeight > " + content + ".clientHeight").toBool());
+    const QVariantList place =
+        window->run("var box = " + content + ".getBoundingClientRect(); [box.left + 20, (box.top + box.bottom) / 2]")
+            .toList();
+    window->mouse->wheel({place.value(0).toInt(), place.value(1).toInt()}, -120);
+    QTRY_VERIFY_WITH_TIMEOUT(window->run(content + ".scrollTop").toInt() > 0, 20000);
+    QCOMPARE(window->run("map.getZoom()").toDouble(), 8.0);
+}
+
+void TestPagePopup::aHiddenLayerTakesThePopUpAlong()
+{
+    addAirport(46.5, 2.5, "LFAA", "<b>A</b>");
+    window->click(46.5, 2.5);
+    // Hidden and shown again in one batch: the marker has not gone.
+    window->run("ArptMgr.clearMarkers();ArptMgr.addMarkers(listApt)");
+    window->settle();
+    QCOMPARE(window->popupText(), "A");
+    window->run("ArptMgr.clearMarkers()");
+    QTRY_COMPARE_WITH_TIMEOUT(window->popupText(), QString(), 20000);
+    // The menu's key has no hidden marker to offer.
+    window->pressKey(Qt::Key_Menu);
+    QVERIFY(!window->menuEntries().contains("Afficher les pistes"));
+}
+
+void TestPagePopup::aPlannedMarkerKeepsItsPopUpWithoutItsLayer()
+{
+    addAirport(46.5, 2.5, "LFAA", "<b>Airport LFAA</b>");
+    const QString plan = "clearFP();addPointToFp(new google.maps.LatLng(46.50000, 2.50000),\"LFAA\");pushFP();";
+    window->run(plan);
+    window->settle();
+    window->click(46.5, 2.5);
+    window->run("ArptMgr.clearMarkers()");
+    window->run(plan);
+    window->settle();
+    QCOMPARE(window->popupText(), "Airport LFAA");
+    window->run("clearFP()");
+    QTRY_COMPARE_WITH_TIMEOUT(window->popupText(), QString(), 20000);
+}
+
+void TestPagePopup::aLongNameIsBroken()
+{
+    addAirport(46.5, 2.5, "LFAA", "<b>Airport " + QString(150, 'W') + "</b><br/>second");
+    window->menuAt(46.5, 2.5);
+    const QString isWhole = "var box = document.querySelector('%1'); box.scrollWidth <= box.clientWidth";
+    QVERIFY(window->run(isWhole.arg("#menu")).toBool());
+    QVERIFY(window->run(isWhole.arg("#menu .menu-head")).toBool());
+    window->closeMenu();
+    window->mouse->moveTo({5, 300});
+    window->mouse->moveTo(window->mouse->pointOf(46.5, 2.5));
+    QTRY_VERIFY_WITH_TIMEOUT(!window->run("document.getElementById('tooltip').hidden").toBool(), 20000);
+    QVERIFY(window->run(isWhole.arg("#tooltip")).toBool());
 }
 
 QTEST_MAIN(TestPagePopup)
