@@ -5,31 +5,40 @@
   /** Two markers of one point, such as a VOR and the waypoint on it, lie within this many degrees. */
   const samePoint = 0.0005;
   const userPointStem = 'WPT';
-  /** The menu names so many of the markers of one place; a nearer view tells the rest apart. */
+  /** The menu names so many of the markers of one place; a submenu holds the others. */
   const mostMarkers = 8;
 
   /**
-   * The title of a marker of a family at the place of another marker; empty without one.
+   * The title of a marker of a family at the place of another marker, for the airways; empty without one.
    * @type {(place: Place, family: MarkerFamily) => string}
    */
   function titleAt(place, family) {
     let title = '';
     page.layers.forEach(layer => layer.list.forEach(marker => {
       if (!title && marker.family === family && page.areClose(marker.position, place, samePoint))
-        title = marker.title;
+        title = airwayTitle(marker);
     }));
     return title;
   }
+
+  /**
+   * The title by which airways are asked. They know a navaid by its identifier, for which an edit puts the name into the
+   * marker's own title.
+   * @param {ChartMarker} marker
+   */
+  const airwayTitle = marker =>
+    (marker.family === 'navaid' ? `${page.identOf(marker)}-${marker.tail()}` : marker.title);
 
   /**
    * Airways are found by a waypoint's name first and by the navaid's at the same point after it.
    * @param {ChartMarker} marker
    */
   function askAirways(marker) {
+    const title = airwayTitle(marker);
     if (marker.family === 'waypoint')
-      page.call('sATS', marker.title, titleAt(marker.position, 'navaid'));
+      page.call('sATS', title, titleAt(marker.position, 'navaid'));
     else
-      page.call('sATS', titleAt(marker.position, 'waypoint') || marker.title, marker.title);
+      page.call('sATS', titleAt(marker.position, 'waypoint') || title, title);
   }
 
   /**
@@ -56,7 +65,8 @@
     word: word,
     slots: [slot],
     problem: keyProblem,
-    run: marker => page.call(slot, marker.title, marker.position.lat(), marker.position.lng()),
+    run: marker => page.whileEditing(marker,
+      () => page.call(slot, marker.title, marker.position.lat(), marker.position.lng())),
   });
   /** @type {(word: string, slot: string, text: string) => Command<Place>} */
   const here = (word, slot, text) => ({
@@ -76,8 +86,8 @@
   const centreMarker = { word: 'centreHere', slots: [], run: marker => map.setCenter(marker.position) };
 
   /**
-   * The words are keys of the page's language. An entry is there when the program has all its slots and `wanted` does not
-   * say no; with a `problem` it is greyed.
+   * The words are keys of the page's language. An entry is there when the program has all its slots; with a `problem` it
+   * is greyed.
    * @type {Record<MarkerFamily, Command<ChartMarker>[]>}
    */
   const markerCommands = {
@@ -133,8 +143,7 @@
     {
       word: 'clearTrail',
       slots: [],
-      wanted: () => !!page.clearTrail,
-      problem: () => (!page.hasTrail || page.hasTrail() ? '' : pageWords.noTrail),
+      problem: () => (page.hasTrail() ? '' : pageWords.noTrail),
       run: () => page.clearTrail(),
     },
   ];
@@ -142,7 +151,7 @@
   /** @type {<Subject>(commands: Command<Subject>[], subject: Subject) => MenuEntry[]} */
   function entriesFor(commands, subject) {
     return commands
-      .filter(command => command.slots.every(page.offers) && (!command.wanted || command.wanted()))
+      .filter(command => command.slots.every(page.offers))
       .map(command => ({
         text: pageWords[command.word],
         reason: command.problem ? command.problem(subject) : '',
@@ -190,9 +199,13 @@
    */
   function openForSeveral(markers, place, at) {
     const shown = page.shorten(markers, mostMarkers);
-    const rest = markers.length - shown.length;
-    const more = rest ? [{ text: pageWords.moreHere.replace('%1', String(rest)), reason: pageWords.zoomIn }] : [];
+    const rest = markers.slice(shown.length);
     const title = { head: pageWords.severalHere.replace('%1', String(markers.length)), lines: [page.positionText(place)] };
+    const more = rest.length ? [{
+      text: pageWords.moreHere.replace('%1', String(rest.length)),
+      title: title,
+      submenu: rest.map(submenuOf),
+    }] : [];
     page.openMenu(title, grouped(shown.map(submenuOf).concat(more), entriesOfPlace(place)), at);
   }
 

@@ -6,6 +6,19 @@ var theLast = null;
 (function () {
   'use strict';
 
+  /** The marker whose row the program's dialog shows now: the dialog ends before the call of its slot returns. */
+  /** @type {?ChartMarker} */
+  let edited = null;
+
+  page.whileEditing = function (marker, call) {
+    edited = marker;
+    try {
+      call();
+    } finally {
+      edited = null;
+    }
+  };
+
   /** @param {ChartMarker} marker @return {?ChartLayer} the layer that holds a marker */
   function layerOf(marker) {
     return page.layers.find(layer => layer.list.indexOf(marker) >= 0) || null;
@@ -21,12 +34,20 @@ var theLast = null;
     page.closePopup(marker);
   }
 
+  /**
+   * Whether a marker takes the place of the one that is being edited. Of that one it is known that the row is the same if
+   * the keys may be, whatever the names before them hold.
+   * @type {(marker: ChartMarker, other: ChartMarker) => boolean}
+   */
+  const replacesEdited = (marker, other) =>
+    other === edited && other.family === marker.family && other.tail() === marker.tail();
+
   /** An edited row comes again under its key: its former marker goes. @param {ChartMarker} marker */
   function takePredecessor(marker) {
     /** @type {?ChartMarker} */
     let found = null;
     page.layers.forEach(layer => layer.list.forEach(other => {
-      if (other !== marker && marker.isSameRow(other))
+      if (other !== marker && (marker.isSameRow(other) || replacesEdited(marker, other)))
         found = other;
     }));
     if (found)

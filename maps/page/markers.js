@@ -73,15 +73,17 @@ var listWptVfr = [];
     }
 
     /**
-     * Whether two markers stand for the same row. A navaid's key holds no "-", so it is the tail whatever the name. A
+     * Whether two markers stand for the same row. Equal titles hold equal keys, be they empty. A navaid's key holds no "-", so it is the tail whatever the name. A
      * waypoint's key begins with the name's first letters and may hold one: then only the whole title tells.
      * @param {ChartMarker} other
      */
     isSameRow(other) {
-      if (other.family !== this.family || !this.tail() || this.tail() !== other.tail())
+      if (other.family !== this.family || this.family === page.families.airport)
         return false;
-      return this.family !== page.families.waypoint || this.title === other.title
-        || (hasPlainName(this) && hasPlainName(other));
+      if (this.title === other.title)
+        return true;
+      return !!this.tail() && this.tail() === other.tail()
+        && (this.family !== page.families.waypoint || (hasPlainName(this) && hasPlainName(other)));
     }
   }
 
@@ -110,6 +112,22 @@ var listWptVfr = [];
   /** By the digit of the key: the symbols of the types that come as a VOR. @type {Record<number, string>} */
   const keySymbols = { 1: 'vor', 2: 'tacan', 3: 'dme', 4: 'vorDme', 6: 'vortac' };
   const ndbDmeDigit = 7;
+
+  /**
+   * The symbol of a navaid of the feed. A type of VOR and TACAN is that of a VORTAC, and that under which the program's
+   * dialog stores a TACAN: the digit of the key tells them apart.
+   * @type {(type: number, marker: ChartMarker) => string}
+   */
+  function vorSymbolOf(type, marker) {
+    const symbol = page.vorSymbol(type);
+    return symbol === 'vortac' && keySymbols[marker.keyDigit()] === 'tacan' ? 'tacan' : symbol;
+  }
+
+  page.collectVorOfType = function (position, title, type, html) {
+    const marker = page.collectVor(position, title, 'vor', html);
+    if (marker)
+      marker.symbol = vorSymbolOf(type, marker);
+  };
 
   page.collectVorByKey = function (position, title, html) {
     const marker = page.collectVor(position, title, 'vor', html);
@@ -174,7 +192,7 @@ function addAPTMarker(position, title, number, html) {
 
 /** A VOR, TACAN or DME; its type decides its symbol. @type {MarkerFeed} */
 function addVORMarker(position, title, type, html) {
-  page.collectVor(position, title, page.vorSymbol(type), html);
+  page.collectVorOfType(position, title, type, html);
 }
 
 /** An NDB; its usage decides its layer. @type {MarkerFeed} */

@@ -19,6 +19,7 @@ private slots:
     void theAirwaysOfOnePointGetBothTitles();
     void onePointMayLieOnBothSidesOf180Degrees();
     void theAirwaysOfANavaidAloneGoByItsOwnName();
+    void theAirwaysOfAnEditedNavaidGoByItsIdentifier();
     void runwaysCanBeClearedWhileTheyShow();
     void theMapCanBeCentred();
     void theRightClickedMarkerIsTheLastUsed();
@@ -307,6 +308,26 @@ void TestPageCommands::theMenuIsGoneBeforeTheCommandRuns()
     QCOMPARE(during, QStringList());
     QCOMPARE(window->run("listVOR.length").toInt(), 0);
     QVERIFY(!window->menuAt(vor.latitude, vor.longitude).contains("Effacer le navaid…"));
+}
+
+void TestPageCommands::theAirwaysOfAnEditedNavaidGoByItsIdentifier()
+{
+    open(new FullProgramSide);
+    // After an edit the title has the name in front of the key.
+    window->run("addVORMarker2(new google.maps.LatLng(46.70000, 2.60000),\"CHATEAUROUX-CGO4FR\",3,"
+                "\"<font color=blue><b>VOR CGO</b><font color=black><br/>CHATEAUROUX<br/>117.8 Mhz<br/>x\")");
+    window->settle();
+    window->menuAt(vor.latitude, vor.longitude);
+    QVERIFY(window->chooseEntry("Voies aériennes passant par ce point…"));
+    QCOMPARE(commands(), QStringList{"sATS \"CGO-CGO4FR\" \"CGO-CGO4FR\""});
+    // A waypoint at its place leads, the navaid follows.
+    window->run("addWPTMarker2(new google.maps.LatLng(46.70000, 2.60000),\"CGO-CGOFR\",1,\"x\")");
+    window->settle();
+    program->clear();
+    window->menuAt(vor.latitude, vor.longitude);
+    QVERIFY(window->chooseEntry("VOR-DME CGO"));
+    QVERIFY(window->chooseEntry("Voies aériennes passant par ce point…"));
+    QCOMPARE(commands(), QStringList{"sATS \"CGO-CGOFR\" \"CGO-CGO4FR\""});
 }
 
 QTEST_MAIN(TestPageCommands)

@@ -25,6 +25,11 @@ private slots:
     void anEditedVorKeepsItsSymbol();
     void aNewNavaidHasTheSymbolOfItsKey_data();
     void aNewNavaidHasTheSymbolOfItsKey();
+    void theNextFeedDrawsTheSameSymbol_data();
+    void theNextFeedDrawsTheSameSymbol();
+    void aRenamedWaypointTakesThePlaceOfItsMarker();
+    void aNewWaypointDuringNoEditTakesNobodysPlace();
+    void anEmptyTitleIsOneMarker();
     void aDmeIsJoinedToItsNdbByEdits();
     void thousandsOfBeaconsAreJoined();
     void anotherKeyIsAnotherMarker();
@@ -224,9 +229,9 @@ void TestPageEdits::anotherKeyIsAnotherMarker()
 {
     window->run(R"(addWPTMarker2(new google.maps.LatLng(46.40000, 2.30000),"ABLAN-ABLANFR",1,"x"))");
     window->run(R"(addWPTMarker2(new google.maps.LatLng(46.70000, 2.30000),"ABLAN-ABLANES",1,"x"))");
-    window->run(R"(addWPTMarker2(new google.maps.LatLng(46.70000, 2.40000),"-",1,"x"))");
-    window->run(R"(addWPTMarker2(new google.maps.LatLng(46.70000, 2.50000),"-",1,"x"))");
-    QCOMPARE(titles("listWptRte"), (QStringList{"ABLAN-ABLANFR", "ABLAN-ABLANES", "-", "-"}));
+    window->run(R"(addWPTMarker2(new google.maps.LatLng(46.70000, 2.40000),"ABLAN-",1,"x"))");
+    window->run(R"(addWPTMarker2(new google.maps.LatLng(46.70000, 2.50000),"BALAN-",1,"x"))");
+    QCOMPARE(titles("listWptRte"), (QStringList{"ABLAN-ABLANFR", "ABLAN-ABLANES", "ABLAN-", "BALAN-"}));
 }
 
 void TestPageEdits::aWaypointWithAHyphenIsKnownByItsWholeTitle()
@@ -369,6 +374,74 @@ void TestPageEdits::editsAreFoundFromNear()
     QCOMPARE(window->popupText(), "");
     window->click(46.5, 2.5);
     QCOMPARE(window->popupText(), "first");
+}
+
+void TestPageEdits::theNextFeedDrawsTheSameSymbol_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("symbol");
+    // The types are those that the dialog stores.
+    QTest::newRow("VOR") << "ABC1FR" << 1 << "vor";
+    QTest::newRow("TACAN") << "ABC2FR" << 5 << "tacan";
+    QTest::newRow("VOR DME") << "ABC4FR" << 17 << "vorDme";
+}
+
+void TestPageEdits::theNextFeedDrawsTheSameSymbol()
+{
+    QFETCH(QString, key);
+    QFETCH(int, type);
+    QFETCH(QString, symbol);
+    window->run(QString("addVORMarker2(new google.maps.LatLng(46.70000, 2.30000),\"NAME-%1\",3,\"x\")").arg(key));
+    QCOMPARE(window->run("listVOR[0].symbol").toString(), symbol);
+    window->run(
+        QString("listVOR.length = 0;addVORMarker(new google.maps.LatLng(46.70000, 2.30000),\"ABC-%1\",%2,\"x\");"
+                "addVORMarker(new google.maps.LatLng(46.70000, 2.40000),\"DEF-DEF6FR\",5,\"x\");addNavMgr()")
+            .arg(key)
+            .arg(type));
+    QCOMPARE(window->run("listVOR[0].symbol").toString(), symbol);
+    // The same type under another key.
+    QCOMPARE(window->run("listVOR[1].symbol").toString(), QString("vortac"));
+}
+
+void TestPageEdits::aRenamedWaypointTakesThePlaceOfItsMarker()
+{
+    window->run(R"(addWPTMarker(new google.maps.LatLng(46.70000, 2.30000),"WY-WXFR",6,"x");addWptMgr();)"
+                R"(WPTVfrMgr.addMarkers(listWptVfr))");
+    window->settle();
+    // The dialog's script comes before the slot has returned.
+    connect(program.data(), &ProgramSide::called, window.data(), [this](const QString& call) {
+        if (call.startsWith("sAddWptToDB"))
+            window->run(R"(addWPTMarker2(new google.maps.LatLng(46.70000, 2.30000),"W-X-WXFR",6,"x"))");
+    });
+    window->menuAt(46.7, 2.3);
+    QVERIFY(window->chooseEntry("Modifier le waypoint…"));
+    QCOMPARE(titles("listWptVfr"), QStringList{"W-X-WXFR"});
+}
+
+void TestPageEdits::aNewWaypointDuringNoEditTakesNobodysPlace()
+{
+    window->run(R"(addWPTMarker(new google.maps.LatLng(46.70000, 2.30000),"W-X-WXFR",6,"x");addWptMgr();)"
+                R"(WPTVfrMgr.addMarkers(listWptVfr))");
+    window->settle();
+    window->click(46.7, 2.3);
+    connect(program.data(), &ProgramSide::called, window.data(), [this](const QString& call) {
+        if (call.startsWith("sAddWptToDB"))
+            window->run(R"(addWPTMarker2(new google.maps.LatLng(46.40000, 2.30000),"WX-WXFR",6,"x"))");
+    });
+    window->menuAt(46.4, 2.3);
+    QVERIFY(window->chooseEntry("Nouveau waypoint ici…"));
+    QCOMPARE(titles("listWptVfr"), (QStringList{"W-X-WXFR", "WX-WXFR"}));
+}
+
+void TestPageEdits::anEmptyTitleIsOneMarker()
+{
+    // Neither name nor key: the row without a key is replaced each time.
+    for (const char* place : {"46.40000, 2.30000", "46.70000, 2.30000", "46.70000, 2.60000"})
+        window->run(QString("addWPTMarker2(new google.maps.LatLng(%1),\"-\",1,\"x\")").arg(place));
+    QCOMPARE(titles("listWptRte"), QStringList{"-"});
+    QVERIFY(isDrawn(46.7, 2.6));
+    QVERIFY(!isDrawn(46.4, 2.3));
 }
 
 QTEST_MAIN(TestPageEdits)

@@ -30,6 +30,7 @@ private slots:
     void aSubmenuAtTheEdgeOpensToTheOtherSide();
     void theMapOfASingleObjectIsASubmenu();
     void aCrowdIsCounted();
+    void aHugeCrowdCanBeWalked();
     void aHiddenLayerIsNotOffered();
     void aPointOfThePlanIsOfferedWithoutItsLayer();
     void aGreyedEntryDoesNothing();
@@ -70,7 +71,7 @@ private:
 void TestPageMenu::theMenuClosesWithoutACommand_data()
 {
     QTest::addColumn<QString>("way");
-    for (const char* way : {"a click beside it", "Escape", "the wheel", "the window's size"})
+    for (const char* way : {"a click beside it", "Escape", "the wheel", "the window's size", "another window"})
         QTest::newRow(way) << way;
 }
 
@@ -84,6 +85,8 @@ void TestPageMenu::theMenuClosesWithoutACommand()
         window->mouse->wheel({50, 550}, 120);
     else if (way == "Escape")
         window->pressKey(Qt::Key_Escape);
+    else if (way == "another window")
+        window->run("window.dispatchEvent(new Event('blur'))");
     else
         window->view->resize(700, 500);
     QTRY_COMPARE_WITH_TIMEOUT(window->menuEntries(), QStringList(), 20000);
@@ -220,7 +223,35 @@ void TestPageMenu::aCrowdIsCounted()
     QCOMPARE(texts(*window, "#menu .menu-head"), QStringList{"10 objets ici"});
     QCOMPARE(entries.filter("Waypoint P").size(), 8);
     QCOMPARE(entries.value(8), "et 2 autres");
-    QCOMPARE(texts(*window, ".menu-reason").value(0), "Rapprochez la vue");
+    // None of them is out of reach.
+    QVERIFY(window->chooseEntry("et 2 autres"));
+    const QStringList rest = window->menuEntries().mid(entries.size());
+    QCOMPARE(rest.size(), 2);
+    for (const QString& entry : rest)
+        QVERIFY(entry.startsWith("Waypoint P") && !entries.contains(entry));
+    QVERIFY(window->chooseEntry(rest.value(1)));
+    QVERIFY(window->chooseEntry("Ajouter au plan de vol"));
+    QCOMPARE(commands(), QStringList{QString("sAddWptToFp \"%1-%1FR\"").arg(rest.value(1).section(' ', 1))});
+}
+
+void TestPageMenu::aHugeCrowdCanBeWalked()
+{
+    window->run("for (let i = 0; i < 300; ++i) addWPTMarker2(new google.maps.LatLng(46.60000, 1.70000), "
+                "`P${i}-P${i}FR`, 1, 'x');");
+    window->settle();
+    menuAt(*window, nothing);
+    QVERIFY(window->chooseEntry("et 292 autres"));
+    const QRectF panel = box(*window, ".menu:not(#menu)");
+    QVERIFY(QRectF(0, 0, 800, 600).contains(panel));
+    // The last one comes into view.
+    window->pressKey(Qt::Key_Right);
+    window->pressKey(Qt::Key_End);
+    const QRectF last = box(*window, ".menu:not(#menu) .menu-entry.chosen");
+    QVERIFY(panel.contains(last.center()));
+    window->pressKey(Qt::Key_Right);
+    window->pressKey(Qt::Key_Return);
+    QCOMPARE(commands().size(), 1);
+    QVERIFY(commands().value(0).startsWith("sAddWptToFp \"P"));
 }
 
 void TestPageMenu::aHiddenLayerIsNotOffered()
