@@ -304,7 +304,23 @@
     }
 
     /**
-     * The spot with room for the text above or below the line where it covers least; null when there is none.
+     * Whether the view's edge leaves a text beside a spot whole.
+     * @type {(spot: LegSpot, offset: number, width: number) => boolean}
+     */
+    fits(spot, offset, width) {
+      const angle = uprightOf(spot.angle);
+      const size = this.size();
+      const x = spot.view.x - offset * Math.sin(angle);
+      const y = spot.view.y + offset * Math.cos(angle);
+      const along = Math.abs(Math.cos(angle));
+      const across = Math.abs(Math.sin(angle));
+      const reachX = (along * width + across * textHeight) / 2;
+      const reachY = (across * width + along * textHeight) / 2;
+      return x >= reachX && y >= reachY && x <= size.x - reachX && y <= size.y - reachY;
+    }
+
+    /**
+     * The spot with room for the whole text above or below the line where it covers least; null when there is none.
      * @type {(leg: Leg, first: LegSpot) => ?LegSpot}
      */
     freePlace(leg, first) {
@@ -316,12 +332,14 @@
       for (const away of parts) {
         const part = first.part + away * reach;
         const spot = away ? this.spotAt(leg, part, first.length) : first;
-        if (part < end - slack || part > 1 - end + slack || !this.isInView(spot))
+        if (part < end - slack || part > 1 - end + slack)
           continue;
         const upright = uprightOf(spot.angle);
         for (const offset of [-textOffset, textOffset]) {
           const x = spot.x - offset * Math.sin(upright);
           const y = spot.y + offset * Math.cos(upright);
+          if (!this.fits(spot, offset, leg.width))
+            continue;
           const discs = discsAlong(x, y, leg.width, upright);
           const covered = discs.filter(disc => !this.symbols.isFree(disc)).length;
           if (covered < least && discs.every(disc => this.room.isFree(disc))) {
