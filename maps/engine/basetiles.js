@@ -25,6 +25,7 @@
       this.tiles = new Map();
       this.unused = [];
       this.zoom = NaN;
+      this.ratio = NaN;
       this.leaflet = null;
       this.pending = 0;
     },
@@ -67,9 +68,11 @@
       const inView = this.range(0);
       const around = this.range(ring);
       const zoom = this.leaflet.getZoom();
-      if (zoom !== this.zoom)
+      const ratio = window.devicePixelRatio || 1;
+      if (zoom !== this.zoom || ratio !== this.ratio)
         this.drop(() => true);
       this.zoom = zoom;
+      this.ratio = ratio;
       this.drop(tile => !contains(around, tile, 1));
       this.place();
       let painted = 0;
@@ -129,7 +132,7 @@
 
     canvas: function () {
       const canvas = this.unused.pop() || L.DomUtil.create('canvas', 'chart-canvas');
-      const pixels = Math.round(side * (window.devicePixelRatio || 1));
+      const pixels = Math.round(side * this.ratio);
       if (canvas.width !== pixels) {
         canvas.width = canvas.height = pixels;
         canvas.style.width = canvas.style.height = `${side}px`;

@@ -9,6 +9,8 @@
   /** The part of the way still to go that each frame covers, and the least of it in pixels. */
   const pace = 0.35;
   const leastStep = 2;
+  /** Degrees: no key takes the view's middle farther north or south, where the projection ends and nothing is drawn. */
+  const farthest = 85;
 
   /** @type {Record<number, function(L.Point): [number, number]>} */
   const moves = {
@@ -61,7 +63,21 @@
       return Math.abs(way) <= step ? way : Math.sign(way) * step;
     }
 
+    /**
+     * As much of a way to the south, in pixels, as stays on the drawn world. A view that is beyond it already may come
+     * back.
+     * @param {number} way
+     */
+    cut(way) {
+      const leaflet = this.leaflet;
+      const middle = leaflet.project(leaflet.getCenter()).y;
+      const edge = leaflet.project([way < 0 ? farthest : -farthest, 0]).y;
+      return way < 0 ? Math.min(0, Math.max(way, Math.ceil(edge - middle)))
+        : Math.max(0, Math.min(way, Math.floor(edge - middle)));
+    }
+
     next() {
+      this.y = this.cut(this.y);
       const x = this.part(this.x);
       const y = this.part(this.y);
       this.x -= x;

@@ -14,11 +14,14 @@
     return page.symbol(path, page.palette.aircraftEdge, 1.2, page.palette.aircraft, { rotation: heading });
   }
 
+  page.movers.push(() => marker);
+
   /** The trail stays until the next aircraft comes. */
   page.eraseAircraft = function () {
     if (marker)
       marker.setMap(null);
     marker = null;
+    page.moverMoved();
   };
 
   page.showAircraft = function (position, title, heading) {
@@ -33,6 +36,7 @@
     });
     if (page.isPlace(position))
       page.continueTrail(position);
+    page.moverMoved();
   };
 
   /**
@@ -46,6 +50,7 @@
     if (isFinite(heading) && page.heading(heading) !== drawn)
       marker.setIcon(iconFor(page.heading(heading)));
     page.continueTrail(position);
+    page.moverMoved();
   };
 
   page.onPalette(() => {

@@ -20,21 +20,20 @@
   }
 
   /** The menu of the marker whose pop-up is open, else of what lies in the middle of the map. */
-  function openMenu() {
+  page.openMenuHere = function () {
     const marker = page.popupMarker();
     const pixel = marker && page.pixelOf(marker.position);
     if (pixel && isInView(pixel))
       page.openMenuOf(marker.position, marker, pixel);
     else
       page.openMenuOf(map.getCenter(), null, page.pixelOf(map.getCenter()));
-  }
+  };
 
   /** One thing for each press: menu, pop-up, measure. The menu itself takes its keys before this is asked. */
   function escape() {
-    if (page.popupMarker()) {
+    if (page.popupMarker())
       page.closePopup();
-      page.choose(null);
-    } else if (page.isMeasuring())
+    else if (page.isMeasuring())
       page.endMeasure();
     else if (page.hasMeasure())
       page.clearMeasure();
@@ -46,7 +45,7 @@
   /** Whether a key is one of the page's, which it has done then. @param {KeyboardEvent} event */
   function take(event) {
     if (isMenuKey(event) && event.keyCode !== key.enter) {
-      openMenu();
+      page.openMenuHere();
       answered = true;
       return true;
     }
@@ -55,7 +54,7 @@
       return true;
     }
     if (isMenuKey(event)) {
-      openMenu();
+      page.openMenuHere();
       return true;
     }
     return event.keyCode === key.escape && escape();

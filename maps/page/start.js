@@ -17,6 +17,8 @@
     return page.symbol(path, page.palette.startEdge, 1.4, page.palette.start, { rotation: heading, scale: scale });
   }
 
+  page.movers.push(() => marker);
+
   /** Puts the marker to a place; there is never more than one. */
   page.setStart = function (position, aircraft, heading) {
     if (!page.isPlace(position))
@@ -26,6 +28,7 @@
       marker.setPosition(position);
       marker.setTitle(title);
       marker.setIcon(iconFor(heading));
+      page.moverMoved();
       return;
     }
     marker = new google.maps.Marker({

@@ -10,6 +10,8 @@
   /** @type {?ChartMarker} */
   let pointed = null;
   let dragged = false;
+  /** What was told last of the pointer. */
+  let told = '';
 
   /** @param {number} value */
   const two = value => (value < 10 ? `0${value}` : `${value}`);
@@ -28,17 +30,26 @@
   page.positionText = position =>
     `${angleText(position.lat(), 2, 'N', 'S')}  ${angleText(position.lng(), 3, 'E', 'W')}`;
 
+  /** The start and the aircraft lie above the markers. */
   function namesUnderPointer() {
-    if (!pointed)
-      return '';
-    const markers = page.markersAt(place, pointed);
-    const names = markers.slice(0, most).map(marker => page.describe(marker).head);
-    return `  ${names.join(', ')}${markers.length > most ? '…' : ''}`;
+    const markers = pointed ? page.markersAt(place, pointed) : [];
+    const names = page.moversAt(place).concat(markers.map(marker => page.describe(marker).head));
+    return names.length ? `  ${names.slice(0, most).join(', ')}${names.length > most ? '…' : ''}` : '';
   }
 
+  const pointerText = () => (place ? `${page.positionText(place)}${namesUnderPointer()}` : '');
+
   // A moving mouse tells its place far more often than anybody reads it.
-  const reportPointer = page.oncePerFrame(() =>
-    page.call('doData', place ? `${page.positionText(place)}${namesUnderPointer()}` : ''));
+  const reportPointer = page.oncePerFrame(() => {
+    told = pointerText();
+    page.call('doData', told);
+  });
+
+  /** Something has moved by itself: to the pointer, away from it or neither. */
+  page.moverMoved = page.oncePerFrame(() => {
+    if (place && pointerText() !== told)
+      reportPointer();
+  });
 
   function reportCentre() {
     const centre = map.getCenter();

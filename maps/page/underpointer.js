@@ -4,6 +4,8 @@
 
   /** A marker counts as under the pointer when its middle is no more than so many pixels away. */
   const reach = 9;
+  /** The start and the aircraft are larger. */
+  const moverReach = 13;
 
   /** A box stands so many pixels from the pointer, and as many from the window's edge. */
   const gap = { pointer: 14, edge: 4 };
@@ -70,6 +72,15 @@
     }));
     return found.sort((a, b) => a.rank - b.rank || a.order - b.order).map(item => item.marker);
   };
+
+  /** What stands on the map besides the markers: each gives its marker of the map service, or null while it is away. */
+  page.movers = [];
+
+  /** What the movers at a place are called. @param {Place} place */
+  page.moversAt = place => page.movers.map(mover => mover())
+    .filter(marker => marker && page.isPlace(marker.getPosition())
+      && page.pixelsBetween(marker.getPosition(), place) <= moverReach)
+    .map(marker => marker.getTitle());
 
   /** The first of many markers; a single one more is not worth a line that counts it. */
   page.shorten = (markers, most) => (markers.length > most + 1 ? markers.slice(0, most) : markers);

@@ -98,7 +98,6 @@ interface Command<Subject> {
   /** A key of the page's words. */
   word: string;
   slots: string[];
-  wanted?: () => boolean;
   /** Why it cannot act now; empty when it can. */
   problem?: (subject: Subject) => string;
   run: (subject: Subject) => void;
@@ -251,6 +250,8 @@ interface Page {
     html: string): ChartMarker | null;
   collectAirport(position: Place, title: string, html: string): ChartMarker | null;
   collectVor(position: Place, title: string, symbol: string, html: string): ChartMarker | null;
+  /** A VOR, TACAN or DME of a type as the database has it. */
+  collectVorOfType(position: Place, title: string, type: number, html: string): void;
   /** A VOR, TACAN or DME whose type is that of its key; a VOR without one. */
   collectVorByKey(position: Place, title: string, html: string): ChartMarker | null;
   collectNdb(position: Place, title: string, use: number, html: string): ChartMarker | null;
@@ -291,14 +292,17 @@ interface Page {
   newManager(old?: MarkerManager | null): MarkerManager;
   listenToLayer(layer: google.maps.Data): void;
   showEdited(marker: ChartMarker | null): void;
+  whileEditing(marker: ChartMarker, call: () => void): void;
   removeLast(): void;
 
   openPopup(marker: ChartMarker): void;
   closePopup(marker?: ChartMarker): void;
+  closeLostPopup(): void;
   popupMarker(): ChartMarker | null;
   textLines(html: string): string[];
   openMenu(title: Title, entries: MenuEntry[], at?: Spot): void;
   openMenuOf(place: Place, first: ChartMarker | null, at?: Spot): void;
+  openMenuHere(): void;
   closeMenu(): void;
   menuIsOpen(): boolean;
   menuKey(event: KeyboardEvent): void;
@@ -309,6 +313,9 @@ interface Page {
   pointer: Spot & { still: boolean };
   pixelsBetween(a: Place, b: Place): number;
   pixelOf(place: Place): Spot;
+  movers: Array<() => google.maps.Marker | null>;
+  moversAt(place: Place): string[];
+  moverMoved(): void;
   markersAt(place: Place, first: ChartMarker | null): ChartMarker[];
   shorten(markers: ChartMarker[], most: number): ChartMarker[];
   describe(marker: ChartMarker): Title;

@@ -25,6 +25,8 @@ private slots:
     void anAircraftWithoutAHeadingGoesOnWithItsLast();
     void anAircraftThatComesWithoutAHeadingLooksNorth();
     void theAircraftOfTheOtherSideShows();
+    void theAircraftUnderThePointerIsNamed();
+    void theStartUnderThePointerIsNamed();
     void thousandsOfTicksLeaveOneAircraft();
 
 private:
@@ -183,6 +185,41 @@ void TestPageAircraft::thousandsOfTicksLeaveOneAircraft()
     QCOMPARE(window->run("map.getCenter().lat()").toDouble(), 46.6);
     QVERIFY(around(46.6, 2.3, aircraftColour) > 20);
     QCOMPARE(program->calls("doCenter").size(), 3001);
+}
+
+void TestPageAircraft::theAircraftUnderThePointerIsNamed()
+{
+    window->run("addAPTMarker(new google.maps.LatLng(46.70000, 2.30000),\"LFLX\",1,\"<b>Airport LFLX</b>\");pushAPT();"
+                "addAcftMrkr(new google.maps.LatLng(46.40000, 2.60000),\"\",90);");
+    window->settle();
+    const auto last = [this] { return program->calls("doData").value(program->calls("doData").size() - 1); };
+    window->mouse->moveTo({20, 20});
+    window->mouse->moveTo(window->mouse->pointOf(46.7, 2.3));
+    QTRY_VERIFY_WITH_TIMEOUT(last().endsWith(" E  Aéroport LFLX\""), 20000);
+    // It flies to the pointer and away from it; the mouse stands still.
+    window->run("setAcftMrkr(new google.maps.LatLng(46.70500, 2.30500),90);");
+    QTRY_VERIFY_WITH_TIMEOUT(last().endsWith(" E  Avion, Aéroport LFLX\""), 20000);
+    program->clear();
+    window->run("setAcftMrkr(new google.maps.LatLng(46.70500, 2.30510),90);");
+    window->settle();
+    QCOMPARE(program->calls("doData"), QStringList());
+    window->run("setAcftMrkr(new google.maps.LatLng(46.90000, 2.30500),90);");
+    QTRY_VERIFY_WITH_TIMEOUT(last().endsWith(" E  Aéroport LFLX\""), 20000);
+    // Without the markers under it, too.
+    window->mouse->moveTo(window->mouse->pointOf(46.9, 2.305));
+    QTRY_VERIFY_WITH_TIMEOUT(last().endsWith(" E  Avion\""), 20000);
+    window->run("eraseAcftMrkr();");
+    QTRY_VERIFY_WITH_TIMEOUT(last().endsWith(" E\""), 20000);
+}
+
+void TestPageAircraft::theStartUnderThePointerIsNamed()
+{
+    window->run("addSitMarker(new google.maps.LatLng( 46.70000000,  2.30000000),\"Cessna 172\", 90);");
+    window->settle();
+    window->mouse->moveTo({20, 20});
+    window->mouse->moveTo(window->mouse->pointOf(46.7, 2.3) + QPoint(4, 3));
+    const auto last = [this] { return program->calls("doData").value(program->calls("doData").size() - 1); };
+    QTRY_VERIFY_WITH_TIMEOUT(last().endsWith(" E  Départ Cessna 172\""), 20000);
 }
 
 QTEST_MAIN(TestPageAircraft)

@@ -26,6 +26,14 @@ private slots:
     void zoomingByKeysKeepsTheCentre();
     void keysWithModifiersAreNotTheMaps();
     void theMapCanBeReachedByTab();
+    void tabReachesTheMenu_data();
+    void tabReachesTheMenu();
+    void everyButtonHasAName_data();
+    void everyButtonHasAName();
+    void keysStayOnTheDrawnWorld_data();
+    void keysStayOnTheDrawnWorld();
+    void aScriptMayGoBeyondIt();
+    void aPressEndsTheGlide();
     void theFocusShowsForKeysOnly();
     void aDoubleClickZoomsAboutThePointer();
     void aDoubleClickOnAMarkerZoomsToo();
@@ -373,6 +381,107 @@ void TestPageKeys::theSystemsOwnRequestDoesNotMoveTheMenu()
     // The mouse's next one counts.
     window->mouse->contextMenu(anywhere);
     QVERIFY(qAbs(box(*window, "#menu").left() - anywhere.x()) < 10);
+}
+
+void TestPageKeys::tabReachesTheMenu_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("Enter") << int(Qt::Key_Return);
+    QTest::newRow("Space") << int(Qt::Key_Space);
+}
+
+void TestPageKeys::tabReachesTheMenu()
+{
+    QFETCH(int, key);
+    window->run("map.setCenter(new google.maps.LatLng(46.40000, 2.60000));document.getElementById('chart').focus()");
+    const auto focused = [this] { return window->run("document.activeElement.id").toString(); };
+    for (int i = 0; i < 10 && focused() != "menu-button"; ++i)
+        window->pressKey(Qt::Key_Tab);
+    QCOMPARE(focused(), "menu-button");
+    window->pressKey(Qt::Key(key));
+    QCOMPARE(texts(*window, "#menu .menu-head"), QStringList{"NDB terminal MT"});
+    QCOMPARE(chosen(), QStringList{"Ajouter au plan de vol"});
+    window->pressKey(Qt::Key_Escape);
+    // With a pop-up, its marker's.
+    window->click(vorAndWaypoint.latitude, vorAndWaypoint.longitude);
+    window->mouse->click(box(*window, "#menu-button").center().toPoint());
+    QCOMPARE(texts(*window, "#menu .menu-head"), QStringList{"2 objets ici"});
+}
+
+void TestPageKeys::everyButtonHasAName_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QStringList>("names");
+    QTest::newRow("French") << "gm_trajector_fr.html"
+                            << QStringList{"Zoom avant", "Zoom arrière", "Carte de nuit", "Menu de la carte"};
+    QTest::newRow("English") << "gm_trajector_en.html" << QStringList{"Zoom in", "Zoom out", "Night map", "Map menu"};
+}
+
+void TestPageKeys::everyButtonHasAName()
+{
+    QFETCH(QString, page);
+    QFETCH(QStringList, names);
+    QVERIFY(show(*window, page));
+    QCOMPARE(window
+                 ->run("Array.from(document.querySelectorAll('#chart a, #chart button'))"
+                       ".map(e => e.getAttribute('aria-label') || e.title)")
+                 .toStringList(),
+             names);
+    QVERIFY(window->run("Array.from(document.querySelectorAll('#chart a, #chart button')).every(e => e.tabIndex === 0)")
+                .toBool());
+}
+
+void TestPageKeys::keysStayOnTheDrawnWorld_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("back");
+    QTest::addColumn<double>("latitude");
+    QTest::newRow("north") << int(Qt::Key_PageUp) << int(Qt::Key_Down) << 85.0;
+    QTest::newRow("south") << int(Qt::Key_PageDown) << int(Qt::Key_Up) << -85.0;
+}
+
+void TestPageKeys::keysStayOnTheDrawnWorld()
+{
+    QFETCH(int, key);
+    QFETCH(int, back);
+    QFETCH(double, latitude);
+    window->run("map.setZoom(3)");
+    for (int i = 0; i < 8; ++i)
+        window->pressKey(Qt::Key(key));
+    // A pixel is about a sixty-fifth of a degree there.
+    QTRY_VERIFY_WITH_TIMEOUT(qAbs(number("map.getCenter().lat()") - latitude) < 0.05, 20000);
+    window->settle();
+    window->settle();
+    QVERIFY(qAbs(number("map.getCenter().lat()")) <= 85);
+    window->pressKey(Qt::Key(back));
+    QTRY_VERIFY_WITH_TIMEOUT(qAbs(number("map.getCenter().lat()")) < 84.5, 20000);
+}
+
+void TestPageKeys::aScriptMayGoBeyondIt()
+{
+    window->run("map.setCenter(new google.maps.LatLng(88.00000, 2.30000));");
+    QCOMPARE(number("map.getCenter().lat()"), 88.0);
+    // No key leads farther, and a key to the east leaves it there.
+    window->pressKey(Qt::Key_Up);
+    window->pressKey(Qt::Key_Right);
+    QTRY_VERIFY_WITH_TIMEOUT(number("map.getCenter().lng()") > 2.4, 20000);
+    window->settle();
+    // The projection's own end, where the view has been all the time.
+    QVERIFY(qAbs(number("map.getCenter().lat()") - 85.05) < 0.01);
+}
+
+void TestPageKeys::aPressEndsTheGlide()
+{
+    const QPoint before = pixel(*window, centre);
+    // The first part of the way goes at once, the others wait for frames that do not come.
+    window->run("var frames = []; var realFrames = window.requestAnimationFrame;"
+                "window.requestAnimationFrame = function (f) { frames.push(f); return 1; };");
+    window->pressKey(Qt::Key_Right);
+    window->mouse->click({400, 500});
+    window->run("for (let i = 0; i < 50; ++i) frames.splice(0).forEach(function (f) { f(); });"
+                "window.requestAnimationFrame = realFrames;");
+    const int way = before.x() - pixel(*window, centre).x();
+    QVERIFY2(way > 0 && way < 80, qPrintable(QString::number(way)));
 }
 
 QTEST_MAIN(TestPageKeys)

@@ -24,6 +24,7 @@ private slots:
     void theLineFollowsThePointer();
     void theLineEndsAtTheMarkerUnderThePointer();
     void theLineLeavesADeletedMarker();
+    void theLineLeavesAMarkerThatTheViewTakesAway();
     void severalLegsHaveASum();
     void aDoubleClickEndsItAndDoesNotZoom();
     void aDoubleClickZoomsAgainAfterwards();
@@ -33,6 +34,7 @@ private slots:
     void anotherStartClearsTheFormer();
     void aDragIsNoCorner();
     void aClickOnAMarkerOpensNoPopUp();
+    void noMarkerIsChosenWhileMeasuring();
     void theShortWayGoesOverTheDateLine();
     void theMenuEndsAndClearsIt();
     void theCrossClearsIt();
@@ -147,6 +149,19 @@ void TestPageMeasure::theLineLeavesADeletedMarker()
     window->settle();
     QCOMPARE(readout().size(), 2);
     QVERIFY(readout().value(0) != snapped.value(0));
+}
+
+void TestPageMeasure::theLineLeavesAMarkerThatTheViewTakesAway()
+{
+    start(46.9, 2.6);
+    window->mouse->moveTo(pixel(*window, ndb));
+    const QStringList snapped{"30.0 NM  ·  55.6 km", "180° / 360°"};
+    QTRY_COMPARE_WITH_TIMEOUT(readout(), snapped, 20000);
+    // The mouse stands still, the map goes 160 pixels to the west, 36 NM: the place below the mouse is 47 NM away.
+    window->pressKey(Qt::Key_Right);
+    window->pressKey(Qt::Key_Right);
+    QTRY_VERIFY_WITH_TIMEOUT(readout().value(1).startsWith("1") && readout() != snapped, 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(qAbs(readout().value(0).section(' ', 0, 0).toDouble() - 47.2) < 1, 20000);
 }
 
 void TestPageMeasure::severalLegsHaveASum()
@@ -323,6 +338,27 @@ void TestPageMeasure::theMeasureFollowsThePalette()
     window->run("page.setPalette('night')");
     QVERIFY(window->pixelsAround(48.25, 2.25, 12, QColor("#a98be0")) > 0);
     QCOMPARE(window->pixelsAround(48.25, 2.25, 12, QColor("#5e35b1")), 0);
+}
+
+void TestPageMeasure::noMarkerIsChosenWhileMeasuring()
+{
+    window->run("map.setZoom(5)");
+    const auto isChosen = [this](const QString& marker) {
+        return window
+            ->run("var drawn = ArptMgr.layer, one = null; drawn.forEach(f => { if (f.getProperty('marker') === " +
+                  marker + ") one = f; }); drawn.style(one).zIndex === 58")
+            .toBool();
+    };
+    QVERIFY(!isChosen("listApt[0]"));
+    window->click(airport.latitude, airport.longitude);
+    QVERIFY(isChosen("listApt[0]"));
+    measureFrom(airport, "");
+    QVERIFY(window->run("page.isMeasuring()").toBool());
+    QVERIFY(!isChosen("listApt[0]"));
+    // A corner at a marker does not choose it either.
+    window->mouse->click({200, 500});
+    window->click(airport.latitude, airport.longitude);
+    QVERIFY(!isChosen("listApt[0]"));
 }
 
 QTEST_MAIN(TestPageMeasure)

@@ -28,6 +28,7 @@ private slots:
     void aDragMovesTheCentreAndReports();
     void aDragIsNoClick();
     void aDragOverTheDateLineWrapsTheCentre();
+    void dragsAroundTheWorldStayInItsFirstCopies();
     void thePointerIsReported();
     void theMapFollowsWithTwoSemicolons();
     void aFailingPaintStopsNothingElse();
@@ -156,6 +157,7 @@ void TestPageView::aDragIsNoClick()
     QVERIFY(window->run("theLast === null").toBool());
 }
 
+/// The longitude that is told; the view itself may be in another copy of the world.
 void TestPageView::aDragOverTheDateLineWrapsTheCentre()
 {
     window->run("map.setCenter(new google.maps.LatLng(46.50000,179.90000));");
@@ -163,6 +165,18 @@ void TestPageView::aDragOverTheDateLineWrapsTheCentre()
         window->mouse->drag({600, 300}, {200, 300});
     const double longitude = number("map.getCenter().lng()");
     QVERIFY2(longitude > -180 && longitude < -150, qPrintable(QString::number(longitude)));
+}
+
+/// However often the user drags the map around the world, what stands in the panes need not follow him ever farther.
+void TestPageView::dragsAroundTheWorldStayInItsFirstCopies()
+{
+    window->run("map.setZoom(2)");
+    // Five times around, each time in two and a half drags.
+    for (int i = 0; i < 13; ++i) {
+        window->mouse->drag({600, 300}, {200, 300});
+        const double longitude = number("map.leaflet.getCenter().lng");
+        QVERIFY2(qAbs(longitude) < 400, qPrintable(QString::number(longitude)));
+    }
 }
 
 void TestPageView::thePointerIsReported()
