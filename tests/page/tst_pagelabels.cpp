@@ -17,6 +17,7 @@ private slots:
     }
 
     void aLabelStandsRightOfItsSymbol();
+    void aLabelHasARimAgainstWhatLiesBelow();
     void twoMarkersOfOnePlaceHaveLabelsOnBothSides();
     void theLabelOfMoreImportanceHasTheRoom();
     void thePlansLabelComesFirst();
@@ -514,6 +515,22 @@ void TestPageLabels::theServiceIsToldAPlaceBelowEachSymbol()
     QFETCH(double, least);
     QVERIFY(window->run(symbol + ".labelOrigin.y").toDouble() >= least);
     QCOMPARE(window->run(symbol + ".labelOrigin.x").toDouble(), 0.0);
+}
+
+void TestPageLabels::aLabelHasARimAgainstWhatLiesBelow()
+{
+    // Upon the sea, which is darker than the rim.
+    window->run("map.setCenter(new google.maps.LatLng(45.00000,-20.00000));");
+    addAirport("LFHM", 45, -20);
+    window->run("pushAPT();");
+    const QColor sea(window->run("page.palette.sea").toString());
+    window->settle();
+    const QImage image = window->view->grab().toImage();
+    int lighter = 0;
+    for (int y = 285; y < 315; ++y)
+        for (int x = 412; x < 450; ++x)
+            lighter += qGray(image.pixel(x, y)) > qGray(sea.rgb()) + 8 ? 1 : 0;
+    QVERIFY2(lighter > 90, qPrintable(QString::number(lighter)));
 }
 
 QTEST_MAIN(TestPageLabels)

@@ -26,6 +26,7 @@ private slots:
     void aLineIsDrawnInEveryCopyOfTheWorld();
     void aPointAddedToAShownLineShows();
     void aChangedPointMovesTheLine();
+    void aLineForgetsTheListItHadBefore();
     void anOptionChangesAShownLine();
     void aProcedureIsDashed();
     void symbolsPointTheWayOfTheLine();
@@ -311,6 +312,24 @@ void TestPageLines::airwaysTakeTheColoursOfTheNight()
     window->run("page.setPalette('night')");
     QCOMPARE(around(46.4, 2.5, "#6d8c3c"), 0);
     QVERIFY(around(46.4, 2.5, "#7f9a52") > 0);
+}
+
+void TestPageLines::aLineForgetsTheListItHadBefore()
+{
+    window->run(
+        "var former = new google.maps.MVCArray([new google.maps.LatLng(46.5, 2), new google.maps.LatLng(46.5, 3)]);"
+        "var line = new google.maps.Polyline({ path: former, map: map, strokeColor: '#ff00ff' });");
+    QVERIFY(around(46.5, 2.5, "#ff00ff") > 0);
+    window->run(
+        "var next = new google.maps.MVCArray([new google.maps.LatLng(46.2, 2), new google.maps.LatLng(46.2, 3)]);"
+        "line.setPath(next);");
+    QCOMPARE(around(46.5, 2.5, "#ff00ff"), 0);
+    QVERIFY(around(46.2, 2.5, "#ff00ff") > 0);
+    // What happens to the former list is no more the line's.
+    for (const char* event : {"insert_at", "remove_at", "set_at"}) {
+        QVERIFY(!window->run(QString("google.maps.event.hasListeners(former, '%1')").arg(event)).toBool());
+        QVERIFY(window->run(QString("google.maps.event.hasListeners(next, '%1')").arg(event)).toBool());
+    }
 }
 
 QTEST_MAIN(TestPageLines)
