@@ -3,6 +3,7 @@
 #include "cfpline.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QVariant>
 #include <QVector>
 
@@ -13,6 +14,7 @@ class CAircraftData;
 class CFlightPlan;
 class CNavGlobalVar;
 class CNavPlug;
+class QDialog;
 class QLabel;
 class QTreeWidgetItem;
 struct ViewLayer;
@@ -176,6 +178,7 @@ private:
     std::unique_ptr<CFlightPlan> flightPlan;
     QList<QSharedPointer<CAircraftData>> aircraftList; ///< runs parallel to the items of cbAircraftType
     CNavPlug* navPlug = nullptr;                       ///< of the latest trace, null until the first; never freed
+    QPointer<QDialog> lastClosedDialog;                ///< of a navaid or a waypoint; the next one takes its place
     QString lastCenterScript;
     QString searchKey; ///< upper-cased text of the last search
     QLabel *lblData = nullptr, *lblCenter = nullptr, *lblZoom = nullptr;

@@ -68,14 +68,17 @@ Dialog* dialogFor(const EditCommand& command, const EditedTable& table, MainWind
     return standsOnRow(table, splitMarkerTitle(command.title.trimmed()), query) ? new Dialog(query, window) : nullptr;
 }
 
-// The closed dialog stays with the window, which ends it.
+// The closed dialog stays with the window, but only the last one does: each holds a picture of itself and its widgets,
+// and a day of editing would fill the memory.
 template <typename Dialog>
-void runDialog(Dialog& dialog, MainWindow& window)
+void runDialog(Dialog& dialog, MainWindow& window, QPointer<QDialog>& lastClosed)
 {
     if (dialog.exec() == QDialog::Accepted) {
         window.runMapScript(dialog.script);
     }
     dialog.close();
+    delete lastClosed;
+    lastClosed = &dialog;
 }
 
 bool rowIsThere(const EditedTable& table, const MarkerTitle& marker)
@@ -114,7 +117,7 @@ void MainWindow::sAddNavToDB(const QString& title, double latD, double lonD)
                                  tr("Le navaid %1 n'existe pas dans la base").arg(title));
         return;
     }
-    runDialog(*dialog, *this);
+    runDialog(*dialog, *this, lastClosedDialog);
 }
 
 void MainWindow::sAddWptToDB(const QString& title, double latD, double lonD)
@@ -125,7 +128,7 @@ void MainWindow::sAddWptToDB(const QString& title, double latD, double lonD)
                                  tr("Le waypoint %1 n'existe pas dans la base").arg(title));
         return;
     }
-    runDialog(*dialog, *this);
+    runDialog(*dialog, *this, lastClosedDialog);
 }
 
 int MainWindow::askDeleteData(const QString& boxTitle, const QString& boxMsg)

@@ -53,6 +53,7 @@ private slots:
     void theBoxesOfSavingAreInformation_data();
     void theBoxesOfSavingAreInformation();
     void theDialogStaysWithTheWindow();
+    void onlyTheLastDialogStays();
     void theTableIsNotLockedWhileTheDialogIsOpen();
     void withoutDatabasesTheLookUpIsReported();
     void withoutDatabasesANewRowIsReported();
@@ -420,6 +421,24 @@ void TestNavdataEdits::theDialogStaysWithTheWindow()
     QCOMPARE(opened->parent(), &session->window());
     session.reset();
     QVERIFY(!opened);
+}
+
+void TestNavdataEdits::onlyTheLastDialogStays()
+{
+    QVector<QPointer<QDialog>> opened;
+    for (const char* name : {"CDialogWpt", "CDialogNav", "CDialogNav", "CDialogWpt"}) {
+        boxes->expectDialog(name, [&opened](QDialog* dialog) {
+            opened << dialog;
+            dialog->reject();
+        });
+        if (opened.size() % 3 == 0)
+            session->window().sAddWptToDB("ABLAN-ABLANFR", 0, 0);
+        else
+            session->window().sAddNavToDB("CGO-CGO4FR", 0, 0);
+        QVERIFY(opened.last());
+    }
+    QCOMPARE(opened.size(), 4);
+    QCOMPARE(session->window().findChildren<QDialog*>(), QList<QDialog*>{opened.last()});
 }
 
 void TestNavdataEdits::theTableIsNotLockedWhileTheDialogIsOpen()
