@@ -2,6 +2,7 @@
 #include "memory.h"
 
 #include <QFile>
+#include <QPixmapCache>
 #include <QWebSettings>
 
 #ifdef __GLIBC__
@@ -30,6 +31,7 @@ MemorySample sampleMemory(int commands, double seconds)
 {
     // Collects the scripts' rubbish too, which the engine would do in its own time.
     QWebSettings::clearMemoryCaches();
+    QPixmapCache::clear();
 #ifdef __GLIBC__
     malloc_trim(0);
 #endif
