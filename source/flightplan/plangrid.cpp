@@ -1,7 +1,8 @@
 #include "plangrid.h"
 
+#include "resourceicon.h"
+
 #include <QHeaderView>
-#include <QIcon>
 #include <QSignalBlocker>
 #include <QTableWidget>
 
@@ -34,7 +35,7 @@ QTableWidgetItem* kindItem(const CFpLine& line)
 {
     for (const Kind& kind : kinds) {
         if (line.usage == QLatin1String(kind.usage) && (kind.navType < 0 || kind.navType == line.navType)) {
-            return new QTableWidgetItem(QIcon(QLatin1String(kind.icon)), QLatin1String(kind.word));
+            return new QTableWidgetItem(resourceIcon(QLatin1String(kind.icon)), QLatin1String(kind.word));
         }
     }
     return nullptr;

@@ -12,6 +12,7 @@
 #include "mapscript.h"
 #include "positions.h"
 #include "procedurerows.h"
+#include "resourceicon.h"
 #include "rowdeletion.h"
 #include "updateline.h"
 
@@ -44,7 +45,7 @@ QIcon pointIcon(int typeCode)
     };
     for (const TypeIcon& entry : icons) {
         if (entry.typeCode == typeCode) {
-            return QIcon(QLatin1String(entry.path));
+            return resourceIcon(QLatin1String(entry.path));
         }
     }
     return QIcon();

@@ -5,17 +5,17 @@
 
 #include "cflightplan.h"
 #include "pointsearch.h"
+#include "resourceicon.h"
 
 #include <QHash>
-#include <QIcon>
 
 namespace {
 
 constexpr int indexColumn = 5; ///< beyond the headers: the line's place among the found lines
 
-QIcon resourceIcon(const QString& name)
+QIcon bitmapIcon(const QString& name)
 {
-    return QIcon(QStringLiteral(":/icon/images/%1.bmp").arg(name));
+    return resourceIcon(QStringLiteral(":/icon/images/%1.bmp").arg(name));
 }
 
 // By the type of the navaid; any other has no icon.
@@ -25,7 +25,7 @@ QIcon navaidIcon(int type)
         {1, QStringLiteral("Img05")},  {4, QStringLiteral("Img05")}, {16, QStringLiteral("Img05")},
         {17, QStringLiteral("Img05")}, {8, QStringLiteral("Img03")}, {32, QStringLiteral("Img03")},
     };
-    return names.contains(type) ? resourceIcon(names.value(type)) : QIcon();
+    return names.contains(type) ? bitmapIcon(names.value(type)) : QIcon();
 }
 
 // The found lines and their items, built together so that the indexes match. The items go to the tree at the end, in
@@ -64,7 +64,7 @@ private:
     QList<CFpLinePtr>& lines;
     const int speed;
     const int altitude;
-    const QIcon runwayIcon = resourceIcon(QStringLiteral("Img10"));
+    const QIcon runwayIcon = bitmapIcon(QStringLiteral("Img10"));
 };
 
 } // namespace
@@ -77,14 +77,14 @@ void MainWindow::searchInTable(bool exact)
     flightPlan->foundLines.clear();
 
     FoundItems found(flightPlan->foundLines, ui->leSpeedCruise->text().toInt(), ui->leAltCruise->text().toInt());
-    const QIcon airportIcon = resourceIcon(QStringLiteral("Img08"));
+    const QIcon airportIcon = bitmapIcon(QStringLiteral("Img08"));
     for (const FoundPoint& airport : findAirports(*flightPlan, searchKey, exact)) {
         found.add(airport, airportIcon);
     }
     for (const FoundPoint& navaid : findNavaids(*flightPlan, searchKey, exact)) {
         found.add(navaid, navaidIcon(navaid.line->navType));
     }
-    const QIcon waypointIcon = resourceIcon(QStringLiteral("Img12"));
+    const QIcon waypointIcon = bitmapIcon(QStringLiteral("Img12"));
     for (const FoundPoint& waypoint : findWaypoints(*flightPlan, searchKey, exact)) {
         found.add(waypoint, waypointIcon);
     }

@@ -4,6 +4,7 @@
 #include "ui_mainwindow.h"
 
 #include "datadictionary.h"
+#include "resourceicon.h"
 #include "viewlayer.h"
 
 #include <QApplication>
@@ -42,9 +43,9 @@ const Column planColumns[] = {
 constexpr int narrowestColumn = 20; // pixels
 constexpr int headerPointSize = 8;  // the widest label then fits its column
 
-QIcon resourceIcon(QLatin1String name)
+QIcon bitmapIcon(QLatin1String name)
 {
-    return QIcon(QStringLiteral(":/icon/images/%1.bmp").arg(name));
+    return resourceIcon(QStringLiteral(":/icon/images/%1.bmp").arg(name));
 }
 
 } // namespace
@@ -54,7 +55,7 @@ void MainWindow::createViewActions()
     addToolBar(Qt::LeftToolBarArea, ui->mainToolBar);
     ui->mainToolBar->addSeparator();
     for (const ViewLayer& layer : viewLayers()) {
-        auto* action = new QAction(resourceIcon(layer.icon), tr(layer.text), this);
+        auto* action = new QAction(bitmapIcon(layer.icon), tr(layer.text), this);
         action->setObjectName(layer.objectName);
         action->setStatusTip(tr(layer.statusTip));
         action->setCheckable(true);
@@ -124,7 +125,7 @@ void MainWindow::createContextMenus()
         {ui->fltplnGrid, &MainWindow::actFpDown, "actFpDown", tr("Descendre la ligne"), &MainWindow::sFpLineDown},
     };
     for (const Entry& entry : entries) {
-        auto* action = new QAction(resourceIcon(QLatin1String("Img00")), entry.text, this);
+        auto* action = new QAction(bitmapIcon(QLatin1String("Img00")), entry.text, this);
         action->setObjectName(QLatin1String(entry.objectName));
         connect(action, &QAction::triggered, this, entry.slot);
         entry.widget->setContextMenuPolicy(Qt::ActionsContextMenu);

@@ -124,6 +124,22 @@ private slots:
                  QIcon(icon).pixmap(expected.size()).toImage());
     }
 
+    // Each icon fills the program's cache of pictures with its own.
+    void everyRefreshHasTheSameIcon()
+    {
+        QTableWidget grid(0, 10);
+        const QList<CFpLinePtr> lines{pointAt(0.0, 0.0), pointAt(1.0, 1.0)};
+        for (const CFpLinePtr& line : lines) {
+            line->usage = "airp";
+        }
+        fillPlanGrid(grid, lines);
+        const qint64 first = grid.item(0, 0)->icon().cacheKey();
+        QVERIFY(!grid.item(0, 0)->icon().isNull());
+        QCOMPARE(grid.item(1, 0)->icon().cacheKey(), first);
+        fillPlanGrid(grid, lines);
+        QCOMPARE(grid.item(1, 0)->icon().cacheKey(), first);
+    }
+
     void unknownUsageHasNoItem()
     {
         QTableWidget grid;
