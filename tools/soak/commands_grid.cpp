@@ -93,9 +93,9 @@ void typeElsewhere(SoakWorld& world)
 {
     const int row = world.dice.below(world.planSize());
     const int column = 1 + world.dice.below(altitudeColumn - 1);
-    const PlanTexts before = world.planTexts();
-    press(world, row, identityColumn);
+    press(world, row, identityColumn); // an altitude that was left behind goes down the plan now
     press(world, row, column);
+    const PlanTexts before = world.planTexts();
     QTest::keyClick(world.grid(), Qt::Key_X);
     world.typeOn("\r");
     world.note(QString("%1, %2").arg(row).arg(column));
