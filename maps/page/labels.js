@@ -8,7 +8,7 @@
    */
   const usageBehind = /\s*\((?:\d*|High|Low|High\/Low|Terminal|RNAV|VFR)\)$/;
   /** What only a reader of markup understands. */
-  const hardMarkup = /&|<(?!\/?(?:b|br|font|i|u)\b)/i;
+  const hardMarkup = /&|<(?!\/?(?:b|br|font)\b)/i;
 
   /** The lines of a text. That of the program's own elements alone needs no document to be read. @param {string} html */
   const readLines = html => (hardMarkup.test(html) ? page.textLines(html)

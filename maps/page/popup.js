@@ -7,39 +7,6 @@
   let shown = null;
   let pending = 0;
 
-  /** What the program's texts are made of. Anything else in them came with a name and is shown as its text. */
-  const allowed = ['B', 'BR', 'FONT', 'I', 'U'];
-  /** Elements whose inside is no text for a reader. */
-  const mute = ['SCRIPT', 'STYLE', 'TITLE', 'TEXTAREA'];
-
-  /**
-   * Copies the children of a node, with the allowed elements only, colours being their only attribute.
-   * @type {(from: Element, to: Element) => void}
-   */
-  function copyChildren(from, to) {
-    Array.from(from.childNodes).forEach(node => {
-      if (node.nodeType === Node.TEXT_NODE) {
-        to.appendChild(document.createTextNode(node.nodeValue));
-      } else if (node instanceof Element && mute.indexOf(node.nodeName) < 0) {
-        const known = allowed.indexOf(node.nodeName) >= 0;
-        const target = known ? to.appendChild(document.createElement(node.nodeName)) : to;
-        if (known && node.hasAttribute('color'))
-          target.setAttribute('color', node.getAttribute('color'));
-        copyChildren(node, target);
-      }
-    });
-  }
-
-  /** Reads the text in a document of its own, in which nothing loads and nothing runs. @param {string} html */
-  function contentOf(html) {
-    const reader = document.implementation.createHTMLDocument('');
-    reader.body.innerHTML = html;
-    const content = document.createElement('div');
-    content.className = 'popup-text';
-    copyChildren(reader.body, content);
-    return content;
-  }
-
   /** The lines of one of the program's texts, as text. @param {string} html */
   page.textLines = function (html) {
     const lines = [''];
@@ -52,13 +19,13 @@
       else
         Array.from(node.childNodes).forEach(read);
     };
-    read(contentOf(html));
+    read(page.popupContent(html));
     return lines.map(line => line.trim());
   };
 
   page.openPopup = function (marker) {
     infoWindow.close();
-    infoWindow.setContent(contentOf(marker.html));
+    infoWindow.setContent(page.popupContent(marker.html));
     infoWindow.setPosition(marker.position);
     infoWindow.open(map);
     shown = marker;

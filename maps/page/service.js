@@ -35,13 +35,32 @@ var mapService = {
     return `${mapService.address}${mark}key=${encodeURIComponent(mapService.key)}`;
   }
 
+  /** The host of the raster map, as a content policy names it; empty for one beside the page, and for none. */
+  function tileHost() {
+    const found = /^https?:\/\/[^/?#;,'"\s{}]+/i.exec(mapService.tileAddress);
+    return found ? found[0] : '';
+  }
+
+  /**
+   * The page's own files, and the pictures of the raster map: with the engine nothing else is asked for, so that what a
+   * name of the databases brings into the page cannot ask for more.
+   */
+  function startEngine() {
+    const meta = document.createElement('meta');
+    meta.httpEquiv = 'Content-Security-Policy';
+    meta.content = "default-src 'none'; script-src 'self' file: 'unsafe-inline' 'unsafe-eval'; "
+      + `style-src 'self' file: 'unsafe-inline'; img-src 'self' file: data: ${tileHost()}`;
+    document.write(meta.outerHTML);
+    loadMapEngine();
+  }
+
   /**
    * Writes the script of the service, or the engine, into the page. Both run before the scripts that follow, so that
    * `google.maps` stands when these need it, and the program's load event comes after all of them.
    */
   window.loadMapService = function () {
     if (!mapService.address || window.location.search === withEngine) {
-      loadMapEngine();
+      startEngine();
       return;
     }
     mapService.timer = window.setTimeout(startAgainWithEngine, mapService.wait * 1000);
@@ -54,6 +73,6 @@ var mapService = {
   window.settleMapService = function () {
     window.clearTimeout(mapService.timer);
     if (!(window.google && window.google.maps && window.google.maps.Map))
-      loadMapEngine();
+      startEngine();
   };
 })();

@@ -295,6 +295,7 @@ interface Page {
   whileEditing(marker: ChartMarker, call: () => void): void;
   removeLast(): void;
 
+  popupContent(html: string): HTMLElement;
   openPopup(marker: ChartMarker): void;
   closePopup(marker?: ChartMarker): void;
   closeLostPopup(): void;

@@ -14,6 +14,15 @@
 
 #include <algorithm>
 
+namespace {
+
+QString updateFolder()
+{
+    return QCoreApplication::applicationDirPath() + QLatin1String("\\Data");
+}
+
+} // namespace
+
 void storeRow(const SavedRow& row, QWidget* parent)
 {
     if (!databaseIsInPlace(row.connection)) {
@@ -34,7 +43,7 @@ void exportRow(const SavedRow& row, QWidget* parent)
 {
     const QString fileName = updateFileName(row.name);
     // A file that cannot be opened goes unnoticed: the message is the same. A full disk has been told.
-    if (writeTextFile(fileName, {composeRowLine(row.database, row.table, row.values)}) == WriteEnd::NotWhole) {
+    if (writeUpdateFile(row.name, composeRowLine(row.database, row.table, row.values)) == WriteEnd::NotWhole) {
         return;
     }
     const QString text =
@@ -44,5 +53,10 @@ void exportRow(const SavedRow& row, QWidget* parent)
 
 QString updateFileName(const QString& label)
 {
-    return QStringLiteral("%1\\Data\\%2.CSV").arg(QCoreApplication::applicationDirPath(), label);
+    return QStringLiteral("%1\\%2.CSV").arg(updateFolder(), label);
+}
+
+WriteEnd writeUpdateFile(const QString& label, const QString& lines)
+{
+    return writeTextFileIn(updateFolder(), label + QLatin1String(".CSV"), {lines});
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "wholefile.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -28,3 +30,6 @@ void exportRow(const SavedRow& row, QWidget* parent);
 /// The update file of one edit or deletion, in the folder "Data" beside the program, as it is shown to the user: with
 /// backslashes. The folder has to be there; there is one file a label, and the last one written stays.
 QString updateFileName(const QString& label);
+
+/// Writes that file, one operation a line of the text. A label that would lead out of the folder is not written.
+WriteEnd writeUpdateFile(const QString& label, const QString& lines);

@@ -134,9 +134,8 @@ bool CFlightPlan::saveFpl(const QString& fileName)
 {
     ++fplVersion; // counts a save that fails, too
     buildFplText();
-    return !textLines.isEmpty() &&
-           writeTextFile(QStringLiteral("%1\\Flightplan\\%2").arg(navVar->dirZephan.path(), fileName), textLines) ==
-               WriteEnd::Whole;
+    return !textLines.isEmpty() && writeTextFileIn(QStringLiteral("%1\\Flightplan").arg(navVar->dirZephan.path()),
+                                                   fileName, textLines) == WriteEnd::Whole;
 }
 
 QString CFlightPlan::loadFpl()
@@ -192,6 +191,6 @@ bool CFlightPlan::saveSit(const QString& fileName)
 {
     buildSitText();
     return !textLines.isEmpty() &&
-           writeTextFile(QStringLiteral("%1\\Saved Simulations\\%2").arg(navVar->dirZephan.path(), fileName),
-                         textLines) == WriteEnd::Whole;
+           writeTextFileIn(QStringLiteral("%1\\Saved Simulations").arg(navVar->dirZephan.path()), fileName,
+                           textLines) == WriteEnd::Whole;
 }

@@ -1,6 +1,19 @@
 #include "textfile.h"
 
+#include <QDir>
 #include <QTextStream>
+
+#include <algorithm>
+
+namespace {
+
+bool staysInFolder(const QString& name)
+{
+    const QString leading = QDir::separator() == QLatin1Char('\\') ? QStringLiteral("/\\:") : QStringLiteral("/\\");
+    return std::none_of(name.begin(), name.end(), [&leading](QChar letter) { return leading.contains(letter); });
+}
+
+} // namespace
 
 WriteEnd writeTextFile(const QString& path, const QStringList& pieces)
 {
@@ -11,4 +24,9 @@ WriteEnd writeTextFile(const QString& path, const QStringList& pieces)
     }
     stream.flush();
     return writeWholeFile(path, bytes);
+}
+
+WriteEnd writeTextFileIn(const QString& folder, const QString& name, const QStringList& pieces)
+{
+    return staysInFolder(name) ? writeTextFile(folder + QLatin1Char('\\') + name, pieces) : WriteEnd::NotOpened;
 }

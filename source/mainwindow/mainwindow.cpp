@@ -8,8 +8,10 @@
 #include "cnavglobalvar.h"
 #include "datadictionary.h"
 #include "interfacelanguage.h"
+#include "keptobjects.h"
 #include "mapscript.h"
 #include "mywebpage.h"
+#include "plainboxes.h"
 #include "simulatorfolders.h"
 #include "viewlayer.h"
 
@@ -57,6 +59,8 @@ void arrangeDocks(QMainWindow& window, const Ui::MainWindow& ui)
 MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(std::make_unique<Ui::MainWindow>())
 {
     registerIcons();
+    new PlainBoxes(this);
+    new KeptObjects(this);
     writeStartMark();
     settings = CNavGlobalVar::instance();
     locateFolders(*settings);

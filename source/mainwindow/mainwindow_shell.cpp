@@ -139,6 +139,7 @@ void MainWindow::createStatusLabels()
     const auto addLabel = [this](const QString& objectName) {
         auto* label = new QLabel;
         label->setObjectName(objectName);
+        label->setTextFormat(Qt::PlainText); // what the page tells holds names
         statusBar()->addPermanentWidget(label, 0);
         return label;
     };

@@ -4,7 +4,6 @@
 #include "databaseplace.h"
 #include "mainwindow.h"
 #include "rowsaving.h"
-#include "textfile.h"
 
 #include <QMessageBox>
 #include <QSqlDatabase>
@@ -15,7 +14,7 @@ namespace {
 void exportDeletion(const RowDeletion& deletion)
 {
     const QString fileName = updateFileName(deletion.label);
-    if (writeTextFile(fileName, {deletion.updateLine}) == WriteEnd::Whole) {
+    if (writeUpdateFile(deletion.label, deletion.updateLine) == WriteEnd::Whole) {
         QMessageBox::information(nullptr, deletion.exportTitle, deletion.exported.arg(deletion.label, fileName));
     } else if (!deletion.exportFailed.isNull()) {
         QMessageBox::information(nullptr, deletion.exportTitle, deletion.exportFailed.arg(deletion.label));

@@ -2,7 +2,8 @@
 
 #include <QWebPage>
 
-/// The map page: never served from WebKit's caches, and its `alert` goes to the log instead of a box.
+/// The map page: never served from WebKit's caches, its `alert` goes to the log instead of a box. A script in it, be it
+/// one that a name of the databases has brought, opens no window and no box, leads to no other page and reads no file.
 class myWebPage : public QWebPage
 {
     Q_OBJECT
@@ -10,7 +11,7 @@ class myWebPage : public QWebPage
 public:
     explicit myWebPage(QObject* parent = nullptr);
 
-    /// False for the engine's own error page: a missing map page leaves the map blank.
+    /// False for the engine's own error page (a missing map page leaves the map blank) and its choice of files.
     bool supportsExtension(Extension extension) const override;
 
 public slots:
@@ -21,4 +22,11 @@ signals:
 
 protected:
     QString userAgentForUrl(const QUrl& url) const override;
+    /// The first page may be any file; from it on, the pages of its folder and no other. An inner frame stays empty.
+    bool acceptNavigationRequest(QWebFrame* frame, const QNetworkRequest& request, NavigationType type) override;
+    /// Always false, without a box: the pages ask nothing in this way.
+    bool javaScriptConfirm(QWebFrame* frame, const QString& msg) override;
+    bool javaScriptPrompt(QWebFrame* frame, const QString& msg, const QString& defaultValue, QString* result) override;
+    /// Always none, without a box.
+    QString chooseFile(QWebFrame* frame, const QString& oldFile) override;
 };

@@ -1,10 +1,10 @@
 #include "pagewindow.h"
 
+#include "pagenetwork.h"
 #include "waiting.h"
 
 #include <QApplication>
 #include <QMouseEvent>
-#include <QNetworkAccessManager>
 #include <QNetworkRequest>
 #include <QSignalSpy>
 #include <QWebFrame>
@@ -21,10 +21,10 @@ bool isLocal(const QUrl& url)
 }
 
 /// Notes every request and lets it go on. One that leaves this machine fails whatever test the page makes it in.
-class NotingNetwork : public QNetworkAccessManager
+class NotingNetwork : public PageNetwork
 {
 public:
-    NotingNetwork(QList<QUrl>* noted, QObject* parent) : QNetworkAccessManager(parent), requests(noted) {}
+    NotingNetwork(QList<QUrl>* noted, QObject* parent) : PageNetwork(parent), requests(noted) {}
 
 protected:
     QNetworkReply* createRequest(Operation operation, const QNetworkRequest& request, QIODevice* data) override
@@ -32,7 +32,7 @@ protected:
         requests->append(request.url());
         if (!isLocal(request.url()))
             QTest::qFail(qPrintable("the page asks the network for " + request.url().toString()), __FILE__, __LINE__);
-        return QNetworkAccessManager::createRequest(operation, request, data);
+        return PageNetwork::createRequest(operation, request, data);
     }
 
 private:

@@ -143,14 +143,21 @@ void TestPagePopup::hostileTextNeitherLoadsNorRuns_data()
 {
     QTest::addColumn<QString>("html");
 
-    QTest::newRow("picture") << "<b>A</b><img src='http://127.0.0.1:9/a.png' onerror='mainWindow.doSomething(1)'>B";
+    QTest::newRow("picture") << "<b>A</b><img src='http://127.0.0.1:60001/a.png' onerror='mainWindow.doSomething(1)'>B";
     QTest::newRow("script") << "A<script>mainWindow.doSomething('x')</script>B";
-    QTest::newRow("frame") << "A<iframe src='http://127.0.0.1:9/'></iframe>B";
+    QTest::newRow("frame") << "A<iframe src='http://127.0.0.1:60001/'></iframe>B";
     QTest::newRow("handler") << "<b onclick='mainWindow.doSomething(1)' onmouseover='mainWindow.doSomething(2)'>AB</b>";
-    QTest::newRow("link") << "<a href='http://127.0.0.1:9/'>AB</a>";
+    QTest::newRow("link") << "<a href='http://127.0.0.1:60001/'>AB</a>";
     QTest::newRow("style")
-        << "<style>body{background:url(http://127.0.0.1:9/b.png)}</style><b style='position:fixed'>AB</b>";
-    QTest::newRow("colour") << "<font color='red; background: url(http://127.0.0.1:9/c.png)'>AB";
+        << "<style>body{background:url(http://127.0.0.1:60001/b.png)}</style><b style='position:fixed'>AB</b>";
+    QTest::newRow("colour") << "<font color='red; background: url(http://127.0.0.1:60001/c.png)'>AB";
+    QTest::newRow("elements of other texts") << "<i>A</i><u>B</u><h1></h1>";
+    QTest::newRow("drawing") << "A<svg><script>mainWindow.doSomething('x')</script></svg>B";
+    QTest::newRow("inside of a frame") << "A<iframe><img src=x></iframe><noscript><img src=x></noscript>B";
+    // Fields of a form stand for its properties by their names.
+    QTest::newRow("form") << "A<form><input name=childNodes><input name=nodeType><input name=nodeName>B</form>";
+    QTest::newRow("form named as the body") << "A<form name=body><input name=firstChild>B</form>";
+    QTest::newRow("bold with more") << "<b id=chart class=menu color=red onclick='mainWindow.doSomething(3)'>AB</b>";
     QTest::newRow("unfinished") << "<b><i>AB<img src=";
 }
 
@@ -176,6 +183,14 @@ void TestPagePopup::hostileTextNeitherLoadsNorRuns()
                   "a, .popup-text style, .popup-text [style], .popup-text [onclick]').length")
             .toInt(),
         0);
+    // Of all elements, those of the program's own texts alone; of all attributes, the colour alone.
+    QCOMPARE(window->run("document.querySelectorAll('.popup-text *:not(b):not(br):not(font)').length").toInt(), 0);
+    QCOMPARE(window
+                 ->run("Array.from(document.querySelectorAll('.popup-text *')).filter(element => "
+                       "Array.from(element.attributes).some(attribute => element.nodeName !== 'FONT' || attribute.name "
+                       "!== 'color')).length")
+                 .toInt(),
+             0);
 }
 
 void TestPagePopup::aPopUpFollowsTheViewAcross180Degrees()

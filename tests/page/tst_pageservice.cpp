@@ -170,6 +170,7 @@ void TestPageService::aServiceThatIsSilentIsGivenUpAfterTheWait()
     // What the program says to the page that still waits finds nothing there.
     window->page->expectFault("Can't find variable: addVORMarker");
     window->page->expectFault("Can't find variable: map");
+    window->page->expectFault("Can't find variable: google");
     QSignalSpy finished(window->view, &QWebView::loadFinished);
     window->view->load(pageWith(service.address("/map.js"), "", 0.3));
     QTRY_VERIFY_WITH_TIMEOUT(isEngine(), 20000);

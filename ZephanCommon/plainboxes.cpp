@@ -1,0 +1,37 @@
+#include "plainboxes.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+
+namespace {
+
+bool isWithNames(const QObject* object)
+{
+    const auto* message = qobject_cast<const QMessageBox*>(object);
+    if (message != nullptr) {
+        // Qt's own box about itself is written in markup.
+        return message->windowTitle() != QMessageBox::tr("About Qt");
+    }
+    return qobject_cast<const QInputDialog*>(object) != nullptr;
+}
+
+} // namespace
+
+PlainBoxes::PlainBoxes(QObject* parent) : QObject(parent)
+{
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool PlainBoxes::eventFilter(QObject* object, QEvent* event)
+{
+    // A box is polished before it is laid out and shown.
+    if (event->type() == QEvent::Polish && isWithNames(object)) {
+        for (QLabel* label : object->findChildren<QLabel*>()) {
+            label->setTextFormat(Qt::PlainText);
+        }
+    }
+    return false;
+}

@@ -1,0 +1,39 @@
+#include "pagenetwork.h"
+
+#include <QNetworkRequest>
+#include <QUrl>
+#include <QWebFrame>
+#include <QWebPage>
+
+namespace {
+
+/// The page that a request is for; empty while the first one comes.
+QUrl pageOf(const QNetworkRequest& request)
+{
+    const auto* frame = qobject_cast<QWebFrame*>(request.originatingObject());
+    return frame == nullptr ? QUrl() : frame->page()->mainFrame()->url();
+}
+
+bool isAhead(const QNetworkRequest& request)
+{
+    return request.rawHeader(QByteArrayLiteral("Purpose")) == "prefetch";
+}
+
+} // namespace
+
+bool isBesidePage(const QUrl& url, const QUrl& page)
+{
+    const QUrl folder = page.adjusted(QUrl::RemoveFilename | QUrl::NormalizePathSegments);
+    const QUrl file = url.adjusted(QUrl::NormalizePathSegments);
+    return file.isLocalFile() && file.host() == folder.host() && file.path().startsWith(folder.path());
+}
+
+QNetworkReply* PageNetwork::createRequest(Operation operation, const QNetworkRequest& request, QIODevice* data)
+{
+    const QUrl page = pageOf(request);
+    const bool isForeignFile =
+        !page.isEmpty() && request.url().scheme() == QLatin1String("file") && !isBesidePage(request.url(), page);
+    return isForeignFile || isAhead(request)
+               ? QNetworkAccessManager::createRequest(GetOperation, QNetworkRequest(), nullptr)
+               : QNetworkAccessManager::createRequest(operation, request, data);
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QNetworkAccessManager>
+
+/// The network of the map page: files of the page's own folder, and what the page's content policy lets through.
+///
+/// Refused are files from anywhere else on the machine or on a share (the engine would hand a user's log-on to a server
+/// that a name makes it ask) and what the engine fetches ahead, which passes by the content policy of a page.
+class PageNetwork : public QNetworkAccessManager
+{
+    Q_OBJECT
+
+public:
+    using QNetworkAccessManager::QNetworkAccessManager;
+
+protected:
+    /// A refused request fails as one to an unknown protocol does.
+    QNetworkReply* createRequest(Operation operation, const QNetworkRequest& request, QIODevice* data) override;
+};
+
+/// True for a file in the folder of the page or below it. Symbolic links are not followed.
+bool isBesidePage(const QUrl& url, const QUrl& page);
