@@ -53,7 +53,7 @@
     inert.innerHTML = html.slice(0, longest);
     const content = document.createElement('div');
     content.className = 'popup-text';
-    copyBelow(reader.createTreeWalker(inert, NodeFilter.SHOW_ALL, null, false), content, 0);
+    copyBelow(reader.createTreeWalker(inert, NodeFilter.SHOW_ALL), content, 0);
     return content;
   };
 })();
