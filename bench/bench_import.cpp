@@ -18,7 +18,6 @@
 namespace {
 
 constexpr int rowCount = 50000;
-constexpr int rounds = 5;
 
 class BenchVariables : public CGlobalVar
 {
@@ -141,6 +140,7 @@ double peakMemory()
 int main(int argc, char* argv[])
 {
     const QApplication application(argc, argv);
+    takeMeasureOptions(QApplication::arguments());
     const QString shell = QStandardPaths::findExecutable("sqlite3");
     if (shell.isEmpty()) {
         std::fputs("bench_import: wants the program sqlite3\n", stderr);
@@ -159,7 +159,7 @@ int main(int argc, char* argv[])
     writeFile(update, updateLine);
     writeFile(statements, sqlStatement, "PRAGMA synchronous = OFF;\nPRAGMA journal_mode = MEMORY;\n");
     const Comparison comparison = compareMs(
-        rounds, [&] { runShell(shell, folder.filePath("SHELL.db"), statements); },
+        roundsOf(5), [&] { runShell(shell, folder.filePath("SHELL.db"), statements); },
         [&] { importFile(update, variables); });
     variables.sqlMgr->addDB("SHELL.db", folder.path());
     if (summary("GEN.db") != summary("SHELL.db") || summary("GEN.db").first() != rowCount) {
@@ -171,9 +171,10 @@ int main(int argc, char* argv[])
     writeFile(longUpdate, updateLine, "", 4);
     importFile(longUpdate, variables);
 
-    const QString subject = QString("%1 navaids, ").arg(rowCount);
-    printFigure(subject + "shell of SQLite", 1000.0 * rowCount / comparison.firstMs, "rows/s");
-    printFigure(subject + "update file", 1000.0 * rowCount / comparison.secondMs, "rows/s");
-    printFigure(subject + "time of the update file to the shell's", comparison.ratio, "");
-    printFigure("a file of four times the lines, more memory", peakMemory() - peak, "MB");
+    const QString subject = "import";
+    const QString rows = QString("%1 navaids, ").arg(rowCount);
+    printFigure({subject, rows + "shell of SQLite", comparison.firstMs, "ms"});
+    printFigure({subject, rows + "update file", comparison.secondMs, "ms"});
+    printFigure({subject, rows + "update file to the shell of SQLite", comparison.ratio, "", 2.0});
+    printFigure({subject, "a file of four times the lines, more memory", peakMemory() - peak, "MB"});
 }

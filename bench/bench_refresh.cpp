@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr int rounds = 21;
-
 /// A zigzag from the north of France to its south.
 void fillPlan(CFlightPlan& plan, int lines)
 {
@@ -29,8 +27,8 @@ void fillPlan(CFlightPlan& plan, int lines)
 double refreshMs(CFlightPlan& plan, int lines)
 {
     fillPlan(plan, lines);
-    const double time = medianMs(rounds, [&] { plan.refresh(); });
-    printFigure(QString("refresh of a plan of %1 lines").arg(lines), time, "ms");
+    const double time = medianMs(roundsOf(21), [&] { plan.refresh(); });
+    printFigure({"refresh", QString("a plan of %1 lines").arg(lines), time, "ms"});
     return time;
 }
 
@@ -39,7 +37,7 @@ double refreshMs(CFlightPlan& plan, int lines)
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
-    enterSimulator(application.arguments().value(1));
+    enterSimulator(takeMeasureOptions(application.arguments()).value(0));
     MainWindow window;
     window.show();
     waitUntilLoaded(window);
@@ -47,5 +45,5 @@ int main(int argc, char* argv[])
     refreshMs(plan, 10);
     const double hundred = refreshMs(plan, 100);
     const double thousand = refreshMs(plan, 1000);
-    printFigure("1000 lines to 100 lines, 10 being linear", thousand / hundred, "");
+    printFigure({"refresh", "1000 lines to 100 lines, 10 being linear", thousand / hundred, ""});
 }

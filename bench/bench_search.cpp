@@ -11,13 +11,13 @@ namespace {
 
 void searchLetter(MainWindow& window, const QString& letter)
 {
-    constexpr int rounds = 3;
     auto* tree = window.findChild<QTreeWidget*>("treeWFound");
     window.findChild<QLineEdit*>("searchData")->setText(letter);
     const double first = elapsedMs([&] { window.searchInTable(false); });
     // A search that takes long is not taken again.
-    const double time = first > 20000.0 ? first : medianMs(rounds, [&] { window.searchInTable(false); });
-    printFigure(QString("near search \"%1\", %2 found").arg(letter).arg(tree->topLevelItemCount()), time, "ms");
+    const double time = first > 20000.0 ? first : medianMs(roundsOf(5), [&] { window.searchInTable(false); });
+    printFigure(
+        {"search", QString("near search \"%1\", %2 found").arg(letter).arg(tree->topLevelItemCount()), time, "ms"});
 }
 
 } // namespace
@@ -25,7 +25,7 @@ void searchLetter(MainWindow& window, const QString& letter)
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
-    enterSimulator(application.arguments().value(1));
+    enterSimulator(takeMeasureOptions(application.arguments()).value(0));
     MainWindow window;
     window.show();
     waitUntilLoaded(window);

@@ -4,13 +4,13 @@
 #include "measure.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QProcess>
 
 #include <cstdio>
 
 namespace {
 
-constexpr int rounds = 5;
 const char* const onlyLoad = "--only-load";
 
 /// The measured process: loads, says so and ends.
@@ -46,17 +46,18 @@ double startMs(const QString& root)
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
-    const QStringList arguments = application.arguments().mid(1);
+    const QStringList arguments = takeMeasureOptions(application.arguments());
     if (arguments.value(0) == onlyLoad) {
         return loadOnce(arguments.value(1));
     }
     for (const QString& root : arguments) {
+        const int rounds = roundsOf(5);
         std::vector<double> times;
-        times.reserve(rounds);
+        setFigurePlace(QDir(root).dirName());
         startMs(root); // the files' first reading is the disk's affair
         for (int round = 0; round < rounds; ++round) {
             times.push_back(startMs(root));
         }
-        printFigure("start to \"Chargement terminé\"", median(times), "ms");
+        printFigure({"start", "start to \"Chargement terminé\"", median(times), "ms"});
     }
 }

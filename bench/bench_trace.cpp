@@ -8,6 +8,7 @@
 #include "measure.h"
 #include "sharedblock.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
@@ -36,33 +37,71 @@ double processorMs()
 class ClockedApplication : public QApplication
 {
 public:
-    using QApplication::QApplication;
+    ClockedApplication(int& argc, char** argv) : QApplication(argc, argv)
+    {
+        // Said in each turn, before the loop waits and looks for what comes from outside.
+        connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this, [this] {
+            longestTurnMs = turnHasEvents ? std::max(longestTurnMs, elapsed(turn)) : longestTurnMs;
+            turnHasEvents = false;
+        });
+    }
 
     bool notify(QObject* receiver, QEvent* event) override
     {
         drawings += event->type() == QEvent::Paint && receiver == map ? 1 : 0;
-        if (inTurn) {
+        if (inEvent) {
             return QApplication::notify(receiver, event);
         }
-        inTurn = true;
-        turn.start();
+        inEvent = true;
+        single.start();
+        if (!turnHasEvents) {
+            turnHasEvents = true;
+            turn.start();
+        }
         const bool taken = QApplication::notify(receiver, event);
-        const double took = static_cast<double>(turn.nsecsElapsed()) / 1e6;
+        const double took = elapsed(single);
         busyMs += took;
         longestEventMs = std::max(longestEventMs, took);
-        inTurn = false;
+        inEvent = false;
         return taken;
     }
 
     const QObject* map = nullptr;
-    int drawings = 0;    ///< of the map
-    double busyMs = 0.0; ///< in events that are through
-    /// The longest of them. Several may follow one another before the loop looks for the user's next click.
-    double longestEventMs = 0.0;
+    int drawings = 0;            ///< of the map
+    double busyMs = 0.0;         ///< in events that are through
+    double longestEventMs = 0.0; ///< of them
+    /// The longest that a click has to wait: from the first event of a turn of the loop to the next turn.
+    double longestTurnMs = 0.0;
 
 private:
-    bool inTurn = false;
+    static double elapsed(const QElapsedTimer& timer)
+    {
+        return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+    }
+
+    bool inEvent = false;
+    bool turnHasEvents = false;
+    QElapsedTimer single;
     QElapsedTimer turn;
+};
+
+/// Keeps the program's own tick away while the bench ticks by itself, and leaves the user's interval in the settings.
+class NoTickOfItsOwn
+{
+public:
+    NoTickOfItsOwn() : settings(*CNavGlobalVar::instance()), interval(settings.traceInterval)
+    {
+        settings.traceInterval = never;
+    }
+    ~NoTickOfItsOwn()
+    {
+        settings.traceInterval = interval;
+    }
+    Q_DISABLE_COPY(NoTickOfItsOwn)
+
+private:
+    CNavGlobalVar& settings;
+    const int interval;
 };
 
 /// The aircraft in the block: from Paris to the south-west in tens of minutes.
@@ -125,7 +164,7 @@ public:
     {
         const double processor = processorMs();
         runFor(settleMs);
-        printFigure("the window at rest: share of one core", (processorMs() - processor) / settleMs * 100.0, "%");
+        report("the window at rest: share of one core", (processorMs() - processor) / settleMs * 100.0, "%");
     }
 
     /// The loop of the program with a tick at an interval in milliseconds.
@@ -137,6 +176,7 @@ public:
         QTimer timer;
         QEventLoop loop;
         application.longestEventMs = 0.0;
+        application.longestTurnMs = 0.0;
         application.drawings = 0;
         wall.start();
         // What a tick costs shows at the next one, when the page has drawn it.
@@ -153,12 +193,13 @@ public:
         loop.exec();
         const double wallMs = static_cast<double>(wall.nsecsElapsed()) / 1e6;
         const double processorSum = processor.back() - processor.front();
-        report(subject + ", a tick, median, processor", median(differences(processor)), "ms");
+        report(subject + ", a tick, median, processor", median(differences(processor)), "ms", 1.0);
         report(subject + ", a tick, mean, processor", processorSum / ticks, "ms");
         report(subject + ", a tick, median, event loop", median(differences(busy)), "ms");
         report(subject + ", a tick, mean, event loop", (busy.back() - busy.front()) / ticks, "ms");
         report(subject + ", share of one core", processorSum / wallMs * 100.0, "%");
         report(subject + ", longest single event", application.longestEventMs, "ms");
+        report(subject + ", longest turn of the event loop", application.longestTurnMs, "ms");
         report(subject + ", drawings of the map", application.drawings / wallMs * 1000.0, "a second");
     }
 
@@ -225,9 +266,9 @@ private:
         return 0.0;
     }
 
-    static void report(const QString& subject, double value, const char* unit)
+    static void report(const QString& name, double value, const char* unit, double goal = 0.0)
     {
-        printFigure(subject, value, unit);
+        printFigure({"trace", name, value, unit, goal});
     }
 
     ClockedApplication& application;
@@ -241,14 +282,16 @@ private:
 int main(int argc, char* argv[])
 {
     ClockedApplication application(argc, argv);
-    enterSimulator(application.arguments().value(1));
+    QStringList arguments = takeMeasureOptions(application.arguments());
+    // Some minutes, and the same on every simulator.
+    const bool memory = arguments.removeAll("--memory") > 0;
+    enterSimulator(arguments.value(0));
     MainWindow window;
     window.resize(1320, 1080);
     window.show();
     waitUntilLoaded(window);
     application.map = window.findChild<QWebView*>("map");
-    // The bench ticks by itself.
-    CNavGlobalVar::instance()->traceInterval = never;
+    const NoTickOfItsOwn quiet;
 
     TraceBench bench(application, window);
     bench.follow(false);
@@ -258,12 +301,10 @@ int main(int argc, char* argv[])
     for (const bool following : {false, true}) {
         const QString map = following ? "map following" : "map still";
         bench.follow(following);
-        bench.measure(2, 2000, "2 ms, " + map);
+        bench.measure(2, roundsOf(2000), "2 ms, " + map);
         bench.follow(following);
-        bench.measure(100, 100, "100 ms, " + map);
+        bench.measure(100, roundsOf(100), "100 ms, " + map);
     }
-    // Some minutes, and the same on every simulator.
-    const bool memory = application.arguments().contains("--memory");
     for (const bool following : {false, true}) {
         if (!memory) {
             break;

@@ -2,6 +2,7 @@
 #include "benchwindow.h"
 
 #include "mainwindow.h"
+#include "measure.h"
 
 #include <QApplication>
 #include <QDir>
@@ -10,10 +11,12 @@
 
 void enterSimulator(const QString& root)
 {
+    const QString place = QDir(root).dirName();
     const QString folder = QDir(root).absoluteFilePath("Tools/Trajector");
     if (!QDir::setCurrent(folder)) {
         qFatal("no folder %s; tools/makedemo makes a simulator's root", qPrintable(folder));
     }
+    setFigurePlace(place);
 }
 
 void waitUntilLoaded(MainWindow& window)
@@ -27,5 +30,9 @@ void waitUntilLoaded(MainWindow& window)
             qFatal("the map page did not load");
         }
         QApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+    }
+    // The program ends its load in the same words when there is no page, and all would be measured without a map.
+    if (!window.runMapScript("typeof map === 'object' && typeof addPointToFp === 'function'").toBool()) {
+        qFatal("there is no map page beside the program, or it does not work; the target map_pages makes it");
     }
 }

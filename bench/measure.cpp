@@ -1,6 +1,7 @@
 #include "measure.h"
 
 #include <QElapsedTimer>
+#include <QFile>
 
 #include <algorithm>
 #include <cstdio>
@@ -8,18 +9,71 @@
 
 namespace {
 
-bool byProcessor = false;
+struct Options
+{
+    bool byProcessor = false;
+    bool quick = false;
+    QString figures;
+    QString place;
+};
+
+Options& options()
+{
+    static Options all;
+    return all;
+}
+
+void addToFile(const Figure& figure, const QString& subject)
+{
+    QFile file(options().figures);
+    const QStringList fields{QStringLiteral("figure"),
+                             subject,
+                             figure.name,
+                             QString::number(figure.value, 'f', 3),
+                             figure.unit,
+                             figure.goal > 0.0 ? QString::number(figure.goal) : QString()};
+    const QByteArray line = fields.join('\t').toUtf8() + '\n';
+    if (!file.open(QIODevice::Append) || file.write(line) != line.size() || !file.flush()) {
+        qFatal("%s cannot be written", qPrintable(options().figures));
+    }
+}
 
 } // namespace
 
-void measureProcessorTime()
+QStringList takeMeasureOptions(const QStringList& arguments)
 {
-    byProcessor = true;
+    QStringList rest = arguments.mid(1);
+    options().byProcessor = rest.removeAll("--cpu") > 0;
+    options().quick = rest.removeAll("--quick") > 0;
+    const int figures = rest.indexOf("--figures");
+    if (figures >= 0) {
+        if (figures + 1 == rest.size()) {
+            qFatal("--figures wants a file");
+        }
+        options().figures = rest.at(figures + 1);
+        rest.erase(rest.begin() + figures, rest.begin() + figures + 2);
+    }
+    return rest;
+}
+
+bool isQuick()
+{
+    return options().quick;
+}
+
+int roundsOf(int usually)
+{
+    return isQuick() ? std::max(1, usually / 3) : usually;
+}
+
+void setFigurePlace(const QString& place)
+{
+    options().place = place;
 }
 
 double nowMs()
 {
-    if (byProcessor) {
+    if (options().byProcessor) {
         return static_cast<double>(std::clock()) * 1000.0 / CLOCKS_PER_SEC;
     }
     static const QElapsedTimer timer = [] {
@@ -73,8 +127,18 @@ Comparison compareMs(int rounds, const std::function<void()>& first, const std::
     return {firstMs, secondMs, secondMs / firstMs};
 }
 
-void printFigure(const QString& subject, double value, const char* unit)
+void printFigure(const Figure& figure)
 {
-    std::printf("  %-58s %12.3f %s\n", qPrintable(subject), value, unit);
+    const QString& place = options().place;
+    const QString subject = place.isEmpty() ? figure.subject : figure.subject + ", " + place;
+    std::printf("  %-16s %-58s %12.3f %-9s", qPrintable(subject), qPrintable(figure.name), figure.value,
+                qPrintable(figure.unit));
+    if (figure.goal > 0.0) {
+        std::printf(" goal %g %s", figure.goal, figure.value <= figure.goal ? "kept" : "MISSED");
+    }
+    std::puts("");
     std::fflush(stdout);
+    if (!options().figures.isEmpty()) {
+        addToFile(figure, subject);
+    }
 }
