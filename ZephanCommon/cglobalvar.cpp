@@ -3,10 +3,12 @@
 #include "cglobalvar.h"
 
 #include "databaselayout.h"
+#include "inivalues.h"
 #include "platformpath.h"
 #include "positions.h"
 
 #include <QDebug>
+#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 
@@ -42,6 +44,13 @@ QString folderPath(const QString& root, const QString& setting)
     return path;
 }
 
+/// The folders are texts. A file that holds anything else among them is damaged, and counts as one that is missing.
+bool isTextOnly(const QString& ini)
+{
+    QFile file(ini);
+    return !file.open(QIODevice::ReadOnly) || !holdsPackedValues(file.readAll(), "SQL");
+}
+
 bool qualifies(const QString& fileName, const QString& prefix)
 {
     const QFileInfo file(fileName);
@@ -67,9 +76,12 @@ bool CGlobalVar::init()
 
 void CGlobalVar::initDBPath()
 {
-    const QSettings settings(QStringLiteral("%1/system/AeoZephan.ini").arg(dirZephan.path()), QSettings::IniFormat);
+    const QString path = QStringLiteral("%1/system/AeoZephan.ini").arg(dirZephan.path());
+    const QString usual = QStringLiteral("../../SQL");
+    const bool readable = isTextOnly(path);
+    const QSettings settings(path, QSettings::IniFormat);
     for (const FolderKey& entry : folderKeys) {
-        const QVariant setting = settings.value(QLatin1String(entry.key), QStringLiteral("../../SQL"));
+        const QVariant setting = readable ? settings.value(QLatin1String(entry.key), usual) : usual;
         (this->*entry.folder).setPath(folderPath(dirZephan.path(), setting.toString()));
     }
     qDebug() << "AeoZephan.ini settings";

@@ -23,7 +23,7 @@ bool tells(const QString& text, double value, double precision)
         return text == QLatin1String(value > 0.0 ? "inf" : "-inf");
     }
     const double told = text.toDouble();
-    return told == value || std::fabs(told - value) <= precision;
+    return told == value || std::fabs(told - value) <= precision + std::fabs(value) * 1e-15; // and a double's own
 }
 
 void checkNumbers(const QRegularExpressionMatch& match, const AeoZephanNavRecord& record)

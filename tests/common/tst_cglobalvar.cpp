@@ -79,6 +79,25 @@ private slots:
         QCOMPARE(global.dirOSM.path(), sandbox.path("g"));
     }
 
+    void aPackedValueAmongTheFoldersMakesTheFileCountAsMissing()
+    {
+        Sandbox sandbox(Sandbox::Databases::None);
+        writeIni(sandbox, "GENDB=a\nM3DDB=@Variant(\\0\\0\\0\\t\\xff\\xff\\xff\\xff)\n");
+        Global global(sandbox);
+        global.initDBPath();
+        QCOMPARE(global.dirGEN.path(), sandbox.path("../../SQL"));
+        QCOMPARE(global.dirM3D.path(), sandbox.path("../../SQL"));
+    }
+
+    void aPackedValueOfAnotherSectionDoesNoHarm()
+    {
+        Sandbox sandbox(Sandbox::Databases::None);
+        writeIni(sandbox, "GENDB=a\n[UI]\nsize=@Variant(\\0\\0\\0\\t\\xff\\xff\\xff\\xff)\n");
+        Global global(sandbox);
+        global.initDBPath();
+        QCOMPARE(global.dirGEN.path(), sandbox.path("a"));
+    }
+
     void folderOfAKey_data()
     {
         QTest::addColumn<QByteArray>("value");
