@@ -136,7 +136,8 @@
       const ratio = window.devicePixelRatio || 1;
       const width = Math.round(area.width * ratio);
       const height = Math.round(area.height * ratio);
-      if (this.canvas.width !== width || this.canvas.height !== height) {
+      const isNew = this.canvas.width !== width || this.canvas.height !== height;
+      if (isNew) {
         this.canvas.width = width;
         this.canvas.height = height;
         this.canvas.style.width = `${area.width}px`;
@@ -144,7 +145,8 @@
       }
       const context = this.canvas.getContext('2d');
       context.setTransform(ratio, 0, 0, ratio, 0, 0);
-      if (!keep)
+      // A canvas of a new size is empty.
+      if (!keep && !isNew)
         context.clearRect(0, 0, area.width, area.height);
       return engine.frameOf(context, area);
     },

@@ -15,6 +15,13 @@
       /** @type {?LayerParts} */
       this.layer = null;
       this.dressing = 0;
+      // What else a layer puts there has its place from the start: to make it later costs more memory and time.
+      this.x = 0;
+      this.y = 0;
+      /** @type {?PointStyle} */
+      this.look = null;
+      /** @type {?Sprite} */
+      this.sprite = null;
     }
 
     /** @param {string} name */
@@ -43,6 +50,10 @@
       /** @type {google.maps.Data.StylingFunction|PointStyle} */
       this.style = {};
       this.dressing = 1;
+      /** The icon asked for last and its sprite: neighbours mostly look alike. @type {?google.maps.Symbol} */
+      this.icon = null;
+      /** @type {?Sprite} */
+      this.sprite = null;
       /** @type {?google.maps.Map} */
       this.map = null;
       this.setMap(options && options.map);
@@ -127,12 +138,18 @@
     /**
      * Brings `look` and `sprite` of a point up to the layer's style.
      * @param {google.maps.Data.Feature} feature
+     * @param {number} ratio of the screen's pixels to CSS pixels
      */
-    dress(feature) {
+    dress(feature, ratio) {
       const look = typeof this.style === 'function' ? this.style(feature) : this.style;
       const override = this.overrides.size ? this.overrides.get(feature) : undefined;
       feature.look = override ? Object.assign(Object.create(look), override) : look;
-      feature.sprite = engine.spriteOf(/** @type {google.maps.Symbol} */ (feature.look.icon || noSymbol));
+      const icon = /** @type {google.maps.Symbol} */ (feature.look.icon || noSymbol);
+      if (icon !== this.icon || this.sprite.ratio !== ratio) {
+        this.icon = icon;
+        this.sprite = engine.spriteOf(icon);
+      }
+      feature.sprite = this.sprite;
       feature.dressing = this.dressing;
     }
 

@@ -17,7 +17,6 @@
    * place it, and to draw the outline of one takes the time of a hundred copies.
    */
   const fonts = new Map();
-  const ruler = document.createElement('canvas').getContext('2d');
   const stamp = document.createElement('canvas');
 
   class LabelFont {
@@ -27,13 +26,15 @@
       this.widths = new Map();
       this.rims = new Map();
       this.rimKey = '';
+      // One of its own: to set a font takes longer than to measure a letter.
+      this.ruler = document.createElement('canvas').getContext('2d');
+      this.ruler.font = name;
     }
 
     widthOfLetter(letter) {
       let width = this.widths.get(letter);
       if (width === undefined) {
-        ruler.font = this.name;
-        width = ruler.measureText(letter).width;
+        width = this.ruler.measureText(letter).width;
         this.widths.set(letter, width);
       }
       return width;

@@ -13,6 +13,9 @@
   /** Half the height of the letters, and what a picture has around them for their rim and their slant. */
   const half = 8;
   const margin = 4;
+  /** The least width of a sheet of pictures. On it pictures begin at whole pixels of most screens. */
+  const sheetWidth = 1024;
+  const sheetStep = 4;
 
   /** Letters of each kind; countries are spaced capitals. The colours are parts of the base colours. */
   const kinds = {
@@ -187,6 +190,7 @@
         if (other)
           this.written.push(other);
       });
+      this.makePictures(this.written.map(place => place.name));
       this.written.forEach(place => this.write(frame.context, place, frame.left, frame.top));
     }
 
@@ -221,9 +225,9 @@
     /** Copies the name's picture; the dot and the letters stand on whole pixels, so that it stays sharp. */
     write(context, place, left, top) {
       const name = place.name;
-      const picture = this.pictureOf(name);
-      context.drawImage(picture.canvas, place.letters - left - margin, place.row - top - half - margin, picture.width,
-        picture.height);
+      const { canvas, ratio, x, y, width, height } = name.picture;
+      context.drawImage(canvas, x * ratio, y * ratio, width * ratio, height * ratio,
+        place.letters - left - margin, place.row - top - half - margin, width, height);
       if (name.dot) {
         context.fillStyle = this.colours[name.kind.colour];
         context.beginPath();
@@ -232,30 +236,57 @@
       }
     }
 
-    /** The letters with their rim, drawn once for a palette. */
-    pictureOf(name) {
-      if (name.picture && name.picture.colours === this.colours)
-        return name.picture;
-      const picture = {
-        colours: this.colours,
-        canvas: document.createElement('canvas'),
-        width: Math.ceil(name.width) + 2 * margin,
-        height: 2 * (half + margin),
-      };
-      const context = engine.clearPicture(picture.canvas, picture);
-      const rim = this.colours[name.kind.rim];
-      if (rim)
-        engine.drawRim(context, picture, letters => this.drawLetters(letters, name, rim));
-      this.drawLetters(context, name, this.colours[name.kind.colour]);
-      name.picture = picture;
-      return picture;
+    /**
+     * Draws the letters with their rims, once for a palette and screen. Names that appear together share a sheet: a
+     * canvas for each takes longer than its letters.
+     */
+    makePictures(names) {
+      const ratio = window.devicePixelRatio || 1;
+      const missing = new Set(names.filter(name =>
+        !name.picture || name.picture.colours !== this.colours || name.picture.ratio !== ratio));
+      if (!missing.size)
+        return;
+      // A new font takes as long as several letters.
+      const sorted = Array.from(missing).sort((a, b) => (a.font.name < b.font.name ? -1 : 1));
+      const sheet = this.layOut(sorted, { canvas: document.createElement('canvas'), ratio, colours: this.colours });
+      const context = engine.clearPicture(sheet.canvas, sheet);
+      engine.drawRim(context, sheet, letters => this.drawAll(letters, sorted, 'rim'));
+      this.drawAll(context, sorted, 'colour');
     }
 
-    drawLetters(context, name, colour) {
-      context.font = name.font.name;
+    /** Gives names their places on a sheet, row by row. @return the size of the sheet */
+    layOut(names, sheet) {
+      const height = 2 * (half + margin);
+      let x = 0;
+      let y = 0;
+      let right = sheetWidth;
+      names.forEach(name => {
+        const width = sheetStep * Math.ceil((name.width + 2 * margin) / sheetStep);
+        if (x > 0 && x + width > sheetWidth) {
+          x = 0;
+          y += height;
+        }
+        name.picture = Object.assign({ x, y, width, height }, sheet);
+        x += width;
+        right = Math.max(right, x);
+      });
+      return Object.assign({ width: right, height: y + height }, sheet);
+    }
+
+    /** @param {string} part of their kinds' colours */
+    drawAll(context, names, part) {
+      let font = null;
       context.textBaseline = 'middle';
-      context.fillStyle = colour;
-      this.letters(name, (text, x) => context.fillText(text, x, half + margin));
+      names.forEach(name => {
+        const colour = this.colours[name.kind[part]];
+        if (!colour)
+          return;
+        if (font !== name.font)
+          context.font = name.font.name;
+        font = name.font;
+        context.fillStyle = colour;
+        this.letters(name, (text, x) => context.fillText(text, name.picture.x + x, name.picture.y + half + margin));
+      });
     }
 
     /** A canvas knows no space between letters: spaced names are written one by one. */

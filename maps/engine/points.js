@@ -92,7 +92,7 @@
         if (x < -margin || y < -margin || x > right || y > bottom)
           continue;
         if (point.dressing !== layer.dressing || point.sprite.ratio !== ratio)
-          layer.dress(point);
+          layer.dress(point, ratio);
         if (point.look.visible === false)
           continue;
         const height = point.look.zIndex || 0;
@@ -149,10 +149,11 @@
      */
     nearest(x, y, scale) {
       const best = { point: null, square: Infinity };
+      const ratio = window.devicePixelRatio || 1;
       this.layers.forEach(layer => {
         const found = layer.grid.nearest(x, y, touchPixels / scale, point => {
           if (point.dressing !== layer.dressing)
-            layer.dress(point);
+            layer.dress(point, ratio);
           return point.look.visible !== false && point.look.clickable !== false;
         });
         if (found.point && (found.square < best.square

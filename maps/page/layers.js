@@ -80,14 +80,31 @@ var WPTVfrMgr = null;
 
     /** @param {ChartMarker} marker */
     show(marker) {
-      if (!this.shown.has(marker))
-        this.shown.set(marker, this.layer.add({ geometry: marker.position, properties: { marker: marker } }));
+      if (marker.badge === this.badge)
+        return;
+      marker.badge = this.badge;
+      this.shown.push(marker);
     }
 
     changed() {
-      this.layer.setMap(map);
       page.fitLooks();
+      this.fill();
       this.fitOthers();
+    }
+
+    /**
+     * Puts the markers onto the map, if the zoom lets any of them be seen: most of the feed's thousands are too far away
+     * to be drawn when they come, and wait here until they are.
+     */
+    fill() {
+      const isSeen = this.shown.some(marker => looks.draws(marker.symbol)) || (!!chosen && chosen.badge === this.badge);
+      if (isSeen) {
+        for (; this.filled < this.shown.length; ++this.filled) {
+          const marker = this.shown[this.filled];
+          this.layer.add({ geometry: marker.position, properties: { marker: marker } });
+        }
+      }
+      this.layer.setMap(isSeen ? map : null);
     }
 
     /** What is drawn by the markers that this layer shows. */
@@ -99,12 +116,27 @@ var WPTVfrMgr = null;
 
     /** @param {ChartMarker} marker */
     removeMarker(marker) {
-      const feature = this.shown.get(marker);
-      if (!feature)
+      if (marker.badge !== this.badge)
         return;
-      this.layer.remove(feature);
-      this.shown.delete(marker);
+      marker.badge = null;
+      const at = this.shown.indexOf(marker);
+      this.shown.splice(at, 1);
+      if (at < this.filled) {
+        --this.filled;
+        this.layer.remove(this.pointOf(marker));
+      }
       this.fitOthers();
+    }
+
+    /** @param {ChartMarker} marker @return {?google.maps.Data.Feature} its point in the layer */
+    pointOf(marker) {
+      /** @type {?google.maps.Data.Feature} */
+      let found = null;
+      this.layer.forEach(feature => {
+        if (feature.getProperty('marker') === marker)
+          found = feature;
+      });
+      return found;
     }
 
     /**
@@ -112,16 +144,19 @@ var WPTVfrMgr = null;
      * @param {ChartMarker} marker
      */
     draws(marker) {
-      return page.isPlanned(marker)
-        || (this.shown.has(marker) && !!this.layer.getMap() && styleOf(marker).visible !== false);
+      return page.isPlanned(marker) || (marker.badge === this.badge && styleOf(marker).visible !== false);
     }
 
     /** Hides all markers of the layer. */
     clearMarkers() {
       if (this.layer)
         this.layer.setMap(null);
-      /** @type {Map<ChartMarker, google.maps.Data.Feature>} */
-      this.shown = new Map();
+      /** @type {ChartMarker[]} */
+      this.shown = [];
+      /** How many of them have their points in the layer. */
+      this.filled = 0;
+      /** The shown markers bear it: to ask each for it takes far less than to look for each among all of them. */
+      this.badge = {};
       this.layer = new google.maps.Data();
       this.dress();
       page.listenToLayer(this.layer);
@@ -131,11 +166,13 @@ var WPTVfrMgr = null;
 
     /** @return {ChartMarker[]} those that are shown */
     markers() {
-      return Array.from(this.shown.keys());
+      return this.shown;
     }
 
+    /** Draws all markers anew. */
     dress() {
       this.layer.setStyle(feature => styleOf(feature.getProperty('marker')));
+      this.fill();
     }
   }
 

@@ -188,6 +188,7 @@
     // What lies on what is asked anew each half zoom.
     const near = Math.round(zoom * 2) / 2;
     return {
+      draws: symbol => looks[symbol].at.form !== 'none',
       hasNames: symbol => looks[symbol].at.text === 'name',
       key: `${page.palette.name} ${near} ${keys.join(' ')}`,
       of: (marker, isTold) => {

@@ -42,6 +42,8 @@ var listWptVfr = [];
       this.position = position;
       this.title = String(title);
       this.html = String(html);
+      /** That of the layer which shows it. @type {?Object} */
+      this.badge = null;
     }
 
     getTitle() {

@@ -277,7 +277,7 @@ interface MapParts {
 interface LayerParts {
   grid: HitGrid;
   dressing: number;
-  dress(point: PointParts): void;
+  dress(point: PointParts, ratio: number): void;
 }
 
 interface PointParts {
@@ -285,10 +285,10 @@ interface PointParts {
   properties: Record<string, unknown>;
   layer: LayerParts | null;
   dressing: number;
-  x?: number;
-  y?: number;
-  look?: PointStyle;
-  sprite?: Sprite;
+  x: number;
+  y: number;
+  look: PointStyle | null;
+  sprite: Sprite | null;
 }
 
 /** Leaflet's own corners of a map and the element that holds them. */

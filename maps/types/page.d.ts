@@ -19,6 +19,8 @@ interface ChartMarker {
   position: Place;
   title: string;
   html: string;
+  /** That of the layer which shows it. */
+  badge: object | null;
   getTitle(): string;
   getPosition(): Place;
   tail(): string;
@@ -45,7 +47,7 @@ interface MarkerManager {
   clearMarkers(): void;
   addMarker(marker: ChartMarker): void;
   removeMarker(marker: ChartMarker): void;
-  /** Those that are shown. */
+  /** Those that are shown, the list itself. */
   markers(): ChartMarker[];
   draws(marker: ChartMarker): boolean;
   dress(): void;
@@ -67,6 +69,8 @@ interface Stage {
 /** The looks of all markers at a zoom. The key is the same as long as everything looks the same. */
 interface Looks {
   key: string;
+  /** Whether anything of a kind is drawn. */
+  draws: (symbol: string) => boolean;
   /** Whether names stand beside the symbols of a kind. */
   hasNames: (symbol: string) => boolean;
   /** `isTold`: the marker's label stands there already. */

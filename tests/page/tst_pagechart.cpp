@@ -602,7 +602,7 @@ void TestPageChart::aCopiedLookKeepsItsLabel()
     QCOMPARE(window->run("copy.label.text").toString(), QString("LFXX"));
     QVERIFY(window->run("copy.icon === look.icon && copy.zIndex === look.zIndex").toBool());
     window->run("ArptMgr.layer.forEach(point => ArptMgr.layer.overrideStyle(point, { zIndex: 7 }));"
-                "ArptMgr.layer.forEach(point => { ArptMgr.layer.dress(point); look = point.look; });");
+                "ArptMgr.layer.forEach(point => { ArptMgr.layer.dress(point, 1); look = point.look; });");
     QCOMPARE(window->run("look.zIndex").toInt(), 7);
     QCOMPARE(window->run("look.label.text").toString(), QString("LFXX"));
 }
