@@ -218,8 +218,8 @@
       if (!this.covers)
         return;
       this.covers.setStyle({ icon: cover, zIndex: coverHeight, clickable: false });
-      discs.forEach(disc => this.covers.add(new google.maps.Data.Feature({
-        geometry: this.projection.fromDivPixelToLatLng(new google.maps.Point(disc.x, disc.y)) })));
+      discs.forEach(disc => this.covers.add({
+        geometry: this.projection.fromDivPixelToLatLng(new google.maps.Point(disc.x, disc.y)) }));
       this.covers.setMap(map);
     }
 

@@ -58,7 +58,7 @@ interface Handed {
   MapPanes: Pick<google.maps.MapPanes, 'overlayLayer'>;
   Projection: Pick<google.maps.Projection, 'fromLatLngToPoint'>;
   MapCanvasProjection: Pick<google.maps.MapCanvasProjection, 'fromLatLngToDivPixel' | 'fromLatLngToContainerPixel'
-    | 'getWorldWidth'>;
+    | 'fromDivPixelToLatLng' | 'getWorldWidth'>;
   /** Without an event of the document where a point has left the pointer. */
   MapMouseEvent: Pick<google.maps.MapMouseEvent, 'latLng'> & Partial<Pick<google.maps.MapMouseEvent, 'domEvent'>>;
   /** Of a point. */
