@@ -97,7 +97,8 @@ var WPTVfrMgr = null;
      * to be drawn when they come, and wait here until they are.
      */
     fill() {
-      const isSeen = this.shown.some(marker => looks.draws(marker.symbol)) || (!!chosen && chosen.badge === this.badge);
+      const isSeen = (!!chosen && chosen.badge === this.badge)
+        || this.shown.some(marker => looks.draws(marker.symbol));
       if (isSeen) {
         for (; this.filled < this.shown.length; ++this.filled) {
           const marker = this.shown[this.filled];
