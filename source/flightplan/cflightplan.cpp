@@ -46,7 +46,7 @@ CFlightPlan::~CFlightPlan() = default;
 
 CFpLinePtr CFlightPlan::newLine()
 {
-    CFpLinePtr line(new CFpLine);
+    const CFpLinePtr line = CFpLinePtr::create();
     line->speed = aircraft->speedCruise;
     line->altd = aircraft->altCruise;
     return line;

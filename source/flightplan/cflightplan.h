@@ -6,6 +6,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 #include <memory>
 
@@ -59,7 +60,7 @@ public:
     int fplVersion = 0; ///< count of saves; the file's <vers>
     CNavGlobalVar* navVar;
     std::unique_ptr<CAircraftData> aircraft;
-    QList<CFpLinePtr> foundLines;
+    QVector<CFpLinePtr> foundLines;
     QList<CFpLinePtr> lines; ///< in flying order
     QTableWidget* grid;      ///< not owned
     QStringList textLines;   ///< text of the file last built, each piece with its own line feed

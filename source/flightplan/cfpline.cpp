@@ -82,7 +82,7 @@ void fromRunwayEnd(CFpLine& line, const QSqlQuery& row, const RunwayEnd& end)
 {
     line.fpType = QStringLiteral("uswp");
     line.iden = row.value(end.id).toString();
-    line.name = QStringLiteral("RWY %1").arg(line.iden);
+    line.name = QStringLiteral("RWY ") + line.iden;
     setPosition(line, row, end.latitude, end.longitude);
     line.elev = row.value(end.elevation).toInt();
     line.dbKey = QStringLiteral("NONE");

@@ -2,7 +2,6 @@
 
 #include "cfpline.h"
 
-#include <QList>
 #include <QString>
 #include <QVector>
 
@@ -12,8 +11,10 @@ class CFlightPlan;
 struct FoundPoint
 {
     CFpLinePtr line;
-    QList<CFpLinePtr> runways; ///< of an airport: the high and the low end of each runway
+    QVector<CFpLinePtr> runways; ///< of an airport: the high and the low end of each runway
 };
+
+Q_DECLARE_TYPEINFO(FoundPoint, Q_MOVABLE_TYPE);
 
 /// Rows whose key, identity or name fits the text, in the order of the database. A failed statement shows the error
 /// box and finds nothing.

@@ -28,12 +28,57 @@ QIcon navaidIcon(int type)
     return names.contains(type) ? bitmapIcon(names.value(type)) : QIcon();
 }
 
+// An item that says what its line says. A found line keeps its names as long as it is found, so that the item needs no
+// texts of its own: a near search of nothing makes hundreds of thousands of items.
+class FoundItem : public QTreeWidgetItem
+{
+public:
+    FoundItem(const CFpLinePtr& foundLine, int indexOfLine, const QIcon& itemIcon)
+        : line(foundLine), index(indexOfLine), icon(itemIcon)
+    {
+    }
+
+    QVariant data(int column, int role) const override
+    {
+        if (role == Qt::DecorationRole && column == 0) {
+            return icon;
+        }
+        return role == Qt::DisplayRole || role == Qt::EditRole ? shownText(column)
+                                                               : QTreeWidgetItem::data(column, role);
+    }
+
+private:
+    QVariant shownText(int column) const
+    {
+        switch (column) {
+        case 0:
+            return QString();
+        case 1:
+            return line->iden;
+        case 2:
+            return line->ctry;
+        case 3:
+            return line->name;
+        case 4:
+            return line->dbKey;
+        case indexColumn:
+            return QString::number(index);
+        default:
+            return {};
+        }
+    }
+
+    const CFpLinePtr line;
+    const int index;
+    const QIcon icon;
+};
+
 // The found lines and their items, built together so that the indexes match. The items go to the tree at the end, in
 // one go: a tree that takes them one by one lays itself out for each.
 class FoundItems
 {
 public:
-    FoundItems(QList<CFpLinePtr>& foundLines, int lineSpeed, int lineAltitude)
+    FoundItems(QVector<CFpLinePtr>& foundLines, int lineSpeed, int lineAltitude)
         : lines(foundLines), speed(lineSpeed), altitude(lineAltitude)
     {
     }
@@ -54,14 +99,12 @@ public:
 private:
     QTreeWidgetItem* makeItem(const CFpLinePtr& line, const QIcon& icon)
     {
-        const QString index = QString::number(lines.size());
-        auto* item = new QTreeWidgetItem({QString(), line->iden, line->ctry, line->name, line->dbKey, index});
-        item->setIcon(0, icon);
+        auto* item = new FoundItem(line, lines.size(), icon);
         lines << line;
         return item;
     }
 
-    QList<CFpLinePtr>& lines;
+    QVector<CFpLinePtr>& lines;
     const int speed;
     const int altitude;
     const QIcon runwayIcon = bitmapIcon(QStringLiteral("Img10"));

@@ -39,6 +39,7 @@ private slots:
     void cleanup();
     void smallLettersStandInCapitalsAfterwards();
     void airportWithItsRunways();
+    void theViewIsGivenWhatTheItemsSay();
     void navaidItem();
     void waypointItem();
     void navaidIcon_data();
@@ -122,6 +123,25 @@ void TestSearch::airportWithItsRunways()
     QCOMPARE(airport->child(0)->childCount(), 0);
     QCOMPARE(airport->type(), 0);
     QCOMPARE(airport->child(0)->type(), 0);
+}
+
+void TestSearch::theViewIsGivenWhatTheItemsSay()
+{
+    search("LFPO", true);
+    const QAbstractItemModel* model = tree()->model();
+    const QModelIndex airport = model->index(0, 0);
+    const auto shownTexts = [](const QModelIndex& first) {
+        QStringList shown;
+        for (int column = 0; column <= 4; ++column)
+            shown << first.sibling(first.row(), column).data().toString();
+        return shown;
+    };
+    QCOMPARE(shownTexts(airport), (QStringList{"", "LFPO", "FR", "PARIS ORLY", "LFPO"}));
+    QCOMPARE(shownTexts(model->index(1, 0, airport)), (QStringList{"", "06", "", "RWY 06", "NONE"}));
+    QVERIFY(!airport.data(Qt::DecorationRole).isNull());
+    QVERIFY(!airport.sibling(0, 1).data(Qt::DecorationRole).isValid());
+    QCOMPARE(airport.sibling(0, 1).data(Qt::EditRole).toString(), tree()->topLevelItem(0)->text(1));
+    QCOMPARE(tree()->topLevelItem(0)->type(), 0);
 }
 
 void TestSearch::navaidItem()
