@@ -4,6 +4,7 @@ if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
 endif()
 add_compile_options(
     -fsanitize=fuzzer-no-link,address,undefined,float-cast-overflow
+    -fno-sanitize=vptr # the web engine's own objects are built without the type information that it looks for
     -fno-sanitize-recover=all
     -fno-omit-frame-pointer)
 add_link_options(-fsanitize=address,undefined)
