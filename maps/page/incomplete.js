@@ -21,13 +21,20 @@
     document.body.appendChild(note);
   }
 
+  /** The script that runs while the page is read: the last one that stands there so far. */
+  function runningScript() {
+    const all = document.scripts;
+    return all.length > 0 ? all[all.length - 1].src : '';
+  }
+
   /**
-   * An error of a script's run names its file, one of loading comes from the element.
+   * An error of loading comes from the element. One of a script's run comes from the window, and does not always tell
+   * its file: to a page that may not read the files of the disk each of them is a stranger's.
    * @param {any} event
    */
   function take(event) {
     const element = event.target;
-    const address = event.filename || element.src || element.href || '';
+    const address = event.filename || element.src || element.href || runningScript();
     if (named || address.indexOf(ownFiles) !== 0)
       return;
     named = decodeURI(address.slice(ownFiles.length));

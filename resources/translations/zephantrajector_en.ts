@@ -1085,6 +1085,13 @@ in %2</translation>
     </message>
 </context>
 <context>
+    <name>QMessageBox</name>
+    <message>
+        <source>About Qt</source>
+        <translation>About Qt</translation>
+    </message>
+</context>
+<context>
     <name>RowSaving</name>
     <message>
         <source>Le fichier d&apos;export pour %1

@@ -31,7 +31,7 @@ private slots:
         QTest::newRow("warning") << 1 << QByteArray("[warning ] (void f() : 12) - text\n");
         QTest::newRow("critical") << 2 << QByteArray("[critical] (void f() : 12) - text\n");
         QTest::newRow("a type without a pattern") << 4 << QByteArray("\n");
-        QTest::newRow("a type that is none") << 99 << QByteArray("\n");
+        QTest::newRow("a type that is none") << 7 << QByteArray("\n");
     }
 
     void patternOfAType()
