@@ -60,7 +60,6 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(std::make_uniq
 {
     registerIcons();
     new PlainBoxes(this);
-    new KeptObjects(this);
     writeStartMark();
     settings = CNavGlobalVar::instance();
     locateFolders(*settings);
@@ -90,6 +89,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(std::make_uniq
     }
     loadAircraft();
     ui->btnPod->setVisible(false);
+    new KeptObjects(this);
 }
 
 MainWindow::~MainWindow()

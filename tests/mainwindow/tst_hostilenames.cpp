@@ -9,9 +9,12 @@
 #include "mainwindow.h"
 
 #include <QAction>
+#include <QContextMenuEvent>
+#include <QDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPointer>
 #include <QWebView>
 #include <QtTest>
@@ -49,6 +52,9 @@ private slots:
     void theBoxAboutQtKeepsItsMarkup();
     void aScriptPressesWhatTheUserMayPress();
     void aScriptEndsNoPartOfTheWindow();
+    void aScriptThatTakesTheNamesAwayEndsNothingEither();
+    void aScriptEndsNoDialog();
+    void theMenusOfALineEditEnd();
     void aScriptLeadsTheMapNowhere();
     void aTitleBringsNoSecondStatement();
     void aKeyWithAQuoteDeletesNothing();
@@ -225,6 +231,54 @@ void TestHostileNames::aScriptEndsNoPartOfTheWindow()
     QCoreApplication::processEvents();
     QVERIFY(window && map && action);
     QCOMPARE(evaluate("typeof map.getZoom()").toString(), QString("number"));
+}
+
+// A script may write the name of whatever it reaches.
+void TestHostileNames::aScriptThatTakesTheNamesAwayEndsNothingEither()
+{
+    session.reset(new WindowSession);
+    QVERIFY(session->load());
+    const QPointer<QObject> window = &session->window();
+    const QPointer<QObject> action = session->action("actVor");
+    evaluate("var a = mainWindow.actVor; a.objectName = ''; a.deleteLater();"
+             "mainWindow.objectName = ''; mainWindow.deleteLater()");
+    QCOMPARE(action->objectName(), QString());
+    QCOMPARE(window->objectName(), QString());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    QVERIFY(window && action);
+}
+
+void TestHostileNames::aScriptEndsNoDialog()
+{
+    session.reset(new WindowSession);
+    QVERIFY(session->load());
+    const QPointer<QDialog> dialog = new QDialog(&session->window());
+    const QPointer<QLineEdit> line = new QLineEdit(dialog);
+    dialog->setObjectName("shown");
+    line->setObjectName("line");
+    dialog->show();
+    evaluate("var d = mainWindow.shown; d.line.deleteLater(); d.objectName = ''; d.deleteLater()");
+    QCOMPARE(dialog->objectName(), QString());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(dialog && line);
+    delete dialog;
+}
+
+void TestHostileNames::theMenusOfALineEditEnd()
+{
+    session.reset(new WindowSession);
+    QVERIFY(session->load());
+    auto* line = session->find<QLineEdit>("searchData");
+    const int before = line->findChildren<QMenu*>().size();
+    for (int i = 0; i < 5; ++i) {
+        QContextMenuEvent click(QContextMenuEvent::Mouse, {5, 5}, line->mapToGlobal({5, 5}));
+        QCoreApplication::sendEvent(line, &click);
+        QCOMPARE(line->findChildren<QMenu*>().size(), before + 1);
+        line->findChildren<QMenu*>().constLast()->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(line->findChildren<QMenu*>().size(), before);
+    }
 }
 
 void TestHostileNames::aScriptLeadsTheMapNowhere()
