@@ -1,5 +1,6 @@
 #include "pagenetwork.h"
 
+#include <QDebug>
 #include <QNetworkRequest>
 #include <QUrl>
 #include <QWebFrame>
@@ -33,6 +34,10 @@ QNetworkReply* PageNetwork::createRequest(Operation operation, const QNetworkReq
     const QUrl page = pageOf(request);
     const bool isForeignFile =
         !page.isEmpty() && request.url().scheme() == QLatin1String("file") && !isBesidePage(request.url(), page);
+    if (isForeignFile && !hasTold) {
+        hasTold = true;
+        qDebug() << "Not in the folder of the map page, not loaded:" << request.url().toString();
+    }
     return isForeignFile || isAhead(request)
                ? QNetworkAccessManager::createRequest(GetOperation, QNetworkRequest(), nullptr)
                : QNetworkAccessManager::createRequest(operation, request, data);

@@ -14,8 +14,12 @@ public:
     using QNetworkAccessManager::QNetworkAccessManager;
 
 protected:
-    /// A refused request fails as one to an unknown protocol does.
+    /// A refused request fails as one to an unknown protocol does. The first foreign file is told in the debug output.
     QNetworkReply* createRequest(Operation operation, const QNetworkRequest& request, QIODevice* data) override;
+
+private:
+    /// Once is enough: a raster map asks for dozens of pictures at each move.
+    bool hasTold = false;
 };
 
 /// True for a file in the folder of the page or below it. Symbolic links are not followed.
