@@ -53,6 +53,7 @@ int main(int argc, char* argv[])
     for (const QString& root : arguments) {
         const int rounds = roundsOf(5);
         std::vector<double> times;
+        times.reserve(static_cast<std::size_t>(rounds));
         setFigurePlace(QDir(root).dirName());
         startMs(root); // the files' first reading is the disk's affair
         for (int round = 0; round < rounds; ++round) {
