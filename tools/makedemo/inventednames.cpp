@@ -18,8 +18,8 @@ const char* const townTails[] = {"AC",   "AGNE", "ARD",  "BOIS",  "BOURG", "CHAM
 const char* const rivers[] = {"ARGUE", "BRESLE",  "CISSE", "DOUVE", "ERDRE",
                               "LAINE", "MAULDRE", "ORGE",  "SARCE", "VERE"};
 
-const char consonants[] = "BCDFGHJKLMNPQRSTVWXZ";
-const char vowels[] = "AEIOU";
+const QLatin1String consonants("BCDFGHJKLMNPQRSTVWXZ");
+const QLatin1String vowels("AEIOU");
 constexpr int words = 20 * 5 * 20 * 5 * 20;
 constexpr int letters = 26;
 constexpr int threeLetters = letters * letters * letters;
@@ -81,10 +81,9 @@ QString inventedFiveLetters(int index)
     int number = scattered(index % words, words);
     QString word;
     for (int place = 0; place < 5; ++place) {
-        const bool vowel = place % 2 == 1;
-        const int choices = vowel ? 5 : 20;
-        word += QLatin1Char((vowel ? vowels : consonants)[number % choices]);
-        number /= choices;
+        const QLatin1String& choices = place % 2 == 1 ? vowels : consonants;
+        word += choices.at(number % choices.size());
+        number /= choices.size();
     }
     return round == 0 ? word : word + QLatin1Char(char('A' + round - 1));
 }
