@@ -1,6 +1,8 @@
 // Draws the program's icons, marker images and splash image into a folder: "drawicons FOLDER". A second argument
 // names a PNG that shows the whole family enlarged on a light and on a dark ground.
+#include "appicon.h"
 #include "bitmapfile.h"
+#include "canvas.h"
 #include "splash.h"
 #include "symbols.h"
 
@@ -66,33 +68,37 @@ struct MarkerImage
 
 const MarkerImage markers[] = {{"NDB.png", symbols::ndb}, {"VOR.png", symbols::vor}, {"VORDME.png", symbols::vorDme}};
 
-QImage drawn(symbols::Draw draw, int size)
-{
-    QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(size / 16.0, size / 16.0);
-    draw(painter);
-    painter.end();
-    return image.convertToFormat(QImage::Format_ARGB32);
-}
-
 bool writeFile(const QString& path, const QByteArray& bytes)
 {
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
+/// The program's own icon: a PNG of each size and all of them in one Windows icon file.
+bool writeAppIcons(const QDir& folder)
+{
+    bool good = folder.mkpath(QStringLiteral("app"));
+    QVector<QImage> images;
+    for (const int size : appIconSizes) {
+        images.append(appIcon(size));
+        good = images.last().save(folder.filePath(QStringLiteral("app/zephan-trajector-%1.png").arg(size))) && good;
+    }
+    const QByteArray ico = icoBytes(images);
+    return !ico.isEmpty() && writeFile(folder.filePath(QStringLiteral("app/zephan-trajector.ico")), ico) && good;
+}
+
 bool writeAll(const QDir& folder)
 {
-    bool good = true;
+    bool good = writeAppIcons(folder);
     for (std::size_t number = 0; number < icons.size(); ++number) {
         const QString name = QStringLiteral("Img%1.bmp").arg(int(number), 2, 10, QLatin1Char('0'));
-        good = writeFile(folder.filePath(name), bitmapBytes(drawn(icons[number], iconSize))) && good;
+        good = writeFile(folder.filePath(name), bitmapBytes(drawnOnNothing(iconSize, symbols::edge, icons[number]))) &&
+               good;
     }
     for (const MarkerImage& marker : markers)
-        good = drawn(marker.draw, markerSize).save(folder.filePath(QLatin1String(marker.fileName))) && good;
+        good = drawnOnNothing(markerSize, symbols::edge, marker.draw)
+                   .save(folder.filePath(QLatin1String(marker.fileName))) &&
+               good;
     return splashImage().save(folder.filePath(QStringLiteral("AeoZephanSplash.jpg")), "JPG", 88) && good;
 }
 

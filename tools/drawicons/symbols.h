@@ -13,6 +13,9 @@ namespace symbols {
 /// One drawing of the family.
 using Draw = void (*)(QPainter&);
 
+/// Edge of the square that the symbols are drawn into, in units.
+constexpr double edge = 16.0;
+
 /// Colours of middle brightness: each keeps a contrast of three to one or more on a light and on a dark tool bar.
 namespace ink {
 const QColor airport(0x1f, 0x8f, 0x4f);
