@@ -29,11 +29,14 @@
 
   /**
    * An error of loading comes from the element. One of a script's run comes from the window, and does not always tell
-   * its file: to a page that may not read the files of the disk each of them is a stranger's.
+   * its file: to a page that may not read the files of the disk each of them is a stranger's. Only scripts and style
+   * sheets make the page: a picture, such as a tile of a raster map, may be absent.
    * @param {any} event
    */
   function take(event) {
     const element = event.target;
+    if (element !== window && !/^(SCRIPT|LINK)$/.test(element.tagName))
+      return;
     const address = event.filename || element.src || element.href || runningScript();
     if (named || address.indexOf(ownFiles) !== 0)
       return;

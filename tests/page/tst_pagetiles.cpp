@@ -69,6 +69,7 @@ private slots:
     void beyondTheLastZoomPicturesAreEnlarged();
     void theirMakerIsNamedAsText();
     void withoutPicturesTheBaseMapShows();
+    void aMissingPictureIsNoMissingFileOfThePage();
     void theGraticuleLiesOverThePictures();
     void byNightTheyAreDimmed();
     void noNamesShineThrough();
@@ -150,6 +151,16 @@ void TestPageTiles::withoutPicturesTheBaseMapShows()
     open({{"tileAddress", server.address()}}, 46.73, 2.27, 6);
     QTRY_VERIFY_WITH_TIMEOUT(server.paths.size() > 5, 20000);
     QTRY_COMPARE_WITH_TIMEOUT(window->colourAt(46.73, 2.27), land, 20000);
+}
+
+void TestPageTiles::aMissingPictureIsNoMissingFileOfThePage()
+{
+    // Pictures in the page's folder, asked for while the page is read.
+    open({{"tileAddress", "'tiles/{z}/{x}/{y}.png'"}}, 46.73, 2.27, 6);
+    QVERIFY(std::any_of(window->requests.cbegin(), window->requests.cend(),
+                        [](const QUrl& url) { return url.path().contains("/tiles/6/"); }));
+    QCOMPARE(window->run("document.querySelectorAll('#incomplete').length").toInt(), 0);
+    QCOMPARE(window->colourAt(46.73, 2.27), land);
 }
 
 void TestPageTiles::theGraticuleLiesOverThePictures()
