@@ -1,6 +1,6 @@
 /**
  * The points of the plan, each with the symbol of what stands there: they show at every zoom, also when their layer does
- * not. The program tells a name and a place for each; the marker at that place is found here.
+ * not. The program tells a name and a place for each; the marker of that name at that place is found here.
  */
 (function () {
   'use strict';
@@ -38,14 +38,17 @@
     return found;
   }
 
+  /** A marker's texts have lost the blanks about them. @type {(marker: ChartMarker, name: string) => boolean} */
+  const bears = (marker, name) => page.nameOf(marker) === name.trim() || page.identOf(marker) === name.trim();
+
   /**
-   * Of several markers at one place that of the point's name, else the one that charts draw above the others.
+   * The marker of the point's name; of several the one that charts draw above the others. A point that the user has
+   * made on a marker is none of them: it has its own name.
    * @type {(point: TrackPoint, candidates: ChartMarker[]) => ?ChartMarker}
    */
   function markerFor(point, candidates) {
-    const named = candidates.filter(marker =>
-      page.nameOf(marker) === point.name || page.identOf(marker) === point.name);
-    return (named.length ? named : candidates)
+    return candidates
+      .filter(marker => bears(marker, point.name))
       .reduce((best, marker) =>
         (best && page.symbolHeight(best.symbol) >= page.symbolHeight(marker.symbol) ? best : marker), null);
   }
@@ -87,8 +90,7 @@
     && (marker ? page.identOf(marker) : name) === point.name);
 
   /** Whether a marker is that of a point of a track: its place and one of its names. */
-  page.isPointOf = (marker, point) => keyOf(marker.position) === keyOf(point.position)
-    && (page.identOf(marker) === point.name || page.nameOf(marker) === point.name);
+  page.isPointOf = (marker, point) => keyOf(marker.position) === keyOf(point.position) && bears(marker, point.name);
 
   /** @return {boolean} whether a marker is drawn as a point of the plan */
   page.isPlanned = marker => planned.has(marker);
@@ -124,6 +126,7 @@
     page.fitRoses();
     page.procedure.dressPoints();
     page.closeLostPopup();
+    page.moverMoved();
   };
 
   /**

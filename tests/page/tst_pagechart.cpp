@@ -47,6 +47,7 @@ private slots:
     void aPointWithoutAMarkerIsAPlainOne();
     void aPointOfThePlanIsDrawnOnce();
     void theMarkerOfThePointsNameIsTaken();
+    void aPointWithAnotherNameIsNoMarkerOfThePlace();
     void anEmptiedPlanGivesTheMarkersBack();
     void aDeletedMarkerLeavesItsPointInThePlan();
     void theClickedMarkerIsNamedFromAfar();
@@ -483,9 +484,24 @@ void TestPageChart::theMarkerOfThePointsNameIsTaken()
                 "\"<font color=blue><b>Waypoint DIAL</b><font color=black><br/>DIALOG (High/Low)<br/>x\")");
     plan("DIALOG", 46.7, 2.3);
     QCOMPARE(window->run("page.isPlanned(listWptRte[1])").toBool(), true);
-    // A name that is none of theirs: what charts draw above the other.
-    plan("ELSE", 46.7, 2.3);
+}
+
+void TestPageChart::aPointWithAnotherNameIsNoMarkerOfThePlace()
+{
+    addVor("ABC", 46.7, 2.3);
+    showVors();
+    const QImage before = pictureAround(46.7, 2.3, 40);
+    // Such as the user makes it on the VOR.
+    plan("WPT001", 46.7, 2.3);
+    QCOMPARE(window->run("page.plannedMarkers().length").toInt(), 0);
+    QVERIFY(pictureAround(46.7, 2.3, 40) != before);
     QVERIFY(ink(46.7, 2.3, navaidColour) > 5);
+    QVERIFY(ink(46.7, 2.3, routeColour, 60) > 20);
+    window->run("VORMgr.clearMarkers()");
+    QCOMPARE(ink(46.7, 2.3, navaidColour), 0);
+    // Blanks around a name are not among the letters of the marker's text.
+    plan(" NAME ABC ", 46.7, 2.3);
+    QCOMPARE(window->run("page.plannedMarkers().length").toInt(), 1);
 }
 
 void TestPageChart::anEmptiedPlanGivesTheMarkersBack()
