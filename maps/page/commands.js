@@ -42,10 +42,13 @@
   }
 
   /**
-   * The program finds a row by what stands behind the first "-" of a title: only with one "-" this is the key.
+   * The program finds a row by what stands behind the first "-" of a title: only with one "-" this is the key. By an
+   * empty key it would take any row without one, and delete them all.
    * @param {ChartMarker} marker
    */
   function keyProblem(marker) {
+    if (/^[^-]*-$/.test(marker.title))
+      return pageWords.emptyKey;
     return /^[^-]*-[^-]+$/.test(marker.title) ? '' : pageWords.noKey;
   }
 

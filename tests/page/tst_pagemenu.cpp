@@ -35,6 +35,7 @@ private slots:
     void aPointOfThePlanIsOfferedWithoutItsLayer();
     void aGreyedEntryDoesNothing();
     void anEntryWithoutAKeyInItsTitleIsGreyed();
+    void aRowWithoutAKeyIsGreyedForThat();
     void theRolesAreSet();
     void theMenuFollowsThePalette();
 
@@ -295,6 +296,17 @@ void TestPageMenu::anEntryWithoutAKeyInItsTitleIsGreyed()
     // What needs no key is there.
     QVERIFY(window->chooseEntry("Voies aériennes passant par ce point…"));
     QCOMPARE(commands(), QStringList{"sATS \"W-X-WXFR\" \"\""});
+}
+
+void TestPageMenu::aRowWithoutAKeyIsGreyedForThat()
+{
+    window->run("addVORMarker2(new google.maps.LatLng(46.60000, 1.70000),\"ABCDE-\",17,\"<b>VOR ABCDE</b>\")");
+    window->settle();
+    menuAt(*window, nothing);
+    QCOMPARE(texts(*window, "#menu .menu-head"), QStringList{"VOR ABCDE"});
+    QCOMPARE(texts(*window, "#menu .greyed .menu-label"),
+             (QStringList{"Ajouter au plan de vol", "Modifier le navaid…", "Effacer le navaid…"}));
+    QCOMPARE(texts(*window, "#menu .menu-reason").value(0), "La ligne des données n'a pas de clé");
 }
 
 void TestPageMenu::theRolesAreSet()
