@@ -62,8 +62,11 @@
       this.pins = /** @type {Set<Pin>} */ (new Set());
       this.points = new engine.Points(this.base.names, this.lines, this.pins);
       this.base.labels.room = this.points.declutter;
+      /** Points have come or gone, perhaps under the pointer (pointer.js). */
+      this.lookBelow = () => {};
       const rewrite = { paint: () => this.base.labels.write() };
-      this.chart = new engine.ChartCanvas('overlayPane', [new engine.Stack([this.lines, this.points]), rewrite]);
+      const look = { paint: () => this.lookBelow() };
+      this.chart = new engine.ChartCanvas('overlayPane', [new engine.Stack([this.lines, this.points]), rewrite, look]);
       this.chart.addTo(this.leaflet);
       this.base.onNames = () => this.chart.invalidate();
       this.controls = engine.controlsOf(this.leaflet);

@@ -126,25 +126,31 @@
     }
 
     /**
-     * What nobody listens for on the marker happens on the map below it.
+     * What nobody listens for on the marker happens below it: to the point under the mouse, to that on which the marker
+     * stands, or to the map.
      * @param {string} name Leaflet's
      * @param {L.LeafletEvent} leafletEvent
      */
     tell(name, leafletEvent) {
-      if (name.indexOf('drag') === 0) {
-        const at = this.pin.getLatLng();
+      const at = this.pin.getLatLng();
+      const isDrag = name.indexOf('drag') === 0;
+      if (isDrag) {
         this.options.position = new maps.LatLng(at.lat, at.lng);
         this.dragged = name !== 'dragend';
         if (!this.dragged)
           this.keepRoom();
       }
-      const target = maps.event.hasListeners(this, names[name]) || this.dragged ? this : this.map;
-      /** @type {Handed['MapMouseEvent']} */
-      const told = {
-        latLng: this.getPosition(),
-        domEvent: /** @type {L.LeafletMouseEvent} */ (leafletEvent).originalEvent,
-      };
-      maps.event.trigger(target, names[name], told);
+      const mouse = /** @type {L.LeafletMouseEvent} */ (leafletEvent).originalEvent;
+      if (isDrag || maps.event.hasListeners(this, names[name])) {
+        /** @type {Handed['MapMouseEvent']} */
+        const told = { latLng: this.getPosition(), domEvent: mouse };
+        maps.event.trigger(this, names[name], told);
+        return;
+      }
+      engine.tellPlace(this.map, names[name], [
+        { latlng: this.map.leaflet.mouseEventToLatLng(mouse), originalEvent: mouse },
+        { latlng: at, originalEvent: mouse },
+      ]);
     }
 
     /** In the copy of the world that is in view; a marker in the user's hand stays there. */

@@ -33,13 +33,10 @@
       leaflet.setZoomAround(leaflet.mouseEventToContainerPoint(domEvent), zoom, { animate: false });
   }
 
-  /**
-   * What is asked of Leaflet's events.
-   * @typedef {Pick<L.LeafletMouseEvent, 'latlng' | 'containerPoint' | 'originalEvent'>} Move
-   */
+  /** @typedef {MousePlace & Pick<L.LeafletMouseEvent, 'containerPoint'>} Move */
 
   /**
-   * @param {Move} leafletEvent
+   * @param {MousePlace} leafletEvent
    * @return {Handed['MapMouseEvent']}
    */
   function mouseEvent(leafletEvent) {
@@ -51,7 +48,7 @@
 
   /**
    * @param {ChartMap} map
-   * @param {Move} leafletEvent
+   * @param {MousePlace} leafletEvent
    */
   function featureAt(map, leafletEvent) {
     const scale = engine.tileSize * Math.pow(2, map.getZoom());
@@ -69,21 +66,31 @@
     maps.event.trigger(feature.layer, name, told);
   }
 
+  /**
+   * What happens on the map happens to the point there, else to the map.
+   * @type {MapEngine['tellPlace']}
+   */
+  engine.tellPlace = (map, name, places) => {
+    const features = places.map(place => featureAt(map, place));
+    const met = features.findIndex(Boolean);
+    const last = places[places.length - 1];
+    map.clickedLongitude = last.latlng.lng;
+    try {
+      if (met >= 0)
+        tell(features[met], name, mouseEvent(places[met]));
+      else
+        maps.event.trigger(map, name, mouseEvent(last));
+    } finally {
+      map.clickedLongitude = null;
+    }
+  };
+
   /** @param {ChartMap} map */
   function listenToButtons(map) {
     Object.keys(names).forEach(name => map.leaflet.on(name, event => {
       const leafletEvent = /** @type {L.LeafletMouseEvent} */ (event);
       const zooms = name === 'dblclick' && !map.options.disableDoubleClickZoom;
-      const feature = featureAt(map, leafletEvent);
-      map.clickedLongitude = leafletEvent.latlng.lng;
-      try {
-        if (feature)
-          tell(feature, names[name], mouseEvent(leafletEvent));
-        else
-          maps.event.trigger(map, names[name], mouseEvent(leafletEvent));
-      } finally {
-        map.clickedLongitude = null;
-      }
+      engine.tellPlace(map, names[name], [leafletEvent]);
       if (zooms)
         zoomAround(map, leafletEvent.originalEvent, true);
     }));
@@ -114,7 +121,11 @@
       enter(map, null, { latLng: left.geometry });
   };
 
-  /** A view that moves below a still pointer brings it to another place: that is told once a frame. @param {ChartMap} map */
+  /**
+   * A view that moves below a still pointer brings it to another place, and points come and go under it: that is told
+   * once a frame.
+   * @param {ChartMap} map
+   */
   function listenToMoves(map) {
     const leaflet = map.leaflet;
     /** The last move of the mouse, as long as the pointer is on the map. @type {?Move} */
@@ -141,10 +152,11 @@
       enter(map, null, mouseEvent(leafletEvent));
       maps.event.trigger(map, 'mouseout', mouseEvent(leafletEvent));
     });
-    leaflet.on('move', () => {
+    map.lookBelow = () => {
       if (last && !pending)
         pending = window.requestAnimationFrame(followView);
-    });
+    };
+    leaflet.on('move', () => map.lookBelow());
   }
 
   /** @param {ChartMap} map */

@@ -108,9 +108,10 @@ var WPTVfrMgr = null;
       this.layer.setMap(isSeen ? map : null);
     }
 
-    /** What is drawn by the markers that this layer shows. */
+    /** What is drawn, or told, by the markers that this layer shows. */
     fitOthers() {
       page.fitRoses();
+      page.moverMoved();
       if (this === ArptMgr)
         page.airportsChanged();
     }

@@ -10,6 +10,7 @@
   /** @type {?ChartMarker} */
   let pointed = null;
   let dragged = false;
+  let pending = 0;
   /** What was told last of the pointer. */
   let told = '';
 
@@ -45,7 +46,7 @@
     page.call('doData', told);
   });
 
-  /** Something has moved by itself: to the pointer, away from it or neither. */
+  /** Something has moved, come or gone by itself, perhaps where the pointer is. */
   page.moverMoved = page.oncePerFrame(() => {
     if (place && pointerText() !== told)
       reportPointer();
@@ -61,6 +62,12 @@
   /** The marker under the pointer, or null. */
   page.reportMarker = function (marker) {
     pointed = marker;
+    // Mostly the mouse has moved, which is told next. But markers also come to a still pointer, and go.
+    if (!pending)
+      pending = window.requestAnimationFrame(() => {
+        pending = 0;
+        page.moverMoved();
+      });
   };
 
   google.maps.event.addListener(map, 'dragstart', () => {

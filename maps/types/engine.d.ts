@@ -270,6 +270,8 @@ interface MapParts {
   chart: Canvas;
   ground?: LinesHome;
   pointed: google.maps.Data.Feature | null;
+  /** Asks for a look at what is under the pointer, with the next frame. */
+  lookBelow(): void;
   /** While a button's event is being told, its longitude in the copy of the world that it met; else null. */
   clickedLongitude: number | null;
 }
@@ -312,6 +314,9 @@ declare namespace google.maps {
 declare namespace google.maps.Data {
   interface Feature extends PointParts {}
 }
+
+/** What is asked of Leaflet's events. */
+type MousePlace = Pick<L.LeafletMouseEvent, 'latlng' | 'originalEvent'>;
 
 type ChartMap = MapParts & Pick<google.maps.Map, 'getZoom' | 'setZoom'>;
 
@@ -380,6 +385,8 @@ interface MapEngine {
   controlsOf(leaflet: L.Map): google.maps.MVCArray<HTMLElement>[];
   nextZoom(zoom: number, inwards: boolean): number;
   leavePoint(map: MapParts, layer: LayerParts, point?: google.maps.Data.Feature): void;
+  /** At the first of the places where there is a point; without one the map is told of the last place. */
+  tellPlace(map: ChartMap, name: string, places: MousePlace[]): void;
   listenToPointer(map: ChartMap): void;
   listenToKeys(map: ChartMap): void;
 }

@@ -27,6 +27,10 @@ private slots:
     void theAircraftOfTheOtherSideShows();
     void theAircraftUnderThePointerIsNamed();
     void theStartUnderThePointerIsNamed();
+    void aClickOnWhatStandsOnAPointIsThePoints_data();
+    void aClickOnWhatStandsOnAPointIsThePoints();
+    void aClickOnWhatStandsAloneIsTheMaps();
+    void theMeasureEndsAtThePointBelowTheStart();
     void thousandsOfTicksLeaveOneAircraft();
 
 private:
@@ -220,6 +224,67 @@ void TestPageAircraft::theStartUnderThePointerIsNamed()
     window->mouse->moveTo(window->mouse->pointOf(46.7, 2.3) + QPoint(4, 3));
     const auto last = [this] { return program->calls("doData").value(program->calls("doData").size() - 1); };
     QTRY_VERIFY_WITH_TIMEOUT(last().endsWith(" E  Départ Cessna 172\""), 20000);
+}
+
+void TestPageAircraft::aClickOnWhatStandsOnAPointIsThePoints_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QPoint>("beside");
+    const QString start = "addSitMarker(new google.maps.LatLng(%1,  2.30000000),\"Cessna 172\", 90);";
+    const QString aircraft = "addAcftMrkr(new google.maps.LatLng(%1, 2.30000),\"\",0);";
+    QTest::newRow("start, its middle") << start.arg("46.70000000") << QPoint(0, 0);
+    // Too far from the airport for a click on that alone.
+    QTest::newRow("start, its nose") << start.arg("46.70000000") << QPoint(11, 0);
+    QTest::newRow("aircraft, its middle") << aircraft.arg("46.70000") << QPoint(0, 0);
+    QTest::newRow("aircraft, its wing") << aircraft.arg("46.70000") << QPoint(11, 3);
+    // Its tail lies on the airport, it flies farther north.
+    QTest::newRow("aircraft, its tail") << aircraft.arg("46.73500") << QPoint(0, 0);
+}
+
+void TestPageAircraft::aClickOnWhatStandsOnAPointIsThePoints()
+{
+    QFETCH(QString, script);
+    QFETCH(QPoint, beside);
+    window->run(
+        "addAPTMarker(new google.maps.LatLng(46.70000, 2.30000),\"LFLX\",1,\"<b>Airport LFLX</b>\");pushAPT();" +
+        script);
+    window->settle();
+    const QPoint place = window->mouse->pointOf(46.7, 2.3) + beside;
+    QVERIFY(
+        window
+            ->run(QString("!!document.elementFromPoint(%1, %2).closest('.chart-marker')").arg(place.x()).arg(place.y()))
+            .toBool());
+    window->mouse->click(place);
+    QCOMPARE(window->popupText(), "Airport LFLX");
+    window->mouse->contextMenu(place);
+    QVERIFY(window->chooseEntry("Ajouter au plan de vol"));
+    QCOMPARE(program->calls("sAddAptToFp"), QStringList{"sAddAptToFp \"LFLX\""});
+}
+
+void TestPageAircraft::aClickOnWhatStandsAloneIsTheMaps()
+{
+    window->run("addAPTMarker(new google.maps.LatLng(46.20000, 2.90000),\"LFLX\",1,\"<b>Airport LFLX</b>\");pushAPT();"
+                "addSitMarker(new google.maps.LatLng( 46.70000000,  2.30000000),\"\", 90);");
+    window->settle();
+    window->click(46.2, 2.9);
+    QCOMPARE(window->popupText(), "Airport LFLX");
+    window->mouse->click(window->mouse->pointOf(46.7, 2.3) + QPoint(9, 1));
+    QCOMPARE(window->popupText(), "");
+    window->mouse->contextMenu(window->mouse->pointOf(46.7, 2.3) + QPoint(9, 1));
+    // The place is that of the start and not the mouse's.
+    QVERIFY(window->chooseEntry("Ajouter un point utilisateur ici"));
+    QCOMPARE(program->calls("sAddNewWptToFp"), QStringList{"sAddNewWptToFp \"WPT\" 46.70000 2.30000"});
+}
+
+void TestPageAircraft::theMeasureEndsAtThePointBelowTheStart()
+{
+    window->run("addAPTMarker(new google.maps.LatLng(46.70000, 2.30000),\"LFLX\",1,\"<b>Airport LFLX</b>\");pushAPT();"
+                "addSitMarker(new google.maps.LatLng( 46.70000000,  2.30000000),\"\", 90);"
+                "page.startMeasure(new google.maps.LatLng(46.40000, 2.30000), '');");
+    window->settle();
+    window->mouse->click(window->mouse->pointOf(46.7, 2.3) + QPoint(3, 3));
+    const QString names = window->run("document.querySelector('#measure .measure-name').textContent").toString();
+    QVERIFY2(names.contains("LFLX"), qPrintable(names));
 }
 
 QTEST_MAIN(TestPageAircraft)

@@ -32,6 +32,11 @@ private slots:
     void aDeletedMarkerIsNoMoreUnderThePointer();
     void aReplacedMarkerIsNoMoreUnderThePointer();
     void aMarkerOfAHiddenLayerIsNoMoreUnderThePointer();
+    void aStillPointerLosesWhatGoes_data();
+    void aStillPointerLosesWhatGoes();
+    void aStillPointerMeetsWhatComes_data();
+    void aStillPointerMeetsWhatComes();
+    void aFloodOfPointsIsOneReportAFrame();
     void aFloodOfMovesIsOneReportAFrame();
     void aFloodOfDragsIsOneReportAFrame();
     void leavingTheMapEmptiesTheReport();
@@ -60,6 +65,12 @@ private:
     {
         window->mouse->moveTo({5, 300});
         window->mouse->moveTo(pixel(*window, place));
+    }
+    /// Waits until the last report on the pointer ends so.
+    bool isTold(const QString& end)
+    {
+        return QTest::qWaitFor([&] { return (QStringList("") + program->calls("doData")).last().endsWith(end); },
+                               20000);
     }
     /// From now on frames come only by `nextFrame`.
     void holdFrames()
@@ -230,6 +241,83 @@ void TestPageHover::aMarkerOfAHiddenLayerIsNoMoreUnderThePointer()
     window->run("NDBTermMgr.clearMarkers()");
     QVERIFY(!isShown());
     QVERIFY(!window->run("document.getElementById('chart').classList.contains('over-point')").toBool());
+}
+
+void TestPageHover::aStillPointerLosesWhatGoes_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>("left");
+    QTest::newRow("both deleted") << "theLast = listVOR[0]; delNavaid(); theLast = listWptRte[0]; delWaypoint();"
+                                  << " E\"";
+    QTest::newRow("both hidden") << "VORMgr.clearMarkers();WPTRteMgr.clearMarkers()"
+                                 << " E\"";
+    QTest::newRow("the upper deleted") << "theLast = listVOR[0]; delNavaid();"
+                                       << " E  Waypoint CGO\"";
+    QTest::newRow("the upper hidden") << "VORMgr.clearMarkers()"
+                                      << " E  Waypoint CGO\"";
+    QTest::newRow("the lower deleted") << "theLast = listWptRte[0]; delWaypoint();"
+                                       << " E  VOR-DME CGO\"";
+    QTest::newRow("the lower hidden") << "WPTRteMgr.clearMarkers()"
+                                      << " E  VOR-DME CGO\"";
+}
+
+void TestPageHover::aStillPointerLosesWhatGoes()
+{
+    QFETCH(QString, script);
+    QFETCH(QString, left);
+    rest(vorAndWaypoint);
+    QVERIFY(isTold(" E  VOR-DME CGO, Waypoint CGO\""));
+    window->run(script);
+    QVERIFY2(isTold(left), qPrintable(program->calls("doData").last()));
+}
+
+void TestPageHover::aStillPointerMeetsWhatComes_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("script");
+    QTest::newRow("shown") << "NDBTermMgr.clearMarkers()"
+                           << "NDBTermMgr.addMarkers(listNDBTerm)";
+    QTest::newRow("added")
+        << "theLast = listNDBTerm[0]; delNavaid();"
+        << "addNDBMarker2(new google.maps.LatLng(46.40000, 2.60000),\"MT-MT5FR\",4,\"<b>NDB MT</b>\")";
+    QTest::newRow("planned") << "NDBTermMgr.clearMarkers()"
+                             << "addPointToFp(new google.maps.LatLng(46.40000, 2.60000),\"MT\");pushFP();";
+    QTest::newRow("big enough") << "ArptMgr.clearMarkers();VORMgr.clearMarkers();map.setZoom(5)"
+                                << "map.setZoom(8)";
+}
+
+void TestPageHover::aStillPointerMeetsWhatComes()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, script);
+    window->run("map.setCenter(new google.maps.LatLng(46.40000, 2.60000));" + before);
+    window->settle();
+    program->clear();
+    rest(ndb);
+    QVERIFY(isTold(" E\""));
+    window->run(script);
+    QVERIFY2(isTold(" E  NDB terminal MT\""), qPrintable(program->calls("doData").last()));
+    QTRY_VERIFY_WITH_TIMEOUT(isShown(), 20000);
+}
+
+void TestPageHover::aFloodOfPointsIsOneReportAFrame()
+{
+    rest(ndb);
+    QVERIFY(isTold(" E  NDB terminal MT\""));
+    window->settle();
+    holdFrames();
+    program->clear();
+    for (int i = 0; i < 50; ++i)
+        window->run("NDBTermMgr.clearMarkers();NDBTermMgr.addMarkers(listNDBTerm)");
+    QVERIFY(program->calls("doData").size() <= 1);
+    for (int i = 0; i < 4; ++i) {
+        program->clear();
+        nextFrame();
+        QVERIFY(program->calls("doData").size() <= 1);
+    }
+    QCOMPARE(program->calls("doData"), QStringList());
+    window->mouse->moveTo(pixel(*window, ndb) + QPoint(1, 0));
+    QVERIFY(program->calls("doData").last().endsWith(" E  NDB terminal MT\""));
 }
 
 void TestPageHover::aFloodOfMovesIsOneReportAFrame()
