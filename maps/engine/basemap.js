@@ -6,6 +6,9 @@
   /** Above the painted world, below the chart. */
   const heights = { raster: 250, grid: 260 };
 
+  /** What a raster map has itself, and what would shine through it where it is dimmed. */
+  const underRaster = { coast: null, border: null };
+
   class BaseMap {
     /**
      * @param {L.Map} leaflet
@@ -20,6 +23,7 @@
       this.onNames = () => {};
       const graticule = new engine.Graticule();
       this.names = new engine.Names(window.worldNames);
+      this.wanted = this.names.colours;
       // The names are painted with the chart, which they give way to.
       const painters = [new engine.Outlines(window.worldOutlines), graticule];
       this.labels = new engine.GraticuleLabels();
@@ -33,8 +37,14 @@
       ['insert_at', 'remove_at', 'set_at'].forEach(name => overlays.addListener(name, () => this.showOverlays()));
     }
 
-    /** The same colours once more change nothing. */
     setColours(colours) {
+      this.wanted = colours;
+      this.dress();
+    }
+
+    /** The same colours once more change nothing. */
+    dress() {
+      const colours = this.names.hidden ? Object.assign({}, this.wanted, underRaster) : this.wanted;
       const former = this.names.colours;
       if (Object.keys(colours).every(part => colours[part] === former[part]))
         return;
@@ -49,13 +59,23 @@
     /** Under a raster map the painted world stays, for where there is none of it; the graticule goes on top. */
     showOverlays() {
       this.rasters.forEach(raster => raster.remove());
-      this.rasters = this.overlays.getArray().filter(Boolean).map(type => engine.rasterOf(type).addTo(this.leaflet));
-      this.names.hidden = this.rasters.length > 0;
-      this.onNames();
+      this.rasters = this.overlays.getArray().filter(Boolean).map(type => engine.rasterOf(type, () => this.uncover()));
+      this.rasters.forEach(raster => raster.addTo(this.leaflet));
+      this.uncover();
       if (this.rasters.length)
         this.lines.addTo(this.leaflet);
       else
         this.lines.remove();
+    }
+
+    /** Names and lines are left to the raster maps, unless these have no picture for the view. */
+    uncover() {
+      const isCovered = this.rasters.some(raster => !raster.isBlank);
+      if (isCovered === this.names.hidden)
+        return;
+      this.names.hidden = isCovered;
+      this.dress();
+      this.onNames();
     }
   }
 

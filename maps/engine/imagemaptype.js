@@ -26,6 +26,24 @@
         opacity: type.getOpacity(),
       });
       this.type = type;
+      /** Whether the view has no picture. */
+      this.isBlank = true;
+      this.onBlank = () => {};
+      this.on('tileload', () => this.setBlank(false));
+      this.on('load', () => this.setBlank(!this.hasPicture()));
+    }
+
+    /** @param {boolean} isBlank */
+    setBlank(isBlank) {
+      if (isBlank === this.isBlank)
+        return;
+      this.isBlank = isBlank;
+      this.onBlank();
+    }
+
+    hasPicture() {
+      return Object.keys(this._tiles).some(key =>
+        this._tiles[key].current && this._tiles[key].el.style.visibility !== 'hidden');
     }
 
     /**
@@ -36,16 +54,17 @@
     createTile(coordinates, done) {
       const image = document.createElement('img');
       const address = this.type.options.getTileUrl(new maps.Point(coordinates.x, coordinates.y), coordinates.z);
-      image.alt = '';
-      image.onload = () => done(null, image);
-      image.onerror = () => {
+      const missed = () => {
         image.style.visibility = 'hidden';
         done(new Error(`no map picture ${address}`), image);
       };
+      image.alt = '';
+      image.onload = () => done(null, image);
+      image.onerror = missed;
       if (address)
         image.src = address;
       else
-        image.style.visibility = 'hidden';
+        window.setTimeout(missed, 0);
       return image;
     }
   }
@@ -71,9 +90,10 @@
     }
   }
 
-  engine.rasterOf = type => {
+  engine.rasterOf = (type, onBlank) => {
     const raster = new Raster(/** @type {google.maps.ImageMapType} */ (type));
     raster.type.raster = raster;
+    raster.onBlank = onBlank;
     return raster;
   };
 

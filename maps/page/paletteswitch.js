@@ -49,7 +49,8 @@
   ];
 
   /**
-   * Under a raster map, which has its own, names and lines would shine through by night.
+   * Under a raster map, which has its own, names and lines would shine through by night. The engine takes them away
+   * itself, as long as pictures come.
    * @type {google.maps.MapTypeStyle[]}
    */
   const underRaster = [
@@ -62,6 +63,7 @@
     const offer = offers[palette.name];
     shape.setAttribute('d', offer.path);
     button.title = pageWords[offer.word];
-    map.setOptions({ styles: stylesOf(palette).concat(mapService.tileAddress ? underRaster : []) });
+    const isCovered = mapService.tileAddress && !mapService.isEngine;
+    map.setOptions({ styles: stylesOf(palette).concat(isCovered ? underRaster : []) });
   });
 })();

@@ -8,14 +8,24 @@ var mapService = {
   address: '',
   /** The key that the service asks for; empty: none is sent. */
   key: '',
-  /** Seconds after which the service is given up. */
+  /** Seconds after which the service is given up, and after which a raster map without a picture is told to be missing. */
   wait: 4,
-  /** Where the pictures of a raster map come from, with {z}, {x} and {y} for zoom, column and row; empty: none is shown. */
+  /**
+   * Where the pictures of a raster map come from, with {z}, {x} and {y} for zoom, column and row and the host written
+   * out; empty: none is shown.
+   */
   tileAddress: '',
+  /**
+   * Further hosts, as in 'https://a.example https://b.example:8080', to which that address leads on. No other gives the
+   * page a picture.
+   */
+  tileHosts: '',
   /** What the maker of the raster map wants to be named, as text; always shown with the map. */
   tileAttribution: '',
   /** The last zoom that the raster map has; beyond it the pictures are enlarged. */
   tileLastZoom: 18,
+  /** Whether the map is the engine's. */
+  isEngine: false,
   /** Runs while the service is awaited. */
   timer: 0,
 };
@@ -35,10 +45,10 @@ var mapService = {
     return `${mapService.address}${mark}key=${encodeURIComponent(mapService.key)}`;
   }
 
-  /** The host of the raster map, as a content policy names it; empty for one beside the page, and for none. */
-  function tileHost() {
-    const found = /^https?:\/\/[^/?#;,'"\s{}]+/i.exec(mapService.tileAddress);
-    return found ? found[0] : '';
+  /** The hosts of the raster map, as a content policy names them; empty for one beside the page, and for none. */
+  function tileHosts() {
+    const addresses = mapService.tileAddress ? [mapService.tileAddress].concat(mapService.tileHosts.split(/\s+/)) : [];
+    return addresses.map(address => (/^https?:\/\/[^/?#;,'"\s{}]+/i.exec(address) || [''])[0]).join(' ');
   }
 
   /**
@@ -49,8 +59,9 @@ var mapService = {
     const meta = document.createElement('meta');
     meta.httpEquiv = 'Content-Security-Policy';
     meta.content = "default-src 'none'; script-src 'self' file: 'unsafe-inline' 'unsafe-eval'; "
-      + `style-src 'self' file: 'unsafe-inline'; img-src 'self' file: data: ${tileHost()}`;
+      + `style-src 'self' file: 'unsafe-inline'; img-src 'self' file: data: ${tileHosts()}`;
     document.write(meta.outerHTML);
+    mapService.isEngine = true;
     loadMapEngine();
   }
 

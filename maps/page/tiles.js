@@ -18,11 +18,42 @@
     return mapService.tileAddress.replace('{z}', `${zoom}`).replace('{x}', `${column}`).replace('{y}', `${tile.y}`);
   }
 
-  function showAttribution() {
+  /** @param {string} text @return {HTMLElement} where it stands */
+  function writeInCorner(text) {
     const element = document.createElement('div');
     element.className = 'attribution';
-    element.textContent = mapService.tileAttribution;
+    element.textContent = text;
     map.controls[google.maps.ControlPosition.BOTTOM_RIGHT].push(element);
+    return element;
+  }
+
+  /** What stands before the numbers in the address of each picture. */
+  const beginning = mapService.tileAddress.replace(/\{.*$/, '');
+
+  /** @param {EventTarget} target */
+  const isTile = target => target instanceof HTMLImageElement
+    && (target.getAttribute('src') || '').indexOf(beginning) === 0;
+
+  /**
+   * Tells when no picture has come within the wait: there is no network, the address is wrong, or it leads on to a host
+   * that is not among the allowed, which the web view tells nobody.
+   */
+  function watchTiles() {
+    /** @type {?HTMLElement} */
+    let note = null;
+    const timer = window.setTimeout(() => {
+      note = writeInCorner(pageWords.noTiles.replace('%1', beginning));
+    }, mapService.wait * 1000);
+    /** @param {Event} event */
+    const came = event => {
+      if (!isTile(event.target))
+        return;
+      document.removeEventListener('load', came, true);
+      window.clearTimeout(timer);
+      if (note)
+        note.hidden = true;
+    };
+    document.addEventListener('load', came, true);
   }
 
   if (!mapService.tileAddress)
@@ -33,8 +64,9 @@
     maxZoom: mapService.tileLastZoom,
     name: 'tiles',
   });
+  watchTiles();
   map.overlayMapTypes.push(tiles);
   page.onPalette(palette => tiles.setOpacity(opacities[palette.name]));
   if (mapService.tileAttribution)
-    showAttribution();
+    writeInCorner(mapService.tileAttribution);
 })();

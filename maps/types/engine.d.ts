@@ -359,7 +359,8 @@ interface MapEngine {
     onNames: () => void,
     setColours(colours: Colours): void,
   };
-  rasterOf(type: google.maps.MapType): L.GridLayer;
+  /** Calls back when the view gets its first picture of the raster map, and when it has none any more. */
+  rasterOf(type: google.maps.MapType, onBlank: () => void): L.GridLayer & { isBlank: boolean };
   ScaleBar: new () => L.Control;
 
   LinePath: new (geodesic: boolean) => LinePath;

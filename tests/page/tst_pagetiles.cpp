@@ -39,21 +39,26 @@ public:
                     return;
                 const QString asked = QString::fromLatin1(socket->readAll()).section(' ', 1, 1);
                 paths.append(asked);
-                const QByteArray status = bytes.isEmpty() ? "404 Not Found" : "200 OK";
+                QByteArray status = bytes.isEmpty() ? "404 Not Found" : "200 OK";
+                if (!otherHost.isEmpty())
+                    status = "302 Found\r\nLocation: " + (otherHost + asked).toLatin1();
                 socket->write("HTTP/1.1 " + status + "\r\nContent-Type: image/png\r\nConnection: close\r\n" +
                               "Content-Length: " + QByteArray::number(bytes.size()) + "\r\n\r\n" + bytes);
                 socket->disconnectFromHost();
             });
         });
     }
+    QString host() const
+    {
+        return QString("http://127.0.0.1:%1").arg(serverPort());
+    }
     QString address() const
     {
-        return QString("'http://127.0.0.1:%1/{z}/{x}/{y}.png'").arg(serverPort());
+        return QString("'%1/{z}/{x}/{y}.png'").arg(host());
     }
     QStringList paths;
-
-private:
     QByteArray bytes;
+    QString otherHost; ///< leads on to it, unless it is empty
 };
 
 } // namespace
@@ -70,6 +75,10 @@ private slots:
     void theirMakerIsNamedAsText();
     void withoutPicturesTheBaseMapShows();
     void aMissingPictureIsNoMissingFileOfThePage();
+    void theNamesStandWhereNoPictureComes();
+    void theNamesGoWithTheFirstPicture();
+    void thatNoPictureComesIsTold();
+    void picturesOfAnotherHostComeOnceItIsNamed();
     void theGraticuleLiesOverThePictures();
     void byNightTheyAreDimmed();
     void noNamesShineThrough();
@@ -93,6 +102,19 @@ private:
     QString attribution()
     {
         return window->run("(document.querySelector('.attribution')||{}).textContent").toString();
+    }
+    /// Two of the base map's names, those that are written.
+    QStringList names()
+    {
+        const QString text =
+            "map.base.names.written.map(p => p.name.text).filter(n => n === 'Paris' || n === 'FRANCE')";
+        window->settle();
+        return window->run(text).toStringList();
+    }
+    /// What is told of missing pictures.
+    QString note()
+    {
+        return window->run("(document.querySelector('.attribution:not([hidden])')||{}).textContent").toString();
     }
 };
 
@@ -163,6 +185,64 @@ void TestPageTiles::aMissingPictureIsNoMissingFileOfThePage()
     QCOMPARE(window->colourAt(46.73, 2.27), land);
 }
 
+void TestPageTiles::theNamesStandWhereNoPictureComes()
+{
+    TileServer server({});
+    open({{"tileAddress", server.address()}}, 46.73, 2.27, 6);
+    QTRY_VERIFY_WITH_TIMEOUT(server.paths.size() > 5, 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(names().size(), 2, 20000);
+    QVERIFY(window->run("!!map.base.names.colours.coast && !!map.base.names.colours.border").toBool());
+    window->run("page.setPalette('night')");
+    QTRY_COMPARE_WITH_TIMEOUT(names().size(), 2, 20000);
+}
+
+void TestPageTiles::theNamesGoWithTheFirstPicture()
+{
+    TileServer server({});
+    open({{"tileAddress", server.address()}, {"wait", "0.3"}}, 46.73, 2.27, 6);
+    QTRY_VERIFY_WITH_TIMEOUT(!note().isEmpty(), 20000);
+    server.bytes = picture(red);
+    window->run("map.setZoom(7)");
+    QTRY_COMPARE_WITH_TIMEOUT(window->colourAt(46.73, 2.27), red, 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(names(), QStringList(), 20000);
+    QVERIFY(!window->run("map.base.names.colours.coast || map.base.names.colours.border").toBool());
+    // The network goes away: pictures that are there stay, but the next view has none.
+    server.bytes.clear();
+    window->run("map.setZoom(6)");
+    QTRY_COMPARE_WITH_TIMEOUT(names().size(), 2, 20000);
+}
+
+void TestPageTiles::thatNoPictureComesIsTold()
+{
+    TileServer server({});
+    open({{"tileAddress", server.address()}, {"wait", "0.3"}}, 46.73, 2.27, 6);
+    QTRY_COMPARE_WITH_TIMEOUT(note(), "Aucune image de carte ne vient de " + server.host() + "/", 20000);
+    QCOMPARE(window->run("document.querySelectorAll('.attribution').length").toInt(), 1);
+    QVERIFY(window->run("document.querySelector('.attribution').offsetWidth").toInt() > 50);
+    server.bytes = picture(red);
+    window->run("map.setZoom(7)");
+    QTRY_COMPARE_WITH_TIMEOUT(note(), QString(), 20000);
+    QCOMPARE(window->run("document.querySelector('.attribution').offsetWidth").toInt(), 0);
+}
+
+void TestPageTiles::picturesOfAnotherHostComeOnceItIsNamed()
+{
+    TileServer server({});
+    TileServer other(picture(red));
+    server.otherHost = other.host();
+    open({{"tileAddress", server.address()}, {"tileHosts", "'http://127.0.0.2 " + other.host() + "'"}}, 46.73, 2.27, 6);
+    QTRY_COMPARE_WITH_TIMEOUT(window->colourAt(46.73, 2.27), red, 20000);
+    QCOMPARE(note(), QString());
+    other.paths.clear();
+    open({}, 46.73, 2.27, 6);
+    window->page->expectFault("Content Security Policy");
+    QVERIFY(window->load(pages.with({{"tileAddress", server.address()}, {"tileHosts", "''"}, {"wait", "0.3"}})));
+    QTRY_VERIFY_WITH_TIMEOUT(!note().isEmpty(), 20000);
+    QVERIFY(!window->page->messages.isEmpty());
+    QCOMPARE(window->colourAt(46.73, 2.27), land);
+    QCOMPARE(other.paths, QStringList());
+}
+
 void TestPageTiles::theGraticuleLiesOverThePictures()
 {
     TileServer server(picture(red));
@@ -187,17 +267,17 @@ void TestPageTiles::noNamesShineThrough()
 {
     TileServer server(picture(Qt::white));
     open({{"tileAddress", server.address()}}, 46.73, 2.27, 6);
+    QTRY_COMPARE_WITH_TIMEOUT(window->colourAt(46.73, 2.27), QColor(Qt::white), 20000);
     window->run("page.setPalette('night')");
     window->settle();
-    const QString cities = "map.base.names.placed.map(p => p.name.text).filter(n => n === 'Paris' || n === 'FRANCE')";
-    QCOMPARE(window->run(cities).toStringList(), QStringList());
+    QCOMPARE(names(), QStringList());
     // Nor do they stand on it, whatever the base map's colours.
     window->run("map.setOptions({styles: null})");
     window->settle();
     QCOMPARE(window->run("map.base.names.written.length").toInt(), 0);
     window->run("map.overlayMapTypes.pop()");
     window->settle();
-    QCOMPARE(window->run(cities).toStringList().size(), 2);
+    QCOMPARE(names().size(), 2);
 }
 
 QTEST_MAIN(TestPageTiles)
