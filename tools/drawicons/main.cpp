@@ -17,7 +17,7 @@
 namespace {
 
 constexpr int iconSize = 16;
-constexpr int markerSize = 24;
+constexpr int markerSize = 32;
 
 /// Img00.bmp onwards, in the order of their numbers.
 const std::array<symbols::Draw, 39> icons = {symbols::centre,
@@ -54,7 +54,7 @@ const std::array<symbols::Draw, 39> icons = {symbols::centre,
                                              symbols::seaplaneBase,
                                              symbols::closedAirport,
                                              symbols::waypointVisual,
-                                             symbols::waypointOffRoute,
+                                             symbols::landmark,
                                              symbols::procedurePoint,
                                              symbols::airwayLow,
                                              symbols::airwayHigh,

@@ -1,6 +1,6 @@
 #include "pens.h"
 
-#include <cmath>
+#include <utility>
 
 namespace symbols {
 
@@ -32,12 +32,36 @@ void dot(QPainter& painter, const QPointF& centre, double radius, const QColor& 
     painter.drawEllipse(centre, radius, radius);
 }
 
-QPolygonF hexagon(double radius)
+void useKnife(QPainter& painter)
 {
-    constexpr double sixth = 1.0471975511965976; // radians
+    useBrush(painter, Qt::black); // any solid colour: only what it covers counts
+    painter.setCompositionMode(QPainter::CompositionMode_Clear);
+}
+
+QColor tint(const QColor& colour)
+{
+    QColor thin = colour;
+    thin.setAlpha(80);
+    return thin;
+}
+
+void around(QPainter& painter, std::initializer_list<int> turns, const std::function<void()>& draw)
+{
+    for (const int turn : turns) {
+        painter.save();
+        painter.translate(8.0, 8.0);
+        painter.rotate(turn);
+        draw();
+        painter.restore();
+    }
+}
+
+QPolygonF hexagon(double halfWidth, double halfHeight)
+{
     QPolygonF shape;
-    for (int corner = 0; corner < 6; ++corner)
-        shape << QPointF(8.0 + radius * std::cos(corner * sixth), 8.0 + radius * std::sin(corner * sixth));
+    for (const auto& [x, y] : {std::pair(1.0, 0.0), std::pair(0.5, 1.0), std::pair(-0.5, 1.0), std::pair(-1.0, 0.0),
+                               std::pair(-0.5, -1.0), std::pair(0.5, -1.0)})
+        shape << QPointF(8.0 + halfWidth * x, 8.0 + halfHeight * y);
     return shape;
 }
 

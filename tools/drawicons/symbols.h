@@ -7,7 +7,8 @@
 /// The chart symbols of the program's icons, one plain function a symbol.
 ///
 /// All draw into a square of 16 x 16 units whose origin is the top left corner, so that one function serves the
-/// bitmaps of the tool bar and the larger marker images. Strokes lie on half units: at 16 pixels they are crisp.
+/// bitmaps of the tool bar and the marker images, twice as large. Main strokes are two units wide, details one, and
+/// straight edges lie on whole units: at 16 pixels they are sharp. The forms are those of the map's own symbols.
 namespace symbols {
 
 /// One drawing of the family.
@@ -16,16 +17,23 @@ using Draw = void (*)(QPainter&);
 /// Edge of the square that the symbols are drawn into, in units.
 constexpr double edge = 16.0;
 
-/// Colours of middle brightness: each keeps a contrast of three to one or more on a light and on a dark tool bar.
+/// The hues of the map's symbols by day and by night, all at one luminance, 0.21: each has a contrast of 3.5 to one on
+/// a light tool bar (#f0f0f0) and on a dark one (#2b2b2b), and no icon is louder than its neighbour.
 namespace ink {
-const QColor airport(0x1f, 0x8f, 0x4f);
-const QColor vor(0x1e, 0x7f, 0xd6);
-const QColor ndb(0xb6, 0x4f, 0xc8);
-const QColor waypoint(0xc4, 0x6f, 0x12);
-const QColor visual(0x2f, 0x8f, 0x6f);
-const QColor airway(0x5f, 0x7c, 0xa8);
-const QColor warning(0xd8, 0x48, 0x3c);
-const QColor plain(0x7c, 0x85, 0x90);
+const QColor airport(0x5d, 0x79, 0xdc);
+const QColor navaid(0x21, 0x85, 0xc7);
+const QColor ndb(0xb9, 0x5d, 0xae);
+const QColor waypoint(0x31, 0x8f, 0x5b);
+const QColor terminal(0x6d, 0x82, 0x8f);
+const QColor visual(0xcf, 0x5c, 0x3e);
+const QColor airwayLow(0x6a, 0x89, 0x3b);
+const QColor airwayHigh(0x3f, 0x85, 0xb6);
+const QColor airwayBoth(0x8e, 0x71, 0xbe);
+const QColor route(0xdf, 0x42, 0x83);
+const QColor procedure(0x0f, 0x8f, 0x7f);
+const QColor aircraft(0xe0, 0x4a, 0x46);
+const QColor folder(0xb3, 0x70, 0x10);
+const QColor plain(0x78, 0x80, 0x88);
 } // namespace ink
 
 /// An aeroplane seen from above, nose up, about 14 units long.
@@ -65,7 +73,7 @@ void star(QPainter& painter);
 void seaplaneBase(QPainter& painter);
 void closedAirport(QPainter& painter);
 void waypointVisual(QPainter& painter);
-void waypointOffRoute(QPainter& painter);
+void landmark(QPainter& painter);
 void procedurePoint(QPainter& painter);
 void airwayLow(QPainter& painter);
 void airwayHigh(QPainter& painter);

@@ -8,30 +8,10 @@ namespace {
 
 const QPointF middle(8.0, 8.0);
 
-void aerodromeRing(QPainter& painter, const QColor& colour)
-{
-    usePen(painter, colour);
-    painter.drawEllipse(middle, 5.0, 5.0);
-}
-
-void tick(QPainter& painter, int turn)
-{
-    painter.save();
-    painter.translate(middle);
-    painter.rotate(turn);
-    painter.drawLine(QPointF(0.0, -5.0), QPointF(0.0, -7.8));
-    painter.restore();
-}
-
-void triangle(QPainter& painter)
-{
-    polygon(painter, {{8.0, 2.2}, {14.0, 13.25}, {2.0, 13.25}});
-}
-
 /// The four pointed star of area navigation.
 void fourPoints(QPainter& painter, double reach)
 {
-    constexpr double waist = 1.9;
+    constexpr double waist = 1.8;
     polygon(painter, {{8.0, 8.0 - reach},
                       {8.0 + waist, 8.0 - waist},
                       {8.0 + reach, 8.0},
@@ -44,99 +24,97 @@ void fourPoints(QPainter& painter, double reach)
 
 } // namespace
 
+/// A paved airport: the disc with its runway cut out, and four ticks.
 void airport(QPainter& painter)
 {
-    aerodromeRing(painter, ink::airport);
-    for (const int turn : {0, 90, 180, 270})
-        tick(painter, turn);
-    painter.save();
-    painter.translate(middle);
-    painter.rotate(45.0);
-    useBrush(painter, ink::airport);
-    painter.drawRect(QRectF(-1.25, -4.2, 2.5, 8.4));
-    painter.restore();
+    dot(painter, middle, 6.0, ink::airport);
+    painter.drawRect(QRectF(7.0, 0.0, 2.0, 16.0));
+    painter.drawRect(QRectF(0.0, 7.0, 16.0, 2.0));
+    useKnife(painter);
+    around(painter, {45}, [&] { painter.drawRect(QRectF(-1.2, -4.4, 2.4, 8.8)); });
 }
 
 void closedAirport(QPainter& painter)
 {
-    aerodromeRing(painter, ink::warning);
-    painter.drawLine(QPointF(2.5, 2.5), QPointF(13.5, 13.5));
-    painter.drawLine(QPointF(13.5, 2.5), QPointF(2.5, 13.5));
+    dot(painter, middle, 7.0, ink::plain);
+    useKnife(painter);
+    around(painter, {45, 135}, [&] { painter.drawRect(QRectF(-1.2, -5.0, 2.4, 10.0)); });
 }
 
 void heliport(QPainter& painter)
 {
-    usePen(painter, ink::airport);
-    painter.drawEllipse(middle, 7.0, 7.0);
-    painter.drawLine(QPointF(5.5, 4.0), QPointF(5.5, 12.0));
-    painter.drawLine(QPointF(10.5, 4.0), QPointF(10.5, 12.0));
-    painter.drawLine(QPointF(5.5, 8.0), QPointF(10.5, 8.0));
+    dot(painter, middle, 7.0, ink::airport);
+    useKnife(painter);
+    painter.drawRect(QRectF(5.0, 4.0, 2.0, 8.0));
+    painter.drawRect(QRectF(9.0, 4.0, 2.0, 8.0));
+    painter.drawRect(QRectF(7.0, 7.0, 2.0, 2.0));
 }
 
+/// A water aerodrome: the disc with an anchor cut out.
 void seaplaneBase(QPainter& painter)
 {
-    usePen(painter, ink::vor);
-    painter.drawEllipse(QPointF(8.0, 3.2), 1.8, 1.8);
-    painter.drawLine(QPointF(8.0, 5.0), QPointF(8.0, 14.5));
-    painter.drawLine(QPointF(4.5, 7.0), QPointF(11.5, 7.0));
-    painter.drawArc(QRectF(2.0, 4.0, 12.0, 10.5), 190 * 16, 160 * 16);
+    dot(painter, middle, 7.0, ink::airport);
+    useKnife(painter);
+    painter.drawRect(QRectF(7.0, 3.0, 2.0, 10.0));
+    painter.drawRect(QRectF(5.0, 5.0, 6.0, 1.0));
+    for (const QRectF& fluke : {QRectF(4.0, 9.0, 1.0, 2.0), QRectF(5.0, 11.0, 2.0, 1.0), QRectF(11.0, 9.0, 1.0, 2.0),
+                                QRectF(9.0, 11.0, 2.0, 1.0)})
+        painter.drawRect(fluke);
 }
 
-/// The threshold of a runway: the strip, its piano keys and the centre line.
+/// The threshold of a runway: the strip with its piano keys and the centre line.
 void runwayEnd(QPainter& painter)
 {
-    usePen(painter, ink::plain, 1.0);
-    openLine(painter, {{3.5, 0.0}, {3.5, 15.5}, {12.5, 15.5}, {12.5, 0.0}});
-    useBrush(painter, ink::warning);
-    for (const int left : {5, 7, 9})
-        painter.drawRect(QRectF(left, 10.0, 1.0, 4.0));
-    painter.drawRect(QRectF(11.0, 10.0, 0.9, 4.0));
     useBrush(painter, ink::plain);
-    for (const int top : {0, 4})
-        painter.drawRect(QRectF(7.5, top, 1.0, 2.5));
+    painter.drawRect(QRectF(3.0, 0.0, 10.0, 16.0));
+    useKnife(painter);
+    for (const double left : {4.0, 6.0, 9.0, 11.0})
+        painter.drawRect(QRectF(left, 10.0, 1.0, 5.0));
+    painter.drawRect(QRectF(7.0, 0.0, 2.0, 3.0));
+    painter.drawRect(QRectF(7.0, 5.0, 2.0, 3.0));
 }
 
 void waypointEnRoute(QPainter& painter)
 {
-    useBrush(painter, ink::waypoint);
-    polygon(painter, {{8.0, 1.0}, {15.0, 14.0}, {1.0, 14.0}});
+    usePen(painter, ink::waypoint);
+    polygon(painter, {{8.0, 3.2}, {13.2, 13.0}, {2.8, 13.0}});
 }
 
 void waypointTerminal(QPainter& painter)
 {
-    usePen(painter, ink::waypoint);
-    triangle(painter);
-    dot(painter, QPointF(8.0, 9.6), 1.5, ink::waypoint);
+    useBrush(painter, ink::terminal);
+    polygon(painter, {{8.0, 2.0}, {14.0, 13.0}, {2.0, 13.0}});
 }
 
 void waypointRnav(QPainter& painter)
 {
     useBrush(painter, ink::waypoint);
-    fourPoints(painter, 7.5);
+    fourPoints(painter, 8.0);
 }
 
-/// A point found by eye from the cockpit: the flag of the sectional charts.
+/// A point found by eye from the cockpit.
 void waypointVisual(QPainter& painter)
 {
-    useBrush(painter, ink::visual);
-    polygon(painter, {{4.0, 1.0}, {14.5, 4.75}, {4.0, 8.5}});
-    painter.drawRect(QRectF(3.0, 1.0, 1.5, 14.0));
-    painter.drawRect(QRectF(1.0, 14.0, 6.0, 1.2));
+    usePen(painter, ink::visual);
+    painter.setBrush(tint(ink::visual));
+    polygon(painter, {{8.0, 2.4}, {13.6, 8.0}, {8.0, 13.6}, {2.4, 8.0}});
 }
 
-void waypointOffRoute(QPainter& painter)
+/// A landmark: a flag on its pole.
+void landmark(QPainter& painter)
 {
-    usePen(painter, ink::plain);
-    polygon(painter, {{8.0, 1.8}, {14.2, 8.0}, {8.0, 14.2}, {1.8, 8.0}});
+    useBrush(painter, ink::visual);
+    painter.drawRect(QRectF(3.0, 1.0, 2.0, 14.0));
+    polygon(painter, {{5.0, 1.0}, {14.0, 5.0}, {5.0, 9.0}});
 }
 
-/// A point of a stored procedure: the star of area navigation with the path that leads through it.
+/// A point of a stored procedure: the star of area navigation on the path that leads through it.
 void procedurePoint(QPainter& painter)
 {
-    usePen(painter, ink::airway, 1.5);
-    openLine(painter, {{0.5, 14.5}, {8.0, 8.0}, {15.5, 8.0}});
-    useBrush(painter, ink::waypoint);
-    fourPoints(painter, 6.5);
+    usePen(painter, ink::plain);
+    painter.drawLine(QPointF(1.0, 15.0), QPointF(15.0, 1.0));
+    useBrush(painter, ink::procedure);
+    fourPoints(painter, 7.0);
 }
 
 } // namespace symbols

@@ -7,45 +7,36 @@ namespace symbols {
 namespace {
 
 /// A segment between two reporting points at height `y`.
-void segment(QPainter& painter, double y)
+void segment(QPainter& painter, double y, const QColor& colour)
 {
-    usePen(painter, ink::airway, 2.0);
+    usePen(painter, colour);
     painter.drawLine(QPointF(3.0, y), QPointF(13.0, y));
-    dot(painter, QPointF(2.5, y), 2.1, ink::waypoint);
-    dot(painter, QPointF(13.5, y), 2.1, ink::waypoint);
+    dot(painter, QPointF(3.0, y), 2.4, ink::plain);
+    dot(painter, QPointF(13.0, y), 2.4, ink::plain);
 }
 
-/// A chevron with its point at `tip`, opening downwards for a positive height.
-void chevron(QPainter& painter, const QPointF& tip, double height)
+/// A chevron with its point three units above `foot`, or below it.
+void chevron(QPainter& painter, double foot, double upwards, const QColor& colour)
 {
-    usePen(painter, ink::airway, 1.7);
-    openLine(painter, {{tip.x() - 3.5, tip.y() + height}, tip, {tip.x() + 3.5, tip.y() + height}});
+    usePen(painter, colour);
+    openLine(painter, {{4.6, foot}, {8.0, foot - upwards * 3.4}, {11.4, foot}});
 }
 
-void arrowHead(QPainter& painter, const QPointF& tip, double turn, const QColor& colour)
-{
-    painter.save();
-    painter.translate(tip);
-    painter.rotate(turn);
-    useBrush(painter, colour);
-    polygon(painter, {{0.0, 0.0}, {-2.8, 5.0}, {2.8, 5.0}});
-    painter.restore();
-}
-
-void runwayLine(QPainter& painter, double left, double right, double y)
+void runwayLine(QPainter& painter, double left, double right)
 {
     useBrush(painter, ink::plain);
-    painter.drawRect(QRectF(left, y, right - left, 2.0));
+    painter.drawRect(QRectF(left, 14.0, right - left, 2.0));
 }
 
-void slantedAeroplane(QPainter& painter, double turn)
+/// An aeroplane seen from the side, its nose to the right, turned by `pitch` degrees: positive is nose down.
+void aeroplaneInProfile(QPainter& painter, double height, double pitch)
 {
     painter.save();
-    painter.translate(8.0, 6.0);
-    painter.rotate(turn);
-    painter.scale(0.72, 0.72);
-    painter.translate(-8.0, -8.0);
-    painter.fillPath(aeroplane(), ink::vor);
+    painter.translate(8.0, height);
+    painter.rotate(pitch);
+    useBrush(painter, ink::aircraft);
+    polygon(painter, {{-7.5, -4.5}, {-6.0, -4.5}, {-3.5, -1.2}, {5.5, -1.2}, {7.5, 0.2}, {6.5, 1.2}, {-6.0, 1.2}});
+    polygon(painter, {{2.5, 0.6}, {-2.6, 5.4}, {-4.4, 5.4}, {-2.0, 0.6}});
     painter.restore();
 }
 
@@ -76,75 +67,79 @@ QPainterPath aeroplane()
     return shape;
 }
 
+/// The same aeroplane as `aeroplane`, with its edges on whole units.
 void aircraft(QPainter& painter)
 {
-    painter.fillPath(aeroplane(), ink::vor);
+    useBrush(painter, ink::aircraft);
+    painter.drawRect(QRectF(7.0, 1.0, 2.0, 14.0));
+    polygon(painter, {{8.0, 4.0}, {15.0, 9.0}, {15.0, 11.0}, {8.0, 9.0}, {1.0, 11.0}, {1.0, 9.0}});
+    polygon(painter, {{8.0, 11.0}, {12.0, 14.0}, {12.0, 15.0}, {4.0, 15.0}, {4.0, 14.0}});
 }
 
 void departure(QPainter& painter)
 {
-    slantedAeroplane(painter, 60.0);
-    runwayLine(painter, 1.0, 15.0, 13.0);
+    aeroplaneInProfile(painter, 6.5, -22.0);
+    runwayLine(painter, 0.0, 16.0);
 }
 
 void arrival(QPainter& painter)
 {
-    slantedAeroplane(painter, 120.0);
-    runwayLine(painter, 1.0, 15.0, 13.0);
+    aeroplaneInProfile(painter, 7.0, 22.0);
+    runwayLine(painter, 0.0, 16.0);
 }
 
 /// A zone: its outline and the tint that the charts lay inside it.
 void boundary(QPainter& painter)
 {
-    painter.setBrush(QColor(ink::warning.red(), ink::warning.green(), ink::warning.blue(), 70));
-    painter.setPen(QPen(ink::warning, 1.7, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-    polygon(painter, {{1.8, 5.0}, {9.0, 1.8}, {14.2, 6.5}, {12.0, 14.0}, {3.5, 13.0}});
+    usePen(painter, ink::aircraft);
+    painter.setBrush(tint(ink::aircraft));
+    polygon(painter, {{2.0, 2.0}, {10.0, 2.0}, {14.0, 6.0}, {14.0, 14.0}, {6.0, 14.0}, {2.0, 10.0}});
 }
 
 void leg(QPainter& painter)
 {
-    usePen(painter, ink::ndb, 2.0);
-    openLine(painter, {{3.0, 13.0}, {7.0, 5.0}, {13.0, 3.0}});
-    for (const QPointF& point : {QPointF(3.0, 13.0), QPointF(7.0, 5.0), QPointF(13.0, 3.0)})
-        dot(painter, point, 2.1, ink::waypoint);
+    usePen(painter, ink::route);
+    openLine(painter, {{3.0, 13.0}, {6.0, 6.0}, {13.0, 3.0}});
+    for (const QPointF& point : {QPointF(3.0, 13.0), QPointF(6.0, 6.0), QPointF(13.0, 3.0)})
+        dot(painter, point, 2.0, ink::route);
 }
 
-/// From the runway out to the first point of the route.
+/// From the runway out to the route.
 void sid(QPainter& painter)
 {
-    runwayLine(painter, 0.5, 7.0, 13.0);
-    usePen(painter, ink::airway, 1.7);
-    openLine(painter, {{6.5, 12.5}, {9.5, 10.0}, {11.6, 4.5}});
-    arrowHead(painter, QPointF(13.0, 1.0), 20.0, ink::airway);
+    runwayLine(painter, 0.0, 8.0);
+    usePen(painter, ink::procedure);
+    openLine(painter, {{8.0, 2.0}, {14.0, 2.0}, {14.0, 8.0}});
+    painter.drawLine(QPointF(3.0, 13.0), QPointF(14.0, 2.0));
 }
 
 /// From the last point of the route down to the runway.
 void star(QPainter& painter)
 {
-    runwayLine(painter, 9.0, 15.5, 13.0);
-    dot(painter, QPointF(3.0, 2.8), 2.1, ink::waypoint);
-    usePen(painter, ink::airway, 1.7);
-    openLine(painter, {{3.4, 4.0}, {5.0, 8.0}, {7.0, 9.6}});
-    arrowHead(painter, QPointF(10.5, 12.6), 130.0, ink::airway);
+    runwayLine(painter, 8.0, 16.0);
+    dot(painter, QPointF(3.0, 2.4), 2.4, ink::procedure);
+    usePen(painter, ink::procedure);
+    painter.drawLine(QPointF(3.0, 2.0), QPointF(13.0, 12.0));
+    openLine(painter, {{13.0, 6.0}, {13.0, 12.0}, {7.0, 12.0}});
 }
 
 void airwayLow(QPainter& painter)
 {
-    segment(painter, 4.5);
-    chevron(painter, QPointF(8.0, 13.5), -4.5);
+    segment(painter, 5.0, ink::airwayLow);
+    chevron(painter, 9.0, -1.0, ink::airwayLow);
 }
 
 void airwayHigh(QPainter& painter)
 {
-    segment(painter, 11.5);
-    chevron(painter, QPointF(8.0, 2.5), 4.5);
+    segment(painter, 11.0, ink::airwayHigh);
+    chevron(painter, 7.0, 1.0, ink::airwayHigh);
 }
 
 void airwayBoth(QPainter& painter)
 {
-    segment(painter, 8.0);
-    chevron(painter, QPointF(8.0, 1.5), 3.5);
-    chevron(painter, QPointF(8.0, 14.5), -3.5);
+    segment(painter, 8.0, ink::airwayBoth);
+    chevron(painter, 5.0, 1.0, ink::airwayBoth);
+    chevron(painter, 11.0, -1.0, ink::airwayBoth);
 }
 
 } // namespace symbols
