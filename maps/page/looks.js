@@ -103,26 +103,20 @@
 
   /**
    * A style with a label that is made when it is asked for: where markers are crowded most of them never get to theirs,
-   * and to read its text takes longer than all the rest.
+   * and to read its text takes longer than all the rest. Who copies the style takes the label, and nothing but options.
+   * @type {(style: google.maps.Data.StyleOptions, look: Look, marker: ChartMarker) => google.maps.Data.StyleOptions}
    */
-  class LabelledStyle {
-    /** @param {google.maps.Data.StyleOptions} style @param {Look} look @param {ChartMarker} marker */
-    constructor(style, look, marker) {
-      this.icon = style.icon;
-      this.zIndex = style.zIndex;
-      this.look = look;
-      this.marker = marker;
-      /** @type {?google.maps.MarkerLabel} */
-      this.made = null;
-    }
-
-    get label() {
-      return this.made || (this.made = this.look.labelOf(this.marker));
-    }
+  function labelledStyle(style, look, marker) {
+    /** @type {?google.maps.MarkerLabel} */
+    let made = null;
+    return {
+      icon: style.icon,
+      zIndex: style.zIndex,
+      get label() {
+        return made || (made = look.labelOf(marker));
+      },
+    };
   }
-
-  // Who copies a style takes the label too.
-  Object.defineProperty(LabelledStyle.prototype, 'label', { enumerable: true });
 
   /** What all markers of one kind and zoom have in common. */
   class Look {
@@ -146,7 +140,7 @@
       if (this.at.form === 'none')
         return hidden;
       const style = isAround || marker.path ? this.newStyle(marker, isAround) : this.commonStyle(marker);
-      return this.at.text && !isTold ? new LabelledStyle(style, this, marker) : style;
+      return this.at.text && !isTold ? labelledStyle(style, this, marker) : style;
     }
 
     /** @type {(marker: ChartMarker, isAround: boolean) => google.maps.Data.StyleOptions} */

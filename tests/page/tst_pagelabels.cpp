@@ -17,6 +17,7 @@ private slots:
     }
 
     void aLabelStandsRightOfItsSymbol();
+    void theLookOfAMarkerIsMadeOfOptionsAlone();
     void aLabelHasARimAgainstWhatLiesBelow();
     void twoMarkersOfOnePlaceHaveLabelsOnBothSides();
     void theLabelOfMoreImportanceHasTheRoom();
@@ -515,6 +516,19 @@ void TestPageLabels::theServiceIsToldAPlaceBelowEachSymbol()
     QFETCH(double, least);
     QVERIFY(window->run(symbol + ".labelOrigin.y").toDouble() >= least);
     QCOMPARE(window->run(symbol + ".labelOrigin.x").toDouble(), 0.0);
+}
+
+void TestPageLabels::theLookOfAMarkerIsMadeOfOptionsAlone()
+{
+    // A service reads what it is given with all that can be listed, and refuses what it does not know.
+    window->run("addVORMarker(new google.maps.LatLng(46.5, 2.5), 'ABC-ABC4FR', 17, '<b>VOR ABC</b>');addNavMgr();"
+                "var look = page.looksAt(12, () => 1).of(listVOR[0], false), names = [];"
+                "for (var name in look) names.push(name);");
+    QCOMPARE(window->run("names.sort()").toStringList(), (QStringList{"icon", "label", "zIndex"}));
+    QCOMPARE(window->run("Object.keys(Object.assign({}, look)).sort()").toStringList(),
+             (QStringList{"icon", "label", "zIndex"}));
+    QCOMPARE(window->run("Object.assign({}, look).label.text").toString(), "ABC");
+    QVERIFY(window->run("look.label === look.label").toBool());
 }
 
 void TestPageLabels::aLabelHasARimAgainstWhatLiesBelow()
