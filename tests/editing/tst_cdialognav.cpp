@@ -1,8 +1,5 @@
-// The navaid dialog before OK: what it shows, and how it makes keys.
-#include "boxresponder.h"
-#include "cdialognav.h"
-#include "cnavglobalvar.h"
-#include "editingworld.h"
+// The navaid dialog before OK: what it shows, and its position.
+#include "dialogtests.h"
 
 #include <QApplication>
 #include <QButtonGroup>
@@ -10,29 +7,14 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QtTest>
 
-namespace {
-
-const QString title = QStringLiteral("Nouveau NAVAID");
-
-QString existsText(const QString& iden)
-{
-    return QStringLiteral("Le navaid %1 existe déja.\nVoulez vous continuer ?").arg(iden);
-}
-
-} // namespace
-
-class TestCDialogNav : public QObject
+class TestCDialogNav : public NavDialogTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void formHasItsTexts();
     void formHasItsLimits();
     void theFrequencyStepsByAChannel();
@@ -51,66 +33,10 @@ private slots:
     void aFrequencyBeyondTheBoxIsShownAtItsEdge_data();
     void aFrequencyBeyondTheBoxIsShownAtItsEdge();
     void aRowOfNothingIsShown();
-    void aTypedIdentifierMakesTheKey();
-    void anIdentifierEndsAt5Characters();
-    void typingInTheMiddleOfAnIdentifierKeepsTheCursorThere();
-    void aTypeMakesItsDigitOfTheKey_data();
-    void aTypeMakesItsDigitOfTheKey();
-    void withoutATypeTheDigitIs0();
-    void aCountryMakesTheEndOfTheKey();
-    void aNameMakesNoKey();
-    void anExistingIdentifierIsAskedAndCounted();
-    void anExistingIdentifierRefusedLeavesTheKey();
-    void anExistingIdentifierIsAskedOnceForEachCharacterThatMatches();
-    void theCountIsThatOfAllKeysThatBeginSo();
-    void anotherTypeIsAskedFor();
-    void anotherCountryIsAskedFor();
-    void clickingTheCheckedTypeAsksAgain();
-    void aQuoteInTheIdentifierIsReported();
     void aPressOnThePositionOpensItsDialog();
     void aCancelledPositionChangesNothing();
     void cancelLeavesNoResult();
-
-private:
-    void openRow(const Row& row);
-    /// A new navaid of France at 48 degrees north and 2 east.
-    void openNew();
-
-    QScopedPointer<BoxResponder> boxes;
-    QScopedPointer<EditingWorld> world;
-    QScopedPointer<CDialogNav> dialog;
 };
-
-void TestCDialogNav::init()
-{
-    boxes.reset(new BoxResponder);
-    world.reset(new EditingWorld);
-}
-
-void TestCDialogNav::cleanup()
-{
-    dialog.reset();
-    world.reset();
-    boxes.reset();
-}
-
-void TestCDialogNav::openRow(const Row& row)
-{
-    world->sandbox.addNavaid(row);
-    dialog.reset(new CDialogNav(world->navaid(row.value("ukey", "RBT").toString()), nullptr));
-    present(*dialog);
-}
-
-void TestCDialogNav::openNew()
-{
-    dialog.reset(new CDialogNav(172800, 7200, nullptr));
-    auto* country = widgetOf<QComboBox>(*dialog, "cbCtry");
-    {
-        const QSignalBlocker silent(country);
-        country->setCurrentIndex(country->findText("FR"));
-    }
-    present(*dialog);
-}
 
 void TestCDialogNav::formHasItsTexts()
 {
@@ -326,175 +252,6 @@ void TestCDialogNav::aRowOfNothingIsShown()
     QCOMPARE(textOf(*dialog, "leUkey"), QString("NULLS"));
     QCOMPARE(checkedIn(*dialog, "gbType"), QStringList{"rbVOR"});
     QCOMPARE(dialog->lat, 0.0);
-}
-
-void TestCDialogNav::aTypedIdentifierMakesTheKey()
-{
-    openNew();
-    typeInto(*dialog, "leIden", "abb");
-    QCOMPARE(textOf(*dialog, "leIden"), QString("ABB"));
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABB1FR"));
-    QVERIFY(boxes->seen().isEmpty());
-}
-
-void TestCDialogNav::anIdentifierEndsAt5Characters()
-{
-    openNew();
-    typeInto(*dialog, "leIden", "abcdefg");
-    QCOMPARE(textOf(*dialog, "leIden"), QString("ABCDE"));
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABCDE1FR"));
-}
-
-void TestCDialogNav::typingInTheMiddleOfAnIdentifierKeepsTheCursorThere()
-{
-    openNew();
-    typeInto(*dialog, "leIden", "ad");
-    auto* iden = widgetOf<QLineEdit>(*dialog, "leIden");
-    QTest::keyClick(iden, Qt::Key_Left);
-    QTest::keyClicks(iden, "bc");
-    QCOMPARE(textOf(*dialog, "leIden"), QString("ABCD"));
-    QTest::keyClick(iden, Qt::Key_Backspace);
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABD1FR"));
-}
-
-void TestCDialogNav::aTypeMakesItsDigitOfTheKey_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("key");
-    QTest::newRow("VOR") << "rbVOR"
-                         << "ABB1FR";
-    QTest::newRow("TACAN") << "rbTACAN"
-                           << "ABB2FR";
-    QTest::newRow("NDB") << "rbNDB"
-                         << "ABB5FR";
-    QTest::newRow("VOR DME") << "rbVORDME"
-                             << "ABB4FR";
-    QTest::newRow("NDB DME") << "rbNDBDME"
-                             << "ABB7FR";
-}
-
-void TestCDialogNav::aTypeMakesItsDigitOfTheKey()
-{
-    QFETCH(QString, button);
-    openNew();
-    typeInto(*dialog, "leIden", "ABB");
-    press(*dialog, button);
-    QTEST(textOf(*dialog, "leUkey"), "key");
-    QCOMPARE(checkedIn(*dialog, "gbType"), QStringList{button});
-}
-
-void TestCDialogNav::withoutATypeTheDigitIs0()
-{
-    openNew();
-    uncheckAllIn(*dialog, "gbType");
-    typeInto(*dialog, "leIden", "ABB");
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABB0FR"));
-}
-
-void TestCDialogNav::aCountryMakesTheEndOfTheKey()
-{
-    openNew();
-    typeInto(*dialog, "leIden", "ABB");
-    choose(*dialog, "cbCtry", "ES");
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABB1ES"));
-    auto* country = widgetOf<QComboBox>(*dialog, "cbCtry");
-    country->setCurrentIndex(country->findText("FRA"));
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABB1FRA"));
-}
-
-void TestCDialogNav::aNameMakesNoKey()
-{
-    openNew();
-    typeInto(*dialog, "leName", "abbeville");
-    QCOMPARE(textOf(*dialog, "leName"), QString("abbeville"));
-    QCOMPARE(textOf(*dialog, "leIden"), QString());
-    QCOMPARE(textOf(*dialog, "leUkey"), QString());
-}
-
-void TestCDialogNav::anExistingIdentifierIsAskedAndCounted()
-{
-    world->sandbox.addNavaid({{"ukey", "ABB1FR"}});
-    openNew();
-    boxes->expectMessage(title, existsText("ABB"), QMessageBox::Yes);
-    typeInto(*dialog, "leIden", "abb");
-    QVERIFY(boxes->allUsed());
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABB1FR1"));
-}
-
-void TestCDialogNav::anExistingIdentifierRefusedLeavesTheKey()
-{
-    world->sandbox.addNavaid({{"ukey", "ABB1FR"}});
-    openNew();
-    boxes->expectMessage(title, existsText("ABB"), QMessageBox::No);
-    typeInto(*dialog, "leIden", "abb");
-    QCOMPARE(textOf(*dialog, "leIden"), QString("ABB"));
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("AB1FR"));
-}
-
-void TestCDialogNav::anExistingIdentifierIsAskedOnceForEachCharacterThatMatches()
-{
-    // Keys that begin with what is typed and the digit of a VOR.
-    world->sandbox.addNavaid({{"ukey", "A1FR"}});
-    world->sandbox.addNavaid({{"ukey", "AB1FR"}});
-    world->sandbox.addNavaid({{"ukey", "ABB4FR"}});
-    openNew();
-    boxes->expectMessage(title, existsText("A"), QMessageBox::Yes);
-    boxes->expectMessage(title, existsText("AB"), QMessageBox::Yes);
-    typeInto(*dialog, "leIden", "abb");
-    QVERIFY(boxes->allUsed());
-    QCOMPARE(boxes->seen().size(), 2);
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABB1FR"));
-}
-
-void TestCDialogNav::theCountIsThatOfAllKeysThatBeginSo()
-{
-    for (const char* key : {"ABB1FR", "ABB1FR1", "ABB1ES", "ABB4FR", "CABB1FR"})
-        world->sandbox.addNavaid({{"ukey", key}});
-    openNew();
-    boxes->expectMessage(title, existsText("ABB"), QMessageBox::Yes);
-    typeInto(*dialog, "leIden", "abb");
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABB1FR3"));
-}
-
-void TestCDialogNav::anotherTypeIsAskedFor()
-{
-    world->sandbox.addNavaid({{"ukey", "ABB4FR"}});
-    openNew();
-    typeInto(*dialog, "leIden", "abb");
-    boxes->expectMessage(title, existsText("ABB"), QMessageBox::No);
-    press(*dialog, "rbVORDME");
-    QVERIFY(boxes->allUsed());
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABB1FR"));
-    QCOMPARE(checkedIn(*dialog, "gbType"), QStringList{"rbVORDME"});
-}
-
-void TestCDialogNav::anotherCountryIsAskedFor()
-{
-    openRow({{"ukey", "ABB1FR"}, {"iden", "ABB"}, {"ntyp", 1}});
-    boxes->expectMessage(title, existsText("ABB"), QMessageBox::Yes);
-    auto* country = widgetOf<QComboBox>(*dialog, "cbCtry");
-    country->setCurrentIndex(country->findText("ES"));
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABB1ES1"));
-}
-
-void TestCDialogNav::clickingTheCheckedTypeAsksAgain()
-{
-    openRow({{"ukey", "ABB1FR"}, {"iden", "ABB"}, {"ntyp", 1}});
-    boxes->expectMessage(title, existsText("ABB"), QMessageBox::No);
-    press(*dialog, "rbVOR");
-    QVERIFY(boxes->allUsed());
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABB1FR"));
-}
-
-void TestCDialogNav::aQuoteInTheIdentifierIsReported()
-{
-    openNew();
-    boxes->expectAnyMessage();
-    typeInto(*dialog, "leIden", "\"");
-    QCOMPARE(boxes->seen().value(0).title, QString("SQL Error"));
-    QVERIFY(boxes->seen().value(0).text.startsWith("One of the query failed to execute.Error detail: "
-                                                   "SELECT COUNT(ukey) FROM NAV WHERE ukey LIKE \"\"1%\"; "));
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("\"1FR"));
 }
 
 void TestCDialogNav::aPressOnThePositionOpensItsDialog()

@@ -1,27 +1,17 @@
-// The waypoint dialog before OK: what it shows, and what it makes of keys and mouse.
-#include "boxresponder.h"
-#include "cdialoglatlon.h"
-#include "cdialogwpt.h"
-#include "cnavglobalvar.h"
-#include "editingworld.h"
+// The waypoint dialog before OK: what it shows, and its position.
+#include "dialogtests.h"
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
-#include <QSpinBox>
 #include <QtTest>
 
-class TestCDialogWpt : public QObject
+class TestCDialogWpt : public WptDialogTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void formHasItsTexts();
     void formHasItsLimits();
     void aNewWaypointShowsItsPlaceAndTile_data();
@@ -39,16 +29,6 @@ private slots:
     void openingARowKeepsItsKey();
     void aTextThatIsTooLongForTypingIsShownWhole();
     void aRowOfNothingIsShown();
-    void aTypedNameMakesIdentifierAndKey();
-    void aNameOfThreeLetters();
-    void aNameIsPutIntoCapitals();
-    void typingInTheMiddleOfANameKeepsTheCursorThere();
-    void aNameEndsAt26Characters();
-    void aNameSetByTheProgramMakesNoKey();
-    void anIdentifierIsLeftAsTyped();
-    void anotherCountryReplacesTheLastTwoLetters();
-    void aLongCountryCodeSpoilsTheKey();
-    void aCountryBeforeANameIsTheKey();
     void aPressOnThePositionOpensItsDialog_data();
     void aPressOnThePositionOpensItsDialog();
     void anotherPositionMovesTheTile();
@@ -57,41 +37,7 @@ private slots:
     void theFilterLetsEveryEventPass();
     void cancelLeavesNoResult();
     void escapeLeavesNoResult();
-
-private:
-    void openRow(const Row& row);
-    void openNew(double latSec, double lonSec);
-
-    QScopedPointer<BoxResponder> boxes;
-    QScopedPointer<EditingWorld> world;
-    QScopedPointer<CDialogWpt> dialog;
 };
-
-void TestCDialogWpt::init()
-{
-    boxes.reset(new BoxResponder);
-    world.reset(new EditingWorld);
-}
-
-void TestCDialogWpt::cleanup()
-{
-    dialog.reset();
-    world.reset();
-    boxes.reset();
-}
-
-void TestCDialogWpt::openRow(const Row& row)
-{
-    world->sandbox.addWaypoint(row);
-    dialog.reset(new CDialogWpt(world->waypoint(row.value("ukey", "BAMES").toString()), nullptr));
-    present(*dialog);
-}
-
-void TestCDialogWpt::openNew(double latSec, double lonSec)
-{
-    dialog.reset(new CDialogWpt(latSec, lonSec, nullptr));
-    present(*dialog);
-}
 
 void TestCDialogWpt::formHasItsTexts()
 {
@@ -310,102 +256,6 @@ void TestCDialogWpt::aRowOfNothingIsShown()
     QCOMPARE(textOf(*dialog, "leUkey"), QString("NULLS"));
     QCOMPARE(textOf(*dialog, "sbLat"), QString());
     QCOMPARE(dialog->lat, 0.0);
-}
-
-void TestCDialogWpt::aTypedNameMakesIdentifierAndKey()
-{
-    openNew(172800, 7200);
-    choose(*dialog, "cbCtry", "FR");
-    typeInto(*dialog, "leName", "ABLAN NORD");
-    QCOMPARE(textOf(*dialog, "leName"), QString("ABLAN NORD"));
-    QCOMPARE(textOf(*dialog, "leIden"), QString("ABLA"));
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABLANFR"));
-}
-
-void TestCDialogWpt::aNameOfThreeLetters()
-{
-    openNew(172800, 7200);
-    choose(*dialog, "cbCtry", "FR");
-    typeInto(*dialog, "leName", "ABC");
-    QCOMPARE(textOf(*dialog, "leIden"), QString("ABC"));
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABCFR"));
-}
-
-void TestCDialogWpt::aNameIsPutIntoCapitals()
-{
-    openNew(172800, 7200);
-    typeInto(*dialog, "leName", "bl");
-    QKeyEvent accented(QEvent::KeyPress, 0, Qt::NoModifier, "é");
-    QApplication::sendEvent(widgetOf<QLineEdit>(*dialog, "leName"), &accented);
-    QTest::keyClicks(widgetOf<QLineEdit>(*dialog, "leName"), "o 7");
-    QCOMPARE(textOf(*dialog, "leName"), QString("BLÉO 7"));
-    QCOMPARE(textOf(*dialog, "leIden"), QString("BLÉO"));
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("BLÉO DE"));
-}
-
-void TestCDialogWpt::typingInTheMiddleOfANameKeepsTheCursorThere()
-{
-    openNew(172800, 7200);
-    typeInto(*dialog, "leName", "ad");
-    QTest::keyClick(widgetOf<QLineEdit>(*dialog, "leName"), Qt::Key_Left);
-    QTest::keyClicks(widgetOf<QLineEdit>(*dialog, "leName"), "bc");
-    QCOMPARE(textOf(*dialog, "leName"), QString("ABCD"));
-}
-
-void TestCDialogWpt::aNameEndsAt26Characters()
-{
-    openNew(172800, 7200);
-    typeInto(*dialog, "leName", "abcdefghijklmnopqrstuvwxyz123");
-    QCOMPARE(textOf(*dialog, "leName"), QString("ABCDEFGHIJKLMNOPQRSTUVWXYZ"));
-}
-
-void TestCDialogWpt::aNameSetByTheProgramMakesNoKey()
-{
-    openNew(172800, 7200);
-    widgetOf<QWidget>(*dialog, "leUkey")->setFocus();
-    dialog->on_leName_textEdited("abc");
-    QCOMPARE(textOf(*dialog, "leName"), QString());
-    QCOMPARE(textOf(*dialog, "leUkey"), QString());
-}
-
-void TestCDialogWpt::anIdentifierIsLeftAsTyped()
-{
-    openNew(172800, 7200);
-    typeInto(*dialog, "leName", "ABLAN");
-    typeInto(*dialog, "leIden", "xyzuvw");
-    QCOMPARE(textOf(*dialog, "leIden"), QString("xyzuv"));
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABLANDE"));
-}
-
-void TestCDialogWpt::anotherCountryReplacesTheLastTwoLetters()
-{
-    openNew(172800, 7200);
-    typeInto(*dialog, "leName", "ABLAN");
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABLANDE"));
-    auto* country = widgetOf<QComboBox>(*dialog, "cbCtry");
-    country->setCurrentIndex(country->findText("FR"));
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABLANFR"));
-    choose(*dialog, "cbCtry", "ES");
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABLANES"));
-}
-
-void TestCDialogWpt::aLongCountryCodeSpoilsTheKey()
-{
-    openNew(172800, 7200);
-    typeInto(*dialog, "leName", "ABLAN");
-    auto* country = widgetOf<QComboBox>(*dialog, "cbCtry");
-    country->setCurrentIndex(country->findText("FRA"));
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABLANFRA"));
-    country->setCurrentIndex(country->findText("ES"));
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ABLANFES"));
-}
-
-void TestCDialogWpt::aCountryBeforeANameIsTheKey()
-{
-    openNew(172800, 7200);
-    choose(*dialog, "cbCtry", "ES");
-    QCOMPARE(textOf(*dialog, "leUkey"), QString("ES"));
-    QCOMPARE(textOf(*dialog, "leIden"), QString());
 }
 
 void TestCDialogWpt::aPressOnThePositionOpensItsDialog_data()

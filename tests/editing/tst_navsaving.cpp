@@ -1,37 +1,17 @@
-// OK in the navaid dialog: the frequency's band, the row, the update file, the script for the map page.
-#include "boxresponder.h"
-#include "cdialognav.h"
-#include "ciodatabase.h"
-#include "cnavglobalvar.h"
-#include "editingworld.h"
+// OK in the navaid dialog: the frequency's band, and the row.
+#include "dialogtests.h"
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QDoubleSpinBox>
-#include <QLineEdit>
 #include <QtTest>
 
-namespace {
-
-const QString title = QStringLiteral("Nouveau NAVAID");
-const QString exportTitle = QStringLiteral("Nouveau NAVAID: export");
-
-QString storedText(const QString& name)
-{
-    return name + QStringLiteral(" a été modifié/ajouté à la base GEN.db");
-}
-
-} // namespace
-
-class TestNavSaving : public QObject
+class TestNavSaving : public NavDialogTest
 {
     Q_OBJECT
 
-private slots:
-    void init();
-    void cleanup();
+public:
+    TestNavSaving() : NavDialogTest({"NAVSAVING'"}) {}
 
+private slots:
     void aFrequencyInItsBandIsTaken_data();
     void aFrequencyInItsBandIsTaken();
     void aFrequencyOutsideItsBandIsRefused_data();
@@ -51,68 +31,7 @@ private slots:
     void theHiddenNumbersKeepSixDigits();
     void anIdentifierTakenTwiceIsAnotherRow();
     void aRefusedRowIsReportedAndTheRestIsDone();
-    void theUpdateFileHasOneLine();
-    void theUpdateFileReplacesAnOlderOne();
-    void theUpdateFileIsWrittenOnWishOnly();
-    void anUpdateFileThatCannotBeWrittenIsToldAsWritten();
-    void theUpdateFileWritesTheSameRowWhereItIsImported();
-    void theScriptOfANewVor();
-    void theScriptOfANewNdb();
-    void aTypesMarker_data();
-    void aTypesMarker();
-    void theScriptsLongitude();
-    void aNameIsNoPatternToFill();
-
-private:
-    void openRow(const Row& row);
-    /// A new navaid ABBEVILLE of France at 48 degrees north and 2 east, not yet with a frequency of its own.
-    void openNew(const QString& typeButton = "rbVOR");
-    void pressOk(const QString& name = "ABBEVILLE");
-
-    QScopedPointer<BoxResponder> boxes;
-    QScopedPointer<EditingWorld> world;
-    QScopedPointer<DataFolder> data;
-    QScopedPointer<CDialogNav> dialog;
 };
-
-void TestNavSaving::init()
-{
-    boxes.reset(new BoxResponder);
-    world.reset(new EditingWorld);
-    data.reset(new DataFolder({"NAVSAVING", "NAVBLOCKED", "ABBEVILLE", "NAVSAVING'"}));
-}
-
-void TestNavSaving::cleanup()
-{
-    dialog.reset();
-    data.reset();
-    world.reset();
-    boxes.reset();
-}
-
-void TestNavSaving::openRow(const Row& row)
-{
-    world->sandbox.addNavaid(row);
-    dialog.reset(new CDialogNav(world->navaid(row.value("ukey", "RBT").toString()), nullptr));
-    present(*dialog);
-}
-
-void TestNavSaving::openNew(const QString& typeButton)
-{
-    dialog.reset(new CDialogNav(172800, 7200, nullptr));
-    present(*dialog);
-    choose(*dialog, "cbCtry", "FR");
-    press(*dialog, typeButton);
-    typeInto(*dialog, "leName", "ABBEVILLE");
-    typeInto(*dialog, "leIden", "abb");
-}
-
-void TestNavSaving::pressOk(const QString& name)
-{
-    boxes->expectMessage(title, storedText(name));
-    press(*dialog, "pbOK");
-    QVERIFY(boxes->allUsed());
-}
 
 void TestNavSaving::aFrequencyInItsBandIsTaken_data()
 {
@@ -158,7 +77,7 @@ void TestNavSaving::aFrequencyInItsBandIsTaken()
 {
     QFETCH(QString, button);
     QFETCH(QString, keys);
-    openNew(button);
+    openAbbeville(button);
     const QString key = textOf(*dialog, "leUkey");
     typeInto(*dialog, "sbFreq", keys);
     pressOk();
@@ -202,7 +121,7 @@ void TestNavSaving::aFrequencyOutsideItsBandIsRefused()
     QFETCH(QString, keys);
     QFETCH(QString, boxTitle);
     QFETCH(QString, boxText);
-    openNew(button);
+    openAbbeville(button);
     typeInto(*dialog, "sbFreq", keys);
     boxes->expectMessage(boxTitle, boxText);
     press(*dialog, "pbOK");
@@ -214,7 +133,7 @@ void TestNavSaving::aFrequencyOutsideItsBandIsRefused()
 
 void TestNavSaving::aRefusedFrequencyCanBeMended()
 {
-    openNew("rbNDB");
+    openAbbeville("rbNDB");
     // 107.999 cannot be typed: the box keeps what it had, which is no frequency of an NDB.
     typeInto(*dialog, "sbFreq", "107,999");
     boxes->expectMessage("Création NDB", "La fréquence doit être comprise entre 180 et 1750 Khz.");
@@ -235,7 +154,7 @@ void TestNavSaving::moreDecimalsThanTheBoxHasAreRounded()
 
 void TestNavSaving::aNewNavaidIsStored()
 {
-    openNew("rbVORDME");
+    openAbbeville("rbVORDME");
     typeInto(*dialog, "sbFreq", "108,45");
     press(*dialog, "rbLow");
     pressOk();
@@ -280,7 +199,7 @@ void TestNavSaving::aChosenTypeIsStored()
     QFETCH(QString, button);
     QFETCH(QString, frequency);
     QFETCH(QString, key);
-    openNew(button);
+    openAbbeville(button);
     typeInto(*dialog, "sbFreq", frequency);
     pressOk();
     QTEST(world->storedNavaid(key).value(9), "stored");
@@ -288,7 +207,7 @@ void TestNavSaving::aChosenTypeIsStored()
 
 void TestNavSaving::withoutATypeTheRowHas0AndNoMarker()
 {
-    openNew();
+    openAbbeville();
     uncheckAllIn(*dialog, "gbType");
     typeInto(*dialog, "sbFreq", "300");
     boxes->expectMessage("Création VOR", "La fréquence doit être comprise entre 108.000 et 117.95 Mhz.");
@@ -319,7 +238,7 @@ void TestNavSaving::aChosenUsageIsStored_data()
 void TestNavSaving::aChosenUsageIsStored()
 {
     QFETCH(QString, button);
-    openNew();
+    openAbbeville();
     press(*dialog, button);
     pressOk();
     QTEST(world->storedNavaid("ABB1FR").value(11), "stored");
@@ -395,7 +314,7 @@ void TestNavSaving::anIdentifierTakenTwiceIsAnotherRow()
 {
     world->sandbox.addNavaid({{"ukey", "ABB1FR"}, {"name", "FIRST"}});
     boxes->expectMessage(title, "Le navaid ABB existe déja.\nVoulez vous continuer ?", QMessageBox::Yes);
-    openNew();
+    openAbbeville();
     pressOk();
     QCOMPARE(world->storedNavaid("ABB1FR").value(3), QString("'FIRST'"));
     QCOMPARE(world->storedNavaid("ABB1FR1").value(3), QString("'ABBEVILLE'"));
@@ -403,7 +322,7 @@ void TestNavSaving::anIdentifierTakenTwiceIsAnotherRow()
 
 void TestNavSaving::aRefusedRowIsReportedAndTheRestIsDone()
 {
-    openNew();
+    openAbbeville();
     typeInto(*dialog, "leName", "NAVSAVING'");
     press(*dialog, "cbSaveCSV");
     boxes->expectAnyMessage();
@@ -418,171 +337,6 @@ void TestNavSaving::aRefusedRowIsReportedAndTheRestIsDone()
     QCOMPARE(world->count(dbfile::gen, "NAV"), 0);
     QCOMPARE(dialog->result(), 1);
     QVERIFY(dialog->script.startsWith("addVORMarker2("));
-}
-
-void TestNavSaving::theUpdateFileHasOneLine()
-{
-    openRow({{"ukey", "NAV4FR"},
-             {"iden", "NAV"},
-             {"name", "NAVSAVING"},
-             {"tile", 65705},
-             {"nfrq", 108.45},
-             {"nmdv", -1.2},
-             {"nsvr", -1.23456789},
-             {"stat", "QC"},
-             {"ntyp", 4},
-             {"ncls", 3},
-             {"nuse", 2},
-             {"nlat", 180486.36},
-             {"nlon", 6676.8842},
-             {"nalt", 223},
-             {"npow", 100.0},
-             {"nrgn", 80.5}});
-    press(*dialog, "cbSaveCSV");
-    boxes->expectMessage(title, storedText("NAVSAVING"));
-    boxes->expectMessage(exportTitle,
-                         "Le fichier d'export pour NAVSAVING\na été enregistré dans " + data->shownName("NAVSAVING"));
-    press(*dialog, "pbOK");
-    QVERIFY(boxes->allUsed());
-    QCOMPARE(data->bytes("NAVSAVING"),
-             QByteArray("GEN;NAV;+;65705;NAV4FR;NAV;NAVSAVING;108.45;-1.2;-1.23457;FR;QC;5;3;2;"
-                        "180486.36;6676.8842;223;100;80.5"));
-}
-
-void TestNavSaving::theUpdateFileReplacesAnOlderOne()
-{
-    data->write("NAVSAVING", QByteArray(1000, 'x'));
-    openNew();
-    typeInto(*dialog, "leName", "NAVSAVING");
-    press(*dialog, "cbSaveCSV");
-    boxes->expectMessage(title, storedText("NAVSAVING"));
-    boxes->expectAnyMessage();
-    press(*dialog, "pbOK");
-    QCOMPARE(data->bytes("NAVSAVING"),
-             QByteArray("GEN;NAV;+;65702;ABB1FR;ABB;NAVSAVING;108;0;0;FR;;1;0;1;172800.00;7200.00;0;0;0"));
-}
-
-void TestNavSaving::theUpdateFileIsWrittenOnWishOnly()
-{
-    openNew();
-    pressOk();
-    QVERIFY(!data->has("ABBEVILLE"));
-}
-
-void TestNavSaving::anUpdateFileThatCannotBeWrittenIsToldAsWritten()
-{
-    data->block("NAVBLOCKED");
-    openNew();
-    typeInto(*dialog, "leName", "NAVBLOCKED");
-    press(*dialog, "cbSaveCSV");
-    boxes->expectMessage(title, storedText("NAVBLOCKED"));
-    boxes->expectMessage(exportTitle,
-                         "Le fichier d'export pour NAVBLOCKED\na été enregistré dans " + data->shownName("NAVBLOCKED"));
-    press(*dialog, "pbOK");
-    QVERIFY(boxes->allUsed());
-    QCOMPARE(dialog->result(), 1);
-}
-
-void TestNavSaving::theUpdateFileWritesTheSameRowWhereItIsImported()
-{
-    openNew();
-    typeInto(*dialog, "leName", "NAVSAVING");
-    press(*dialog, "cbSaveCSV");
-    boxes->expectAnyMessage();
-    boxes->expectAnyMessage();
-    press(*dialog, "pbOK");
-    const QStringList row = world->storedNavaid("ABB1FR");
-    QVERIFY(!row.isEmpty());
-    world->sandbox.sql(dbfile::gen, "DELETE FROM NAV");
-    QFile file(QCoreApplication::applicationDirPath() + "/Data/NAVSAVING.CSV");
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    boxes->expectAnyMessage();
-    CIODataBase exchange;
-    QVERIFY(exchange.importDB(file, &world->settings()));
-    QCOMPARE(world->storedNavaid("ABB1FR"), row);
-}
-
-void TestNavSaving::theScriptOfANewVor()
-{
-    openNew();
-    typeInto(*dialog, "sbFreq", "114,7");
-    press(*dialog, "rbBoth");
-    QVERIFY(dialog->script.isEmpty());
-    pressOk();
-    QCOMPARE(dialog->script,
-             QString("addVORMarker2(new google.maps.LatLng(48.00000,2.00000),\"ABBEVILLE-ABB1FR\",3,\"<font "
-                     "color=blue><b>VOR ABB</b><font color=black><br/>ABBEVILLE<br/>114.7 Mhz<br/>48 00' 00.00 N - 002 "
-                     "00' 00.00 E\")"));
-}
-
-void TestNavSaving::theScriptOfANewNdb()
-{
-    openNew("rbNDB");
-    typeInto(*dialog, "sbFreq", "392,5");
-    press(*dialog, "rbTerm");
-    pressOk();
-    QCOMPARE(dialog->script,
-             QString("addNDBMarker2(new google.maps.LatLng(48.00000,2.00000),\"ABBEVILLE-ABB5FR\",4,\"<font "
-                     "color=blue><b>NDB ABB</b><font color=black><br/>ABBEVILLE<br/>392.5 Khz<br/>48 00' 00.00 N - 002 "
-                     "00' 00.00 E\")"));
-}
-
-void TestNavSaving::aTypesMarker_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("frequency");
-    QTest::addColumn<QString>("function");
-    QTest::addColumn<QString>("kind");
-    QTest::newRow("VOR") << "rbVOR"
-                         << "112"
-                         << "addVORMarker2("
-                         << "<b>VOR ABB</b>";
-    QTest::newRow("TACAN") << "rbTACAN"
-                           << "112"
-                           << "addVORMarker2("
-                           << "<b>VOR ABB</b>";
-    QTest::newRow("VOR DME") << "rbVORDME"
-                             << "112"
-                             << "addVORMarker2("
-                             << "<b>VOR ABB</b>";
-    QTest::newRow("NDB") << "rbNDB"
-                         << "300"
-                         << "addNDBMarker2("
-                         << "<b>NDB ABB</b>";
-    QTest::newRow("NDB DME") << "rbNDBDME"
-                             << "300"
-                             << "addNDBMarker2("
-                             << "<b>NDB ABB</b>";
-}
-
-void TestNavSaving::aTypesMarker()
-{
-    QFETCH(QString, button);
-    QFETCH(QString, frequency);
-    QFETCH(QString, function);
-    QFETCH(QString, kind);
-    openNew(button);
-    typeInto(*dialog, "sbFreq", frequency);
-    pressOk();
-    QVERIFY2(dialog->script.startsWith(function), qPrintable(dialog->script));
-    QVERIFY2(dialog->script.contains(kind), qPrintable(dialog->script));
-}
-
-void TestNavSaving::theScriptsLongitude()
-{
-    openRow({{"ntyp", 1}, {"nlat", -36000}, {"nlon", 1288800}});
-    pressOk("RAMBOUILLET");
-    QVERIFY2(dialog->script.startsWith("addVORMarker2(new google.maps.LatLng(-10.00000,-2.00000),\"RAMBOUILLET-RBT\","),
-             qPrintable(dialog->script));
-    QVERIFY2(dialog->script.contains("10 00' 00.00 S - 002 00' 00.00 W"), qPrintable(dialog->script));
-}
-
-void TestNavSaving::aNameIsNoPatternToFill()
-{
-    openRow({{"ntyp", 1}, {"ukey", "%6"}, {"iden", "%4"}, {"name", "%2 %5"}});
-    pressOk("%2 %5");
-    QVERIFY2(dialog->script.contains("\"%2 %5-%6\",1,"), qPrintable(dialog->script));
-    QVERIFY2(dialog->script.contains("<b>VOR %4</b><font color=black><br/>%2 %5<br/>"), qPrintable(dialog->script));
 }
 
 QTEST_MAIN(TestNavSaving)
