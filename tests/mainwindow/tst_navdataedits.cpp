@@ -1,8 +1,5 @@
 // Navaids and waypoints created and changed from the map: the page's menu, the dialogs, the markers that come back.
-#include "boxresponder.h"
-#include "editingworld.h"
-#include "sandbox.h"
-#include "windowsession.h"
+#include "navdatatest.h"
 
 #include "cdialognav.h"
 #include "cdialogwpt.h"
@@ -25,14 +22,14 @@ const QString navaidStored = QStringLiteral(" a été modifié/ajouté à la bas
 
 } // namespace
 
-class TestNavdataEdits : public QObject
+class TestNavdataEdits : public NavdataTest
 {
     Q_OBJECT
 
-private slots:
-    void init();
-    void cleanup();
+public:
+    TestNavdataEdits() : NavdataTest("ABLAN") {}
 
+private slots:
     void aNewWaypointShowsAtOnce();
     void aNewNavaidShowsAtOnce();
     void aCancelledDialogChangesNothing();
@@ -59,63 +56,10 @@ private slots:
     void withoutDatabasesANewRowIsReported();
 
 private:
-    void load();
-    /// Opens the menu at a place of the map and chooses an entry, which opens a dialog.
-    void choose(double latitude, double longitude, const QString& entry);
     void expectWaypointDialog(const QString& name, const std::function<void(QDialog&)>& drive);
     void expectNavaidDialog(const QString& name, const std::function<void(QDialog&)>& drive);
     QString popupAt(double latitude, double longitude);
-    QStringList markers();
-
-    QScopedPointer<BoxResponder> boxes;
-    QScopedPointer<Sandbox> sandbox;
-    QScopedPointer<WindowSession> session;
 };
-
-void TestNavdataEdits::init()
-{
-    boxes.reset(new BoxResponder);
-    sandbox.reset(new Sandbox);
-    for (const char* code : {"DE", "ES", "FR"})
-        sandbox->addCountry(code, code);
-    sandbox->addWaypoint({{"ukey", "ABLANFR"},
-                          {"iden", "ABLA"},
-                          {"name", "ABLAN"},
-                          {"wtyp", 6},
-                          {"wuse", 1},
-                          {"wlat", arcSeconds(46, 45)},
-                          {"wlon", arcSeconds(2, 15)}});
-    sandbox->addNavaid({{"ukey", "CGO4FR"},
-                        {"iden", "CGO"},
-                        {"name", "CHATEAUROUX"},
-                        {"nfrq", 110.2},
-                        {"ntyp", 17},
-                        {"nuse", 2},
-                        {"nlat", arcSeconds(46, 15)},
-                        {"nlon", arcSeconds(2, 45)}});
-    session.reset(new WindowSession);
-}
-
-void TestNavdataEdits::cleanup()
-{
-    session.reset();
-    sandbox.reset();
-    boxes.reset();
-}
-
-void TestNavdataEdits::load()
-{
-    QVERIFY(session->load());
-    QApplication::setActiveWindow(&session->window());
-    session->page().evaluate("map.setCenter(new google.maps.LatLng(46.5, 2.5));map.setZoom(8)");
-    QCOMPARE(markers(), (QStringList{"CGO-CGO4FR", "ABLAN-ABLANFR"}));
-}
-
-void TestNavdataEdits::choose(double latitude, double longitude, const QString& entry)
-{
-    session->page().contextMenu(session->page().pointOf(latitude, longitude));
-    QVERIFY2(session->page().chooseEntry(entry), qPrintable(session->page().menuEntries().join(", ")));
-}
 
 void TestNavdataEdits::expectWaypointDialog(const QString& name, const std::function<void(QDialog&)>& drive)
 {
@@ -141,14 +85,6 @@ QString TestNavdataEdits::popupAt(double latitude, double longitude)
 {
     session->page().click(session->page().pointOf(latitude, longitude));
     return session->page().popupText();
-}
-
-QStringList TestNavdataEdits::markers()
-{
-    QStringList all;
-    for (const char* list : {"listVOR", "listNDBRte", "listNDBTerm", "listWptRte", "listWptTerm", "listWptVfr"})
-        all << session->page().titles(list);
-    return all;
 }
 
 void TestNavdataEdits::aNewWaypointShowsAtOnce()
@@ -389,7 +325,7 @@ void TestNavdataEdits::theBoxesOfSavingAreInformation_data()
 void TestNavdataEdits::theBoxesOfSavingAreInformation()
 {
     QFETCH(QString, dialogClass);
-    const DataFolder data({"CHATEAUROUX", "ABLAN"});
+    const DataFolder database({"CHATEAUROUX", "ABLAN"});
     boxes->expectDialog(dialogClass, [](QDialog* dialog) {
         press(*dialog, "cbSaveCSV");
         press(*dialog, "pbOK");
@@ -462,10 +398,7 @@ void TestNavdataEdits::theTableIsNotLockedWhileTheDialogIsOpen()
 
 void TestNavdataEdits::withoutDatabasesTheLookUpIsReported()
 {
-    session.reset();
-    sandbox.reset(); // the new one has to find the folder that this one leaves
-    sandbox.reset(new Sandbox(Sandbox::Databases::None));
-    session.reset(new WindowSession);
+    startWithoutDatabases();
     for (int step = 0; step < 3; ++step)
         boxes->expectAnyMessage();
     boxes->expectMessage("Modification d'un waypoint", "Le waypoint ABLAN-ABLANFR n'existe pas dans la base");
@@ -477,10 +410,7 @@ void TestNavdataEdits::withoutDatabasesTheLookUpIsReported()
 
 void TestNavdataEdits::withoutDatabasesANewRowIsReported()
 {
-    session.reset();
-    sandbox.reset(); // the new one has to find the folder that this one leaves
-    sandbox.reset(new Sandbox(Sandbox::Databases::None));
-    session.reset(new WindowSession);
+    startWithoutDatabases();
     boxes->expectDialog("CDialogNav", [this](QDialog* dialog) {
         QApplication::setActiveWindow(dialog);
         // The look for the key fails, and so does the row.
