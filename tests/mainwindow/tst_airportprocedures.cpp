@@ -1,10 +1,7 @@
 // All stored procedures of an airport deleted at once, with and without an update file. No button does it.
-#include "boxresponder.h"
 #include "deletionwords.h"
 #include "editingworld.h"
-#include "mainwindow.h"
-#include "planwindow.h"
-#include "storedprocedures.h"
+#include "proceduretest.h"
 
 #include <QTableWidget>
 #include <QtTest>
@@ -15,40 +12,11 @@ const QString heading = QStringLiteral("Effacer les SID/STAR");
 
 } // namespace
 
-class TestAirportProcedures : public QObject
+class TestAirportProcedures : public ProcedureTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        win.reset(new PlanWindow);
-        rows.reset(new StoredProcedures(win->sandbox));
-        win->add({"LFPO"});
-    }
-    void cleanupTestCase()
-    {
-        win.reset();
-    }
-    void init()
-    {
-        boxes.reset(new BoxResponder);
-        data.reset(new DataFolder({"FR001"}));
-        rows->clear();
-        rows->addProcedure("OUT", 2, {"LFPO", "BAMES"});
-        rows->addProcedure("OUT2", 2, {"ETAMP"});
-        rows->addProcedure("IN", 1, {"PGS", "LFPO"});
-        rows->addProcedure("IN2", 1, {"CGN"});
-        rows->add({{"sapt", "FR002"}, {"strm", "AWAY"}, {"sqnm", 10}, {"styp", 2}});
-        emit win->grid()->cellClicked(0, 1);
-        win->clearCalls();
-    }
-    void cleanup()
-    {
-        data.reset();
-        boxes.reset();
-    }
-
     void allOfAnAirportAreDeleted()
     {
         boxes->expectMessage("", heading, erase);
@@ -106,9 +74,28 @@ private slots:
     }
 
 private:
-    QScopedPointer<BoxResponder> boxes;
-    QScopedPointer<PlanWindow> win;
-    QScopedPointer<StoredProcedures> rows;
+    void startOfAll() override
+    {
+        win->add({"LFPO"});
+    }
+
+    void startOfEach() override
+    {
+        data.reset(new DataFolder({"FR001"}));
+        rows->addProcedure("OUT", 2, {"LFPO", "BAMES"});
+        rows->addProcedure("OUT2", 2, {"ETAMP"});
+        rows->addProcedure("IN", 1, {"PGS", "LFPO"});
+        rows->addProcedure("IN2", 1, {"CGN"});
+        rows->add({{"sapt", "FR002"}, {"strm", "AWAY"}, {"sqnm", 10}, {"styp", 2}});
+        emit win->grid()->cellClicked(0, 1);
+        win->clearCalls();
+    }
+
+    void endOfEach() override
+    {
+        data.reset();
+    }
+
     QScopedPointer<DataFolder> data;
 };
 

@@ -1,50 +1,18 @@
 // A plan stored as a SID or a STAR through its button: the rows, the boxes, the trees.
-#include "boxresponder.h"
 #include "cflightplan.h"
-#include "mainwindow.h"
 #include "planlines.h"
-#include "planwindow.h"
 #include "procedurekind.h"
-#include "storedprocedures.h"
+#include "proceduretest.h"
 
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QtTest>
 
-class TestCreatedProcedures : public QObject
+class TestCreatedProcedures : public ProcedureTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        win.reset(new PlanWindow);
-        rows.reset(new StoredProcedures(win->sandbox));
-    }
-    void cleanupTestCase()
-    {
-        win.reset();
-    }
-    void init()
-    {
-        boxes.reset(new BoxResponder);
-        rows->clear();
-        tree("treeWSid")->clear();
-        tree("treeWStar")->clear();
-        for (const char* dock : {"dockWSid", "dockWStar"})
-            win->window->findChild<QDockWidget*>(dock)->setWindowTitle("untouched");
-        win->window->setPlanActions(true);
-        win->clearCalls();
-    }
-    void cleanup()
-    {
-        win->sandbox.sql(dbfile::route, "DROP TRIGGER IF EXISTS locked");
-        if (!win->plan().lines.isEmpty())
-            boxes->expectMessage("Nouveau plan de vol", "Voulez vous effacer le plan de vol en cours ?");
-        win->window->askResetPlan();
-        boxes.reset();
-    }
-
     void aPlanBecomesASid()
     {
         win->add({"LFPO", "PGS-N1", "BAMES-W1"});
@@ -278,8 +246,9 @@ private slots:
         storePlan(*win, *boxes, sid, "ABC1");
         const QTreeWidgetItem* top = tree("treeWSid")->topLevelItem(0);
         QVERIFY(top);
-        QCOMPARE(pictureOf(top->child(1)), QImage(":/icon/images/Img03.bmp").convertToFormat(QImage::Format_RGB32));
-        QCOMPARE(pictureOf(top->child(2)), QImage(":/icon/images/Img05.bmp").convertToFormat(QImage::Format_RGB32));
+        QCOMPARE(picture(top->child(1)->icon(0)), picture(QIcon(":/icon/images/Img03.bmp")));
+        QCOMPARE(picture(top->child(2)->icon(0)), picture(QIcon(":/icon/images/Img05.bmp")));
+        QVERIFY(picture(top->child(1)->icon(0)) != picture(top->child(2)->icon(0)));
     }
 
     void aLoadedPlanHasForgottenTheTypesOfItsNavaids()
@@ -305,14 +274,24 @@ private slots:
     }
 
 private:
-    QTreeWidget* tree(const char* name) const
+    void startOfEach() override
     {
-        return win->window->findChild<QTreeWidget*>(name);
+        emptyTrees();
+        for (const char* dock : {"dockWSid", "dockWStar"})
+            win->window->findChild<QDockWidget*>(dock)->setWindowTitle("untouched");
+        win->window->setPlanActions(true);
+        win->clearCalls();
     }
 
-    static QImage pictureOf(const QTreeWidgetItem* item)
+    void endOfEach() override
     {
-        return item->icon(0).pixmap(16, 16).toImage().convertToFormat(QImage::Format_RGB32);
+        win->sandbox.sql(dbfile::route, "DROP TRIGGER IF EXISTS locked");
+        dropPlan();
+    }
+
+    static QImage picture(const QIcon& icon)
+    {
+        return icon.pixmap(16, 16).toImage();
     }
 
     void expectRefusal(const QString& title, const QString& text)
@@ -330,10 +309,6 @@ private:
         QCOMPARE(outline(*tree("treeWSid")), QString());
         QCOMPARE(win->title("dockWSid"), QString("untouched"));
     }
-
-    QScopedPointer<BoxResponder> boxes;
-    QScopedPointer<PlanWindow> win;
-    QScopedPointer<StoredProcedures> rows;
 };
 
 QTEST_MAIN(TestCreatedProcedures)

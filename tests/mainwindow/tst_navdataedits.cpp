@@ -27,7 +27,7 @@ class TestNavdataEdits : public NavdataTest
     Q_OBJECT
 
 public:
-    TestNavdataEdits() : NavdataTest("ABLAN") {}
+    TestNavdataEdits() : NavdataTest("ABLAN", {"CHATEAUROUX", "ABLAN"}) {}
 
 private slots:
     void aNewWaypointShowsAtOnce();
@@ -325,7 +325,6 @@ void TestNavdataEdits::theBoxesOfSavingAreInformation_data()
 void TestNavdataEdits::theBoxesOfSavingAreInformation()
 {
     QFETCH(QString, dialogClass);
-    const DataFolder database({"CHATEAUROUX", "ABLAN"});
     boxes->expectDialog(dialogClass, [](QDialog* dialog) {
         press(*dialog, "cbSaveCSV");
         press(*dialog, "pbOK");

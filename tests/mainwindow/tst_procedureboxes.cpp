@@ -1,42 +1,17 @@
 // The page goes on while a box of the stored procedures is open: its timers call slots that change plan and trees.
-#include "boxresponder.h"
 #include "cflightplan.h"
-#include "mainwindow.h"
-#include "planwindow.h"
 #include "procedurekind.h"
-#include "storedprocedures.h"
+#include "proceduretest.h"
 
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
 
-class TestProcedureBoxes : public QObject
+class TestProcedureBoxes : public ProcedureTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        win.reset(new PlanWindow);
-        rows.reset(new StoredProcedures(win->sandbox));
-    }
-    void cleanupTestCase()
-    {
-        win.reset();
-    }
-    void init()
-    {
-        boxes.reset(new BoxResponder);
-        rows->clear();
-    }
-    void cleanup()
-    {
-        if (!win->plan().lines.isEmpty())
-            boxes->expectMessage("Nouveau plan de vol", "Voulez vous effacer le plan de vol en cours ?");
-        win->window->askResetPlan();
-        boxes.reset();
-    }
-
     void theTreesAreFilledAnewWhileTheQuestionIsOpen_data()
     {
         bothTrees();
@@ -169,6 +144,11 @@ private slots:
     }
 
 private:
+    void endOfEach() override
+    {
+        dropPlan();
+    }
+
     static void bothTrees()
     {
         QTest::addColumn<QString>("treeName");
@@ -185,11 +165,6 @@ private:
         QTest::addColumn<ProcedureKind>("kind");
         QTest::addColumn<QString>("points");
         QTest::addColumn<int>("deleted");
-    }
-
-    QTreeWidget* tree(const QString& name) const
-    {
-        return win->window->findChild<QTreeWidget*>(name);
     }
 
     /// LFPO in the plan; A1, which is selected, and B1 in the tree.
@@ -223,10 +198,6 @@ private:
             dialog->accept();
         });
     }
-
-    QScopedPointer<BoxResponder> boxes;
-    QScopedPointer<PlanWindow> win;
-    QScopedPointer<StoredProcedures> rows;
 };
 
 QTEST_MAIN(TestProcedureBoxes)

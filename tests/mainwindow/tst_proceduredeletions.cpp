@@ -1,12 +1,9 @@
 // Stored procedures deleted, with and without an update file, and taken out of the trees.
-#include "boxresponder.h"
 #include "ciodatabase.h"
 #include "cnavglobalvar.h"
 #include "deletionwords.h"
 #include "editingworld.h"
-#include "mainwindow.h"
-#include "planwindow.h"
-#include "storedprocedures.h"
+#include "proceduretest.h"
 
 #include <QFile>
 #include <QPushButton>
@@ -20,44 +17,11 @@ const QString doneTitle = QStringLiteral("Effacement STAR");
 
 } // namespace
 
-class TestProcedureDeletions : public QObject
+class TestProcedureDeletions : public ProcedureTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        win.reset(new PlanWindow);
-        rows.reset(new StoredProcedures(win->sandbox));
-        win->add({"LFPO"});
-    }
-    void cleanupTestCase()
-    {
-        win.reset();
-    }
-    void init()
-    {
-        boxes.reset(new BoxResponder);
-        data.reset(new DataFolder({"OUT", "IN"}));
-        rows->clear();
-        rows->addProcedure("OUT", 2, {"LFPO", "BAMES"});
-        rows->addProcedure("OUT2", 2, {"ETAMP"});
-        rows->addProcedure("IN", 1, {"PGS", "LFPO"});
-        rows->addProcedure("IN2", 1, {"CGN"});
-        rows->add({{"sapt", "FR002"}, {"strm", "AWAY"}, {"sqnm", 10}, {"styp", 2}});
-        clickOnTheAirport();
-        win->bringToFront("dockWDebug");
-        win->clearCalls();
-    }
-    void cleanup()
-    {
-        win->sandbox.sql(dbfile::route, "DROP TRIGGER IF EXISTS locked");
-        for (const char* name : {"treeWSid", "treeWStar"})
-            tree(name)->setSelectionMode(QAbstractItemView::SingleSelection);
-        data.reset();
-        boxes.reset();
-    }
-
     void theQuestionNamesTheProcedure()
     {
         QString text;
@@ -352,9 +316,30 @@ private slots:
     }
 
 private:
-    QTreeWidget* tree(const QString& name) const
+    void startOfAll() override
     {
-        return win->window->findChild<QTreeWidget*>(name);
+        win->add({"LFPO"});
+    }
+
+    void startOfEach() override
+    {
+        data.reset(new DataFolder({"OUT", "IN"}));
+        rows->addProcedure("OUT", 2, {"LFPO", "BAMES"});
+        rows->addProcedure("OUT2", 2, {"ETAMP"});
+        rows->addProcedure("IN", 1, {"PGS", "LFPO"});
+        rows->addProcedure("IN2", 1, {"CGN"});
+        rows->add({{"sapt", "FR002"}, {"strm", "AWAY"}, {"sqnm", 10}, {"styp", 2}});
+        clickOnTheAirport();
+        win->bringToFront("dockWDebug");
+        win->clearCalls();
+    }
+
+    void endOfEach() override
+    {
+        win->sandbox.sql(dbfile::route, "DROP TRIGGER IF EXISTS locked");
+        for (const char* name : {"treeWSid", "treeWStar"})
+            tree(name)->setSelectionMode(QAbstractItemView::SingleSelection);
+        data.reset();
     }
 
     /// Fills both trees with the procedures of LFPO, the plan's only line.
@@ -371,9 +356,6 @@ private:
         QCOMPARE(tree(treeName)->selectedItems().size(), 1);
     }
 
-    QScopedPointer<BoxResponder> boxes;
-    QScopedPointer<PlanWindow> win;
-    QScopedPointer<StoredProcedures> rows;
     QScopedPointer<DataFolder> data;
 };
 

@@ -1,37 +1,14 @@
 // Unusual names of stored procedures. A name goes into the statements as it is, and what follows from that stays.
-#include "boxresponder.h"
-#include "mainwindow.h"
-#include "planwindow.h"
 #include "procedurekind.h"
-#include "storedprocedures.h"
+#include "proceduretest.h"
 
 #include <QTableWidget>
 
-class TestProcedureNames : public QObject
+class TestProcedureNames : public ProcedureTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        win.reset(new PlanWindow);
-        rows.reset(new StoredProcedures(win->sandbox));
-        win->add({"LFPO"});
-    }
-    void cleanupTestCase()
-    {
-        win.reset();
-    }
-    void init()
-    {
-        boxes.reset(new BoxResponder);
-        rows->clear();
-    }
-    void cleanup()
-    {
-        boxes.reset();
-    }
-
     void blanksAreAName_data()
     {
         addBothKinds();
@@ -97,9 +74,10 @@ private slots:
     }
 
 private:
-    QScopedPointer<BoxResponder> boxes;
-    QScopedPointer<PlanWindow> win;
-    QScopedPointer<StoredProcedures> rows;
+    void startOfAll() override
+    {
+        win->add({"LFPO"});
+    }
 };
 
 QTEST_MAIN(TestProcedureNames)

@@ -1,8 +1,5 @@
 // Stored procedures in the two trees of an airport, and what a click on them draws.
-#include "boxresponder.h"
-#include "mainwindow.h"
-#include "planwindow.h"
-#include "storedprocedures.h"
+#include "proceduretest.h"
 
 #include <QTreeWidget>
 #include <QtTest>
@@ -16,34 +13,11 @@ QImage picture(const QIcon& icon)
 
 } // namespace
 
-class TestProcedures : public QObject
+class TestProcedures : public ProcedureTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        win.reset(new PlanWindow);
-        rows.reset(new StoredProcedures(win->sandbox));
-    }
-    void cleanupTestCase()
-    {
-        win.reset();
-    }
-    void init()
-    {
-        boxes.reset(new BoxResponder);
-        rows->clear();
-        tree("treeWSid")->clear();
-        tree("treeWStar")->clear();
-        win->bringToFront("dockWDebug");
-        win->clearCalls();
-    }
-    void cleanup()
-    {
-        boxes.reset();
-    }
-
     void everyProcedureHangsInItsTreeWithAPointForEveryRow()
     {
         rows->addProcedure("ORLY1", 2, {"LFPO", "BAMES", "ETAMP"});
@@ -273,9 +247,11 @@ private slots:
     }
 
 private:
-    QTreeWidget* tree(const QString& name) const
+    void startOfEach() override
     {
-        return win->window->findChild<QTreeWidget*>(name);
+        emptyTrees();
+        win->bringToFront("dockWDebug");
+        win->clearCalls();
     }
 
     /// A point of the tree's first procedure.
@@ -313,10 +289,6 @@ private:
         QVERIFY(clicked->viewport()->rect().contains(cell.center()));
         QTest::mouseClick(clicked->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
     }
-
-    QScopedPointer<BoxResponder> boxes;
-    QScopedPointer<PlanWindow> win;
-    QScopedPointer<StoredProcedures> rows;
 };
 
 QTEST_MAIN(TestProcedures)

@@ -1,47 +1,16 @@
 // Stored procedures copied into the plan: a SID behind the departure, a STAR ahead of the destination.
-#include "boxresponder.h"
 #include "cflightplan.h"
-#include "mainwindow.h"
 #include "planlines.h"
-#include "planwindow.h"
-#include "storedprocedures.h"
+#include "proceduretest.h"
 
 #include <QTableWidget>
 #include <QtTest>
 
-class TestProceduresInPlan : public QObject
+class TestProceduresInPlan : public ProcedureTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        win.reset(new PlanWindow);
-        rows.reset(new StoredProcedures(win->sandbox));
-    }
-    void cleanupTestCase()
-    {
-        win.reset();
-    }
-    void init()
-    {
-        boxes.reset(new BoxResponder);
-        rows->clear();
-        tree("treeWSid")->clear();
-        tree("treeWStar")->clear();
-        win->bringToFront("dockWDebug");
-        win->clearCalls();
-    }
-    void cleanup()
-    {
-        tree("treeWSid")->setSelectionMode(QAbstractItemView::SingleSelection);
-        tree("treeWStar")->setSelectionMode(QAbstractItemView::SingleSelection);
-        if (!win->plan().lines.isEmpty())
-            boxes->expectMessage("Nouveau plan de vol", "Voulez vous effacer le plan de vol en cours ?");
-        win->window->askResetPlan();
-        boxes.reset();
-    }
-
     void aSidLandsBehindTheCurrentLine()
     {
         prepare("treeWSid", 2, {"ONE", "TWO"});
@@ -315,9 +284,18 @@ private slots:
     }
 
 private:
-    QTreeWidget* tree(const QString& name) const
+    void startOfEach() override
     {
-        return win->window->findChild<QTreeWidget*>(name);
+        emptyTrees();
+        win->bringToFront("dockWDebug");
+        win->clearCalls();
+    }
+
+    void endOfEach() override
+    {
+        tree("treeWSid")->setSelectionMode(QAbstractItemView::SingleSelection);
+        tree("treeWStar")->setSelectionMode(QAbstractItemView::SingleSelection);
+        dropPlan();
     }
 
     static void bothKinds()
@@ -343,16 +321,11 @@ private:
 
     void fillAndSelect(const QString& treeName)
     {
-        tree("treeWSid")->clear();
-        tree("treeWStar")->clear();
+        emptyTrees();
         win->window->fillSidStarTrees("FR001");
         tree(treeName)->setCurrentItem(tree(treeName)->topLevelItem(0));
         QCOMPARE(tree(treeName)->selectedItems().size(), 1);
     }
-
-    QScopedPointer<BoxResponder> boxes;
-    QScopedPointer<PlanWindow> win;
-    QScopedPointer<StoredProcedures> rows;
 };
 
 QTEST_MAIN(TestProceduresInPlan)

@@ -1,8 +1,5 @@
 // The procedure drawn beside the plan: one script of its points, and the docks that wipe it.
-#include "boxresponder.h"
-#include "mainwindow.h"
-#include "planwindow.h"
-#include "storedprocedures.h"
+#include "proceduretest.h"
 
 #include <QDockWidget>
 #include <QtTest>
@@ -23,32 +20,11 @@ const char keepPlaces[] = R"js(
 
 } // namespace
 
-class TestShownProcedure : public QObject
+class TestShownProcedure : public ProcedureTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        win.reset(new PlanWindow);
-        rows.reset(new StoredProcedures(win->sandbox));
-    }
-    void cleanupTestCase()
-    {
-        win.reset();
-    }
-    void init()
-    {
-        boxes.reset(new BoxResponder);
-        rows->clear();
-        win->bringToFront("dockWDebug");
-        win->clearCalls();
-    }
-    void cleanup()
-    {
-        boxes.reset();
-    }
-
     void aShownProcedureIsDrawnBehindAClearedLayer()
     {
         rows->add({{"strm", "ORLY1"}, {"sqnm", 10}, {"swid", "LFPO"}, {"slat", 175410}, {"slon", 8494.5}});
@@ -192,9 +168,11 @@ private slots:
     }
 
 private:
-    QScopedPointer<BoxResponder> boxes;
-    QScopedPointer<PlanWindow> win;
-    QScopedPointer<StoredProcedures> rows;
+    void startOfEach() override
+    {
+        win->bringToFront("dockWDebug");
+        win->clearCalls();
+    }
 };
 
 QTEST_MAIN(TestShownProcedure)
