@@ -12,6 +12,7 @@
 #include "mapscript.h"
 #include "mywebpage.h"
 #include "plainboxes.h"
+#include "sealeddocument.h"
 #include "simulatorfolders.h"
 #include "viewlayer.h"
 
@@ -45,6 +46,14 @@ void showPlanAircraft(const Ui::MainWindow& ui, const CAircraftData& aircraft)
     ui.leSpeedVert->setText(QString::number(aircraft.speedVert));
 }
 
+// A script of the map page can write its markup there.
+void sealDebugText(QTextEdit& debugText)
+{
+    auto* document = new SealedDocument(&debugText);
+    document->setDefaultFont(debugText.font());
+    debugText.setDocument(document);
+}
+
 void arrangeDocks(QMainWindow& window, const Ui::MainWindow& ui)
 {
     for (QDockWidget* dock : {ui.dockWSid, ui.dockWStar, ui.dockWAircraft, ui.dockWDebug}) {
@@ -67,6 +76,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(std::make_uniq
         parent->close();
     }
     ui->setupUi(this);
+    sealDebugText(*ui->debugText);
     setWindowTitle(tr("Zephan Trajector - Version %1").arg(version));
     createViewActions();
     connectMenuActions();

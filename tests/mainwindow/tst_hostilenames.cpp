@@ -16,12 +16,24 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
+#include <QTextEdit>
 #include <QWebView>
 #include <QtTest>
 
 namespace {
 
 const QString picture = QStringLiteral("<img src=x onerror='reached=1'>");
+
+/// How many pixels of a widget are of this colour.
+int pixelsOf(QWidget& widget, const QColor& colour)
+{
+    const QImage image = widget.grab().toImage();
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y) == colour ? 1 : 0;
+    return count;
+}
 
 } // namespace
 
@@ -51,6 +63,8 @@ private slots:
     void anInputBoxShowsANameAsText();
     void theBoxAboutQtKeepsItsMarkup();
     void aScriptPressesWhatTheUserMayPress();
+    void aScriptShowsNoFileInTheDebugText_data();
+    void aScriptShowsNoFileInTheDebugText();
     void aScriptEndsNoPartOfTheWindow();
     void aScriptThatTakesTheNamesAwayEndsNothingEither();
     void aScriptEndsNoDialog();
@@ -214,6 +228,43 @@ void TestHostileNames::aScriptPressesWhatTheUserMayPress()
     QCOMPARE(session->action("actVor")->isChecked(), !was);
     evaluate("mainWindow.windowTitle = 'by a script'");
     QCOMPARE(session->window().windowTitle(), QString("by a script"));
+}
+
+void TestHostileNames::aScriptShowsNoFileInTheDebugText_data()
+{
+    QTest::addColumn<QString>("html");
+    QTest::newRow("picture by its address") << "<img src='file://PICTURE'>";
+    QTest::newRow("picture by its path") << "<img src='PICTURE'>";
+    QTest::newRow("background by its address")
+        << "<table><tr><td background='file://PICTURE'>wide text</td></tr></table>";
+    QTest::newRow("background by its path") << "<table><tr><td background='PICTURE'>wide text</td></tr></table>";
+    QTest::newRow("style sheet")
+        << "<html><head><link rel='stylesheet' type='text/css' href='file://SHEET'></head><body><p>text</p></body>"
+           "</html>";
+}
+
+void TestHostileNames::aScriptShowsNoFileInTheDebugText()
+{
+    QFETCH(QString, html);
+    const QColor red("#ff0000");
+    QImage file(40, 40, QImage::Format_RGB32);
+    file.fill(red);
+    QVERIFY(file.save(sandbox->path("Work/red.png")));
+    sandbox->writeFile("Work/red.css", "p { background-color: #ff0000; }");
+    html.replace("PICTURE", sandbox->path("Work/red.png")).replace("SHEET", sandbox->path("Work/red.css"));
+    // A text field of another kind would show it.
+    QTextEdit open;
+    open.setHtml(html);
+    QVERIFY(pixelsOf(open, red) > 100);
+
+    session.reset(new WindowSession);
+    QVERIFY(session->load());
+    auto* debugText = session->find<QTextEdit>("debugText");
+    QVERIFY(debugText->isVisible());
+    evaluate("mainWindow.dockWDebug.dockWidgetContents_6.debugText.html = \"" + html + "\"");
+    QVERIFY(!debugText->toPlainText().contains("Chargement"));
+    QCOMPARE(pixelsOf(*debugText, red), 0);
+    QCOMPARE(debugText->document()->defaultFont().pointSize(), 10);
 }
 
 void TestHostileNames::aScriptEndsNoPartOfTheWindow()

@@ -128,8 +128,7 @@ bool PageProbe::waitUntilLoaded(int timeout)
 {
     const auto* debugText = window->findChild<QTextEdit*>("debugText");
     const QString last = QCoreApplication::translate("MainWindow", "Chargement terminé");
-    const bool loaded =
-        waitUntil([debugText, last] { return debugText->toPlainText().trimmed().endsWith(last); }, timeout);
+    const bool loaded = waitUntil([debugText, last] { return debugText->toPlainText().contains(last); }, timeout);
     // A probe made after the load starts to record here.
     if (!evaluate("typeof zephanProbe").toString().startsWith("object"))
         installOnNewPage();
