@@ -1,6 +1,6 @@
 /**
- * What lies under the chart, in square canvases. A zoom paints those in view; a pan moves ready pixels, and the canvases
- * around the view are painted before it gets there, a few with each frame.
+ * What lies under the chart, in square canvases. A zoom paints those in view; a pan moves ready pixels, and the
+ * canvases around the view are painted before it gets there, a few with each frame.
  */
 (function () {
   'use strict';
@@ -16,8 +16,8 @@
   engine.BaseTiles = L.Layer.extend({
     /**
      * @param {string} pane the Leaflet pane
-     * @param {Array<{paint: function(Frame)}>} painters called in this order for each canvas; what they paint at a place
-     *     depends on nothing but the place and the zoom, so that neighbours fit
+     * @param {Array<{paint: function(Frame)}>} painters called in this order for each canvas; what they paint at a
+     *     place depends on nothing but the place and the zoom, so that neighbours fit
      */
     initialize: function (pane, painters) {
       L.setOptions(this, { pane: pane });

@@ -10,9 +10,9 @@
   const reach = 0.25;
 
   /**
-   * What a painter gets of an area: a context whose unit is the CSS pixel; scale, the pixels of the whole world's width:
-   * unit coordinates times this minus left or top are pixels of the canvas; firstWorld and lastWorld, the copies of the
-   * world in the canvas, 0 the first.
+   * What a painter gets of an area: a context whose unit is the CSS pixel; scale, the pixels of the whole world's
+   * width: unit coordinates times this minus left or top are pixels of the canvas; firstWorld and lastWorld, the copies
+   * of the world in the canvas, 0 the first.
    */
   engine.frameOf = function (context, area) {
     const scale = engine.tileSize * Math.pow(2, area.zoom);
@@ -64,7 +64,9 @@
         this.pending = window.requestAnimationFrame(() => this.paint());
     },
 
-    /** Another zoom: what else is told of it may change what is shown, so the painting waits for the end of the script. */
+    /**
+     * Another zoom: what else is told of it may change what is shown, so the painting waits for the end of the script.
+     */
     paintAfterScript: function () {
       if (this.waiting)
         return;

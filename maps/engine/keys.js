@@ -1,4 +1,6 @@
-/** The keys of the map: the arrows move it, plus and minus zoom, a page or an end of a line moves it by most of a view. */
+/**
+ * The keys of the map: the arrows move it, plus and minus zoom, a page or an end of a line moves it by most of a view.
+ */
 (function () {
   'use strict';
   const engine = window.mapEngine;

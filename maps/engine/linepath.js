@@ -1,4 +1,6 @@
-/** The geometry of polylines: positions turned into runs of points in unit coordinates, which are painted one by one. */
+/**
+ * The geometry of polylines: positions turned into runs of points in unit coordinates, which are painted one by one.
+ */
 (function () {
   'use strict';
   const engine = window.mapEngine;

@@ -34,8 +34,8 @@
    * Draws a symbol on a canvas.
    * @param {google.maps.Symbol} symbol
    * @param {?HTMLCanvasElement} [used] a canvas whose picture may go; without it a new one is made
-   * @return {Sprite} size in CSS pixels; the symbol's origin lies `middle` pixels from the left and the upper edge, the symbol reaches `radius`
-   *     pixels around it
+   * @return {Sprite} size in CSS pixels; the symbol's origin lies `middle` pixels from the left and the upper edge, the
+   *     symbol reaches `radius` pixels around it
    */
   function drawSymbol(symbol, used) {
     const scale = symbol.scale || 1;

@@ -40,8 +40,9 @@
   };
 
   /**
-   * Moves the aircraft; the picture is drawn again only when it turns. A tick without a place is no tick, for a map that
-   * follows stands still then as well. Without a heading the aircraft keeps its last one, and goes where the map goes.
+   * Moves the aircraft; the picture is drawn again only when it turns. A tick without a place is no tick, for a map
+   * that follows stands still then as well. Without a heading the aircraft keeps its last one, and goes where the map
+   * goes.
    */
   page.moveAircraft = function (position, heading) {
     if (!marker || !page.isPlace(position))

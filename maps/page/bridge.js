@@ -15,8 +15,8 @@ var page = page || /** @type {Page} */ ({});
   };
 
   /**
-   * What the mouse sets off hundreds of times a second and is wanted once a frame. The first call runs at once; of those
-   * that come before the next frame one more runs with that frame, so that the last state is always told.
+   * What the mouse sets off hundreds of times a second and is wanted once a frame. The first call runs at once; of
+   * those that come before the next frame one more runs with that frame, so that the last state is always told.
    * @param {() => void} run
    * @return {() => void} asks for a run
    */

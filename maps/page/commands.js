@@ -22,8 +22,8 @@
   }
 
   /**
-   * The title by which airways are asked. They know a navaid by its identifier, for which an edit puts the name into the
-   * marker's own title.
+   * The title by which airways are asked. They know a navaid by its identifier, for which an edit puts the name into
+   * the marker's own title.
    * @param {ChartMarker} marker
    */
   const airwayTitle = marker =>
@@ -89,8 +89,8 @@
   const centreMarker = { word: 'centreHere', slots: [], run: marker => map.setCenter(marker.position) };
 
   /**
-   * The words are keys of the page's language. An entry is there when the program has all its slots; with a `problem` it
-   * is greyed.
+   * The words are keys of the page's language. An entry is there when the program has all its slots; with a `problem`
+   * it is greyed.
    * @type {Record<MarkerFamily, Command<ChartMarker>[]>}
    */
   const markerCommands = {

@@ -35,8 +35,8 @@ var theLast = null;
   }
 
   /**
-   * Whether a marker takes the place of the one that is being edited. Of that one it is known that the row is the same if
-   * the keys may be, whatever the names before them hold.
+   * Whether a marker takes the place of the one that is being edited. Of that one it is known that the row is the same
+   * if the keys may be, whatever the names before them hold.
    * @type {(marker: ChartMarker, other: ChartMarker) => boolean}
    */
   const replacesEdited = (marker, other) =>
@@ -77,7 +77,10 @@ var theLast = null;
   };
 })();
 
-/** A VOR, TACAN or DME after an edit. The number is the usage: a new one has its type from its key. @type {MarkerFeed} */
+/**
+ * A VOR, TACAN or DME after an edit. The number is the usage: a new one has its type from its key.
+ * @type {MarkerFeed}
+ */
 function addVORMarker2(position, title, use, html) {
   page.showEdited(page.collectVorByKey(position, title, html));
 }

@@ -34,7 +34,9 @@
     };
   }
 
-  /** Degrees of longitude from one position to another, east positive, the shorter way round: also across 180 degrees. */
+  /**
+   * Degrees of longitude from one position to another, east positive, the shorter way round: also across 180 degrees.
+   */
   page.degreesEast = function (from, to) {
     const turn = to.lng() - from.lng();
     return turn - 360 * Math.round(turn / 360);

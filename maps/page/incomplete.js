@@ -1,7 +1,7 @@
 /**
  * Tells on the page that one of its own files is missing or broken: nothing else would say why the map is blank. Only
- * the first such file is named, the ones that build on it fail after it. What fails once the page stands is no matter of
- * files.
+ * the first such file is named, the ones that build on it fail after it. What fails once the page stands is no matter
+ * of files.
  */
 (function () {
   'use strict';

@@ -3,14 +3,17 @@
   'use strict';
 
   /**
-   * The usage behind a waypoint's name, which the kind tells already: its number in the feed, a word or nothing at all in
-   * what the program's dialog sends.
+   * The usage behind a waypoint's name, which the kind tells already: its number in the feed, a word or nothing at all
+   * in what the program's dialog sends.
    */
   const usageBehind = /\s*\((?:\d*|High|Low|High\/Low|Terminal|RNAV|VFR)\)$/;
   /** What only a reader of markup understands. */
   const hardMarkup = /&|<(?!\/?(?:b|br|font)\b)/i;
 
-  /** The lines of a text. That of the program's own elements alone needs no document to be read. @param {string} html */
+  /**
+   * The lines of a text. That of the program's own elements alone needs no document to be read.
+   * @param {string} html
+   */
   const readLines = html => (hardMarkup.test(html) ? page.textLines(html)
     : html.replace(/<br\s*\/?>/gi, '\n').replace(/<[^>]*>/g, '').split('\n').map(line => line.trim()));
 
@@ -25,8 +28,8 @@
   };
 
   /**
-   * The first line. Thousands of labels are made at once, and in all texts of the program it is the bold part: to cut that
-   * out takes a tenth of the time of reading the whole text.
+   * The first line. Thousands of labels are made at once, and in all texts of the program it is the bold part: to cut
+   * that out takes a tenth of the time of reading the whole text.
    * @param {ChartMarker} marker
    */
   function headOf(marker) {

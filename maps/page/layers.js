@@ -93,8 +93,8 @@ var WPTVfrMgr = null;
     }
 
     /**
-     * Puts the markers onto the map, if the zoom lets any of them be seen: most of the feed's thousands are too far away
-     * to be drawn when they come, and wait here until they are.
+     * Puts the markers onto the map, if the zoom lets any of them be seen: most of the feed's thousands are too far
+     * away to be drawn when they come, and wait here until they are.
      */
     fill() {
       const isSeen = (!!chosen && chosen.badge === this.badge)

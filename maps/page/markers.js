@@ -66,8 +66,8 @@ var listWptVfr = [];
     }
 
     /**
-     * The digit of a navaid's type in its key, which is the identifier, the digit, the two letters of the country, and a
-     * number where the key would not be the only one. NaN without such a key.
+     * The digit of a navaid's type in its key, which is the identifier, the digit, the two letters of the country, and
+     * a number where the key would not be the only one. NaN without such a key.
      */
     keyDigit() {
       const found = /(\d)[A-Z]{2}\d*$/.exec(this.tail());
@@ -75,8 +75,9 @@ var listWptVfr = [];
     }
 
     /**
-     * Whether two markers stand for the same row. Equal titles hold equal keys, be they empty. A navaid's key holds no "-", so it is the tail whatever the name. A
-     * waypoint's key begins with the name's first letters and may hold one: then only the whole title tells.
+     * Whether two markers stand for the same row. Equal titles hold equal keys, be they empty. A navaid's key holds no
+     * "-", so it is the tail whatever the name. A waypoint's key begins with the name's first letters and may hold one:
+     * then only the whole title tells.
      * @param {ChartMarker} other
      */
     isSameRow(other) {

@@ -130,7 +130,8 @@
   }
 
   /**
-   * The pointer moves on an entry: it is chosen at once; its submenu, or the end of another, waits for the pointer's rest.
+   * The pointer moves on an entry: it is chosen at once; its submenu, or the end of another, waits for the pointer's
+   * rest.
    * @type {(level: number, index: number) => void}
    */
   function hover(level, index) {

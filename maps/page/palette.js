@@ -1,6 +1,6 @@
 /**
- * The colours of the chart by day and by night. Whoever draws on the map takes its colours from `page.palette` and draws
- * anew when it changes:
+ * The colours of the chart by day and by night. Whoever draws on the map takes its colours from `page.palette` and
+ * draws anew when it changes:
  *
  *     page.onPalette(palette => line.setOptions({ strokeColor: palette.route }));
  *

@@ -1,6 +1,6 @@
 /**
- * The points of the plan, each with the symbol of what stands there: they show at every zoom, also when their layer does
- * not. The program tells a name and a place for each; the marker of that name at that place is found here.
+ * The points of the plan, each with the symbol of what stands there: they show at every zoom, also when their layer
+ * does not. The program tells a name and a place for each; the marker of that name at that place is found here.
  */
 (function () {
   'use strict';

@@ -1,11 +1,14 @@
 /**
- * The filter of the pop-ups' HTML. Names stand unescaped in the program's texts, so that any element may come with them:
- * what reaches the document is built anew, out of text and of the few elements that the program itself writes.
+ * The filter of the pop-ups' HTML. Names stand unescaped in the program's texts, so that any element may come with
+ * them: what reaches the document is built anew, out of text and of the few elements that the program itself writes.
  */
 (function () {
   'use strict';
 
-  /** The elements of the program's texts, each with the attributes that it has there. @type {Record<string, string[]>} */
+  /**
+   * The elements of the program's texts, each with the attributes that it has there.
+   * @type {Record<string, string[]>}
+   */
   const allowed = { B: [], BR: [], FONT: ['color'] };
   /** Elements whose inside is no text for a reader. */
   const mute = /^(?:script|style|title|textarea|iframe|noframes|noembed|noscript|xmp|template|object|embed|select)$/i;
@@ -44,8 +47,8 @@
   }
 
   /**
-   * An element with the text's allowed content. It is read in a document of its own, which is never shown: nothing loads
-   * and nothing runs there.
+   * An element with the text's allowed content. It is read in a document of its own, which is never shown: nothing
+   * loads and nothing runs there.
    */
   page.popupContent = function (html) {
     const reader = document.implementation.createHTMLDocument('');

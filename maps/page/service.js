@@ -8,7 +8,9 @@ var mapService = {
   address: '',
   /** The key that the service asks for; empty: none is sent. */
   key: '',
-  /** Seconds after which the service is given up, and after which a raster map without a picture is told to be missing. */
+  /**
+   * Seconds after which the service is given up, and after which a raster map without a picture is told to be missing.
+   */
   wait: 4,
   /**
    * Where the pictures of a raster map come from, with {z}, {x} and {y} for zoom, column and row and the host written

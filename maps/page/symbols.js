@@ -48,8 +48,8 @@
   const star = polygon([0, -5], [1.3, -1.3], [5, 0], [1.3, 1.3], [0, 5], [-1.3, 1.3], [-5, 0], [-1.3, -1.3]);
 
   /**
-   * The colours are names of `page.palette`. What is rarer and more wanted has the higher zIndex: it lies over the rest,
-   * and its label is placed first.
+   * The colours are names of `page.palette`. What is rarer and more wanted has the higher zIndex: it lies over the
+   * rest, and its label is placed first.
    * @typedef {{path: string, stroke: Colour, weight: number, fill?: Colour, zIndex: number}} Design
    * @type {Record<string, Design>}
    */
@@ -133,13 +133,15 @@
       { scale: scale, fillOpacity: design.fill ? 1 : 0 }),
   };
 
-  /** Pixels: from the middle of a symbol of its own size to its lower end, and from there to the middle of the letters. */
+  /**
+   * Pixels: from the middle of a symbol of its own size to its lower end, and from there to the middle of the letters.
+   */
   const lowerEnd = 9;
   const toLetters = 8;
 
   /**
-   * The map service writes a label on its symbol unless it is told another place, in the symbol's own measure: below it.
-   * The map engine finds a place of its own.
+   * The map service writes a label on its symbol unless it is told another place, in the symbol's own measure: below
+   * it. The map engine finds a place of its own.
    * @param {google.maps.Symbol} symbol
    */
   page.labelledBelow = function (symbol) {
@@ -154,8 +156,8 @@
   });
 
   /**
-   * The symbol of a marker: the same object for all markers that look alike, which is drawn once. The scale is that of the
-   * full symbol.
+   * The symbol of a marker: the same object for all markers that look alike, which is drawn once. The scale is that of
+   * the full symbol.
    */
   page.symbolOf = function (marker, form, scale) {
     const path = marker.path || '';

@@ -1,4 +1,6 @@
-/** The raster map of `mapService.tileAddress` over the base map, with its attribution. Without an address there is none. */
+/**
+ * The raster map of `mapService.tileAddress` over the base map, with its attribution. Without an address there is none.
+ */
 (function () {
   'use strict';
 

@@ -1,7 +1,7 @@
 /**
- * Where the simulator's aircraft has flown. It comes as the aircraft's position hundreds of times a second and for hours:
- * points lie some way apart, only the last piece of the line grows, and a finished piece keeps the points that its shape
- * needs.
+ * Where the simulator's aircraft has flown. It comes as the aircraft's position hundreds of times a second and for
+ * hours: points lie some way apart, only the last piece of the line grows, and a finished piece keeps the points that
+ * its shape needs.
  */
 (function () {
   'use strict';

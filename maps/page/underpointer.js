@@ -14,8 +14,8 @@
   const radians = Math.PI / 180;
 
   /**
-   * Where the pointer was last, in pixels of the window. The web view also tells of a move when something has moved below
-   * the pointer: then it is `still`.
+   * Where the pointer was last, in pixels of the window. The web view also tells of a move when something has moved
+   * below the pointer: then it is `still`.
    */
   page.pointer = { x: 0, y: 0, still: false };
 

@@ -24,6 +24,7 @@ private slots:
     void navaidsShowWhenTheProgramSaysSo_data();
     void navaidsShowWhenTheProgramSaysSo();
     void aHiddenLayerShowsAgain();
+    void aLayerWakesWhenTheZoomLetsItBeSeen();
     void showingTwiceShowsEachMarkerOnce();
     void aSecondFeedOfManagersLeavesNothingBehind();
     void anEmptyFeedMakesManagersWithEmptyLists();
@@ -181,6 +182,26 @@ void TestPageFeed::aHiddenLayerShowsAgain()
         window->run("VORMgr.clearMarkers()");
         QVERIFY(!isDrawn(46.7, 2.3));
     }
+}
+
+void TestPageFeed::aLayerWakesWhenTheZoomLetsItBeSeen()
+{
+    const QString marker = "addWPTMarker%1(new google.maps.LatLng(46.70000, %2),\"%3-%3FR\",1,\"x\");";
+    window->run("map.setZoom(5);" + marker.arg("", "2.30000", "A") + "addWptMgr();WPTRteMgr.addMarkers(listWptRte)");
+    QVERIFY(!isDrawn(46.7, 2.3));
+    // None of the layer's points has been made so far.
+    QCOMPARE(window->run("var count = 0; WPTRteMgr.layer.forEach(() => ++count); count").toInt(), 0);
+    QVERIFY(window->run("WPTRteMgr.layer.getMap() === null").toBool());
+    window->run("map.setZoom(9)");
+    QVERIFY(isDrawn(46.7, 2.3));
+    window->run("map.setZoom(5)");
+    QVERIFY(!isDrawn(46.7, 2.3));
+    // What comes while the layer sleeps is there too when it wakes.
+    window->run(marker.arg("2", "2.50000", "B") + "theLast = listWptRte[0];delWaypoint();");
+    QVERIFY(!isDrawn(46.7, 2.5));
+    window->run("map.setZoom(9)");
+    QVERIFY(isDrawn(46.7, 2.5));
+    QVERIFY(!isDrawn(46.7, 2.3));
 }
 
 void TestPageFeed::showingTwiceShowsEachMarkerOnce()
