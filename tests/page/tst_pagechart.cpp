@@ -1,24 +1,15 @@
-// How the markers look: a symbol for each kind, less of it from afar, runways and compass roses, the points of the
-// plan.
-#include "pagewindow.h"
+// How the markers look: a symbol for each kind, less of it from afar.
+#include "charttest.h"
 
 #include <QtTest>
 
 #include <cmath>
 
-class TestPageChart : public QObject
+class TestPageChart : public ChartTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        program.reset(new FullProgramSide);
-        window.reset(new PageWindow(program.data()));
-        QVERIFY(window->load());
-        window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(8)");
-    }
-
     void aTypeHasItsSymbol_data();
     void aTypeHasItsSymbol();
     void aDmeIsDrawnAroundItsNdb();
@@ -31,92 +22,13 @@ private slots:
     void anRnavWaypointIsSmallerThanOneEnRoute();
     void thousandsLookFartherAway();
     void aPaletteColoursTheSymbols();
-    void runwaysShowInTheSymbolOfTheirAirport();
-    void runwaysShowInAnAirportOfThePlan();
-    void aRunwayFarFromAllAirportsChangesNone();
-    void aRunwayAcross180DegreesIsThatOfItsAirport();
-    void aVorOnAnAirportIsDrawnAroundIt();
-    void aVorOnAnAirportAcross180DegreesIsDrawnAroundIt();
-    void aRoseStandsAroundAVorFromNear();
-    void ofTwoRosesThatOverlapOneIsDrawn();
-    void rosesFollowTheSwitchOfTheirLayer();
-    void aPlannedVorHasItsRoseWithoutItsLayer();
-    void rosesOverlapAcross180Degrees();
-    void aPointOfThePlanShowsWithoutItsLayer();
-    void aPointOfThePlanHasTheCommandsOfItsMarker();
-    void aPointWithoutAMarkerIsAPlainOne();
-    void aPointOfThePlanIsDrawnOnce();
-    void theMarkerOfThePointsNameIsTaken();
-    void aPointWithAnotherNameIsNoMarkerOfThePlace();
-    void anEmptiedPlanGivesTheMarkersBack();
-    void aDeletedMarkerLeavesItsPointInThePlan();
     void theClickedMarkerIsNamedFromAfar();
     void onePointOfALayerHasOptionsOfItsOwn();
     void aCrowdIsDrawnWithoutHoles();
     void theProjectionIsThatOfTheWeb_data();
     void theProjectionIsThatOfTheWeb();
     void aCopiedLookKeepsItsLabel();
-
-private:
-    QScopedPointer<ProgramSide> program;
-    QScopedPointer<PageWindow> window;
-
-    QImage pictureAround(double latitude, double longitude, int reach)
-    {
-        window->settle();
-        const QPoint middle = window->mouse->pointOf(latitude, longitude);
-        return window->view->grab().toImage().copy(middle.x() - reach, middle.y() - reach, 2 * reach + 1,
-                                                   2 * reach + 1);
-    }
-    /// Whether a script changes what shows around a position.
-    bool changes(const QString& script, double latitude, double longitude, int reach = 10)
-    {
-        const QImage before = pictureAround(latitude, longitude, reach);
-        window->run(script);
-        return pictureAround(latitude, longitude, reach) != before;
-    }
-    int ink(double latitude, double longitude, const char* colour, int reach = 10)
-    {
-        return window->pixelsAround(latitude, longitude, reach, QColor(colour));
-    }
-    void addVor(const char* ident, double latitude, double longitude, int type = 1)
-    {
-        window->run(QString("addVORMarker(new google.maps.LatLng(%1,%2),\"%3-%3KEY\",%4,"
-                            "\"<font color=blue><b>VOR %3</b><font color=black><br/>NAME %3<br/>113.7 Mhz<br/>x\")")
-                        .arg(latitude)
-                        .arg(longitude)
-                        .arg(ident)
-                        .arg(type));
-    }
-    void showVors()
-    {
-        window->run("addNavMgr();VORMgr.addMarkers(listVOR)");
-    }
-    void plan(const QString& name, double latitude, double longitude)
-    {
-        window->run(QString("clearFP();addPointToFp(new google.maps.LatLng(%1,%2),\"%3\");pushFP();")
-                        .arg(latitude)
-                        .arg(longitude)
-                        .arg(name));
-    }
 };
-
-namespace {
-
-const char airportColour[] = "#1d3f8f";
-const char navaidColour[] = "#1f5fa8";
-const char waypointColour[] = "#2f4a38";
-const char routeColour[] = "#c2185b";
-
-const char allLayers[] =
-    "pushAPT();addNavMgr();addWptMgr();VORMgr.addMarkers(listVOR);NDBRteMgr.addMarkers(listNDBRte);"
-    "NDBTermMgr.addMarkers(listNDBTerm);WPTRteMgr.addMarkers(listWptRte);"
-    "WPTTermMgr.addMarkers(listWptTerm);WPTVfrMgr.addMarkers(listWptVfr)";
-const char noLayers[] = "ArptMgr.clearMarkers();VORMgr.clearMarkers();NDBRteMgr.clearMarkers();"
-                        "NDBTermMgr.clearMarkers();WPTRteMgr.clearMarkers();WPTTermMgr.clearMarkers();"
-                        "WPTVfrMgr.clearMarkers()";
-
-} // namespace
 
 void TestPageChart::aTypeHasItsSymbol_data()
 {
@@ -274,261 +186,6 @@ void TestPageChart::aPaletteColoursTheSymbols()
     QVERIFY(ink(46.7, 2.3, "#8fb0e8") > 0);
 }
 
-void TestPageChart::runwaysShowInTheSymbolOfTheirAirport()
-{
-    window->run("addAPTMarker(new google.maps.LatLng(46.70000, 2.30000),\"LFXX\",1,\"x\");"
-                "addAPTMarker(new google.maps.LatLng(46.40000, 2.30000),\"LFYY\",1,\"x\");pushAPT();");
-    const QImage other = pictureAround(46.4, 2.3, 10);
-    const QString runway =
-        "drawRwy(new google.maps.LatLng(46.70000, 2.28000),new google.maps.LatLng(46.70000, 2.32000));clearRunway();";
-    QVERIFY(changes(runway, 46.7, 2.3));
-    // A strip from west to east.
-    const QImage symbol = pictureAround(46.7, 2.3, 10);
-    for (int x = 6; x <= 14; ++x)
-        QCOMPARE(symbol.pixelColor(x, 10), QColor(airportColour));
-    QCOMPARE(symbol.pixelColor(10, 6), QColor("#ffffff"));
-    QCOMPARE(pictureAround(46.4, 2.3, 10), other);
-    // Told again.
-    QVERIFY(!changes(runway, 46.7, 2.3));
-}
-
-void TestPageChart::runwaysShowInAnAirportOfThePlan()
-{
-    window->run("addAPTMarker(new google.maps.LatLng(46.70000, 2.30000),\"LFXX\",1,\"x\");pushAPT();");
-    plan("LFXX", 46.7, 2.3);
-    QVERIFY(changes(
-        "drawRwy(new google.maps.LatLng(46.70000, 2.28000),new google.maps.LatLng(46.70000, 2.32000));clearRunway();",
-        46.7, 2.3));
-}
-
-void TestPageChart::aRunwayFarFromAllAirportsChangesNone()
-{
-    window->run("addAPTMarker(new google.maps.LatLng(46.70000, 2.30000),\"LFXX\",1,\"x\");pushAPT();");
-    QVERIFY(!changes(
-        "drawRwy(new google.maps.LatLng(46.50000, 2.30000),new google.maps.LatLng(46.50000, 2.32000));"
-        "drawRwy(new google.maps.LatLng(nan, 2.30000),new google.maps.LatLng(46.70000, 2.32000));clearRunway();",
-        46.7, 2.3));
-    QCOMPARE(window->page->messages, QStringList());
-}
-
-void TestPageChart::aVorOnAnAirportIsDrawnAroundIt()
-{
-    // Two pixels apart at this zoom, and thirteen.
-    addVor("ABC", 46.6, 2.311);
-    addVor("DEF", 46.4, 2.37);
-    window->run("addAPTMarker(new google.maps.LatLng(46.60000, 2.30000),\"LFXX\",1,\"x\");"
-                "addAPTMarker(new google.maps.LatLng(46.40000, 2.30000),\"LFYY\",1,\"x\");");
-    showVors();
-    const int alone = ink(46.6, 2.311, navaidColour);
-    const QImage farther = pictureAround(46.4, 2.37, 3);
-    window->run("pushAPT()");
-    // The hexagon's left and right corner stand farther out than the airport's ticks.
-    const QImage both = pictureAround(46.6, 2.311, 14);
-    const auto isNavaid = [&both](int left, int right) {
-        for (int x = left; x <= right; ++x)
-            if (both.pixelColor(x, 14) == QColor(navaidColour))
-                return true;
-        return false;
-    };
-    QVERIFY(isNavaid(2, 5));
-    QVERIFY(isNavaid(23, 26));
-    QCOMPARE(pictureAround(46.4, 2.37, 3), farther);
-    // Without the airports there is nothing to be around, and from nearer they are two.
-    window->run("ArptMgr.clearMarkers()");
-    QCOMPARE(ink(46.6, 2.311, navaidColour), alone);
-    window->run("ArptMgr.addMarkers(listApt);map.setZoom(12)");
-    const QImage near = pictureAround(46.6, 2.311, 10);
-    window->run("ArptMgr.clearMarkers()");
-    QCOMPARE(pictureAround(46.6, 2.311, 10), near);
-}
-
-void TestPageChart::aRoseStandsAroundAVorFromNear()
-{
-    addVor("ABC", 46.5, 2.5);
-    addVor("DEF", 46.5, 2.9, 16);
-    window->run("addNavMgr();map.setZoom(10)");
-    const QImage bare = pictureAround(46.5, 2.5, 60);
-    const QImage bareDme = pictureAround(46.5, 2.9, 60);
-    window->run("VORMgr.addMarkers(listVOR)");
-    const QImage rose = pictureAround(46.5, 2.5, 60);
-    // On the circle of 50 pixels in the west and in the south, where no label stands, and on the arrow in the north.
-    for (const QPoint& point : {QPoint(10, 60), QPoint(60, 110), QPoint(60, 5)})
-        QVERIFY(rose.pixelColor(point) != bare.pixelColor(point));
-    // In the east no label lies on the circle, whose middle is the corner of four pixels.
-    QCOMPARE(rose.pixelColor(109, 60), rose.pixelColor(10, 60));
-    // A DME gives no bearing.
-    const QImage dme = pictureAround(46.5, 2.9, 60);
-    QCOMPARE(dme.pixelColor(10, 60), bareDme.pixelColor(10, 60));
-    QCOMPARE(dme.pixelColor(60, 110), bareDme.pixelColor(60, 110));
-    // From afar it would be in the way.
-    window->run("map.setZoom(8);VORMgr.clearMarkers()");
-    const QImage afar = pictureAround(46.5, 2.5, 60);
-    window->run("VORMgr.addMarkers(listVOR)");
-    QCOMPARE(pictureAround(46.5, 2.5, 60).pixelColor(10, 60), afar.pixelColor(10, 60));
-}
-
-void TestPageChart::ofTwoRosesThatOverlapOneIsDrawn()
-{
-    addVor("ABC", 46.5, 2.5);
-    // 40 pixels north of it at this zoom.
-    addVor("DEF", 46.5378, 2.5);
-    window->run("addNavMgr();map.setZoom(10)");
-    const QImage bare = pictureAround(46.5378, 2.5, 55);
-    window->run("VORMgr.addMarkers(listVOR)");
-    const QImage drawn = pictureAround(46.5378, 2.5, 55);
-    // The second one's circle would cross its west; the first one's does not.
-    QCOMPARE(drawn.pixelColor(5, 55), bare.pixelColor(5, 55));
-    QVERIFY(changes("VORMgr.clearMarkers()", 46.5, 2.5, 55));
-}
-
-void TestPageChart::rosesFollowTheSwitchOfTheirLayer()
-{
-    addVor("ABC", 46.5, 2.5);
-    window->run("addNavMgr();map.setZoom(10)");
-    const QImage bare = pictureAround(46.5, 2.5, 60);
-    window->run("VORMgr.addMarkers(listVOR)");
-    QVERIFY(pictureAround(46.5, 2.5, 60) != bare);
-    window->run("VORMgr.clearMarkers()");
-    QCOMPARE(pictureAround(46.5, 2.5, 60), bare);
-}
-
-void TestPageChart::aPlannedVorHasItsRoseWithoutItsLayer()
-{
-    addVor("ABC", 46.5, 2.5);
-    window->run("addNavMgr();map.setZoom(10)");
-    const auto circle = [this] { return pictureAround(46.5, 2.5, 60).copy(8, 50, 5, 20); };
-    const QImage bare = circle();
-    plan("NAME ABC", 46.5, 2.5);
-    QVERIFY(circle() != bare);
-    window->run("clearFP()");
-    QCOMPARE(circle(), bare);
-}
-
-void TestPageChart::rosesOverlapAcross180Degrees()
-{
-    window->run("map.setCenter(new google.maps.LatLng(0, 180));map.setZoom(10)");
-    addVor("ABC", 0, 179.97);
-    // 44 pixels east of it at this zoom.
-    addVor("DEF", 0, -179.97);
-    window->run("addNavMgr()");
-    const auto eastOfTheSecond = [this] { return pictureAround(0, 180.03, 60).copy(108, 20, 5, 20); };
-    const QImage bare = eastOfTheSecond();
-    window->run("VORMgr.addMarkers(listVOR)");
-    QCOMPARE(eastOfTheSecond(), bare);
-}
-
-void TestPageChart::aPointOfThePlanShowsWithoutItsLayer()
-{
-    addVor("ABC", 46.7, 2.3, 17);
-    showVors();
-    window->run("VORMgr.clearMarkers()");
-    QCOMPARE(ink(46.7, 2.3, navaidColour), 0);
-    plan("NAME ABC", 46.7, 2.3);
-    QVERIFY(ink(46.7, 2.3, navaidColour) > 10);
-    // Its name, beside it.
-    QVERIFY(ink(46.7, 2.3, routeColour, 45) > 20);
-    // From afar too.
-    window->run("map.setZoom(4)");
-    QVERIFY(ink(46.7, 2.3, navaidColour) > 10);
-    QVERIFY(ink(46.7, 2.3, routeColour, 45) > 20);
-}
-
-void TestPageChart::aPointOfThePlanHasTheCommandsOfItsMarker()
-{
-    addVor("ABC", 46.7, 2.3);
-    window->run("addNavMgr()");
-    plan("NAME ABC", 46.7, 2.3);
-    window->settle();
-    window->click(46.7, 2.3);
-    QVERIFY(window->popupText().contains("NAME ABC"));
-    window->run("page.closePopup()");
-    QVERIFY(window->menuAt(46.7, 2.3).contains("Ajouter au plan de vol"));
-}
-
-void TestPageChart::aPointWithoutAMarkerIsAPlainOne()
-{
-    plan("WPT01", 46.7, 2.3);
-    QVERIFY(ink(46.7, 2.3, routeColour, 6) > 5);
-    QVERIFY(!window->menuAt(46.7, 2.3).contains("Ajouter au plan de vol"));
-}
-
-void TestPageChart::aPointOfThePlanIsDrawnOnce()
-{
-    window->run("addAPTMarker(new google.maps.LatLng(46.70000, 2.30000),\"LFXX\",1,"
-                "\"<font color=blue><b>Airport LFXX</b><font color=black><br/>SOMEWHERE<br/>x\");pushAPT();");
-    const int symbolAndLabel = ink(46.7, 2.3, airportColour, 60);
-    plan("SOMEWHERE", 46.7, 2.3);
-    const int symbolAlone = ink(46.7, 2.3, airportColour, 60);
-    QVERIFY2(symbolAlone > 0 && symbolAlone < symbolAndLabel,
-             qPrintable(QString("%1 of %2").arg(symbolAlone).arg(symbolAndLabel)));
-    QVERIFY(ink(46.7, 2.3, routeColour, 60) > 20);
-    // The departure is the destination as well.
-    const QImage once = pictureAround(46.7, 2.3, 60);
-    const QString point = "addPointToFp(new google.maps.LatLng(46.70000, 2.30000),\"SOMEWHERE\");";
-    window->run("clearFP();" + point + point + "pushFP();");
-    QCOMPARE(pictureAround(46.7, 2.3, 60), once);
-}
-
-void TestPageChart::theMarkerOfThePointsNameIsTaken()
-{
-    addVor("ABC", 46.7, 2.3);
-    window->run("addNavMgr();addWPTMarker(new google.maps.LatLng(46.70000, 2.30000),\"POINT-KEYFR\",1,"
-                "\"<font color=blue><b>Waypoint POINT</b><font color=black><br/>POINT (1)<br/>x\");addWptMgr();");
-    plan("POINT", 46.7, 2.3);
-    QCOMPARE(ink(46.7, 2.3, navaidColour), 0);
-    QVERIFY(ink(46.7, 2.3, waypointColour) > 5);
-    plan("NAME ABC", 46.7, 2.3);
-    QVERIFY(ink(46.7, 2.3, navaidColour) > 5);
-    // A waypoint of the dialog: its identifier is the name's first letters, and the usage is a word.
-    window->run("addWPTMarker2(new google.maps.LatLng(46.70000, 2.30000),\"DIALOG-DIALOFR\",3,"
-                "\"<font color=blue><b>Waypoint DIAL</b><font color=black><br/>DIALOG (High/Low)<br/>x\")");
-    plan("DIALOG", 46.7, 2.3);
-    QCOMPARE(window->run("page.isPlanned(listWptRte[1])").toBool(), true);
-}
-
-void TestPageChart::aPointWithAnotherNameIsNoMarkerOfThePlace()
-{
-    addVor("ABC", 46.7, 2.3);
-    showVors();
-    const QImage before = pictureAround(46.7, 2.3, 40);
-    // Such as the user makes it on the VOR.
-    plan("WPT001", 46.7, 2.3);
-    QCOMPARE(window->run("page.plannedMarkers().length").toInt(), 0);
-    QVERIFY(pictureAround(46.7, 2.3, 40) != before);
-    QVERIFY(ink(46.7, 2.3, navaidColour) > 5);
-    QVERIFY(ink(46.7, 2.3, routeColour, 60) > 20);
-    window->run("VORMgr.clearMarkers()");
-    QCOMPARE(ink(46.7, 2.3, navaidColour), 0);
-    // Blanks around a name are not among the letters of the marker's text.
-    plan(" NAME ABC ", 46.7, 2.3);
-    QCOMPARE(window->run("page.plannedMarkers().length").toInt(), 1);
-}
-
-void TestPageChart::anEmptiedPlanGivesTheMarkersBack()
-{
-    addVor("ABC", 46.7, 2.3);
-    showVors();
-    const QImage before = pictureAround(46.7, 2.3, 40);
-    plan("NAME ABC", 46.7, 2.3);
-    QVERIFY(pictureAround(46.7, 2.3, 40) != before);
-    window->run("clearFP()");
-    QCOMPARE(pictureAround(46.7, 2.3, 40), before);
-    window->run("VORMgr.clearMarkers()");
-    QCOMPARE(ink(46.7, 2.3, navaidColour), 0);
-}
-
-void TestPageChart::aDeletedMarkerLeavesItsPointInThePlan()
-{
-    addVor("ABC", 46.7, 2.3);
-    showVors();
-    plan("NAME ABC", 46.7, 2.3);
-    window->settle();
-    window->click(46.7, 2.3);
-    window->run("page.closePopup();delNavaid();theLast == null;");
-    QCOMPARE(ink(46.7, 2.3, navaidColour), 0);
-    QVERIFY(ink(46.7, 2.3, routeColour, 6) > 5);
-}
-
 void TestPageChart::theClickedMarkerIsNamedFromAfar()
 {
     addVor("ABC", 46.5, 2.5);
@@ -621,36 +278,6 @@ void TestPageChart::aCopiedLookKeepsItsLabel()
                 "ArptMgr.layer.forEach(point => { ArptMgr.layer.dress(point, 1); look = point.look; });");
     QCOMPARE(window->run("look.zIndex").toInt(), 7);
     QCOMPARE(window->run("look.label.text").toString(), QString("LFXX"));
-}
-
-void TestPageChart::aRunwayAcross180DegreesIsThatOfItsAirport()
-{
-    window->run("map.setCenter(new google.maps.LatLng(46.50000,179.99000));");
-    for (double longitude : {179.99, -179.99}) {
-        window->run(QString("listApt.length = 0;addAPTMarker(new google.maps.LatLng(46.50000,%1),\"LFLX\",1,\"x\");"
-                            "pushAPT();")
-                        .arg(longitude));
-        window->run("drawRwy(new google.maps.LatLng(46.50000,179.98000),new google.maps.LatLng(46.50000,-179.98000));"
-                    "clearRunway();");
-        // From west to east, a good deal longer than wide.
-        const QVariantList ends =
-            window->run("var runway = Array.from(listApt[0].runways.values())[0]; [runway[0].east, runway[1].east]")
-                .toList();
-        QCOMPARE(ends.size(), 2);
-        const double length = ends.value(1).toDouble() - ends.value(0).toDouble();
-        QVERIFY2(length > 0.02 && length < 0.04, qPrintable(QString::number(length)));
-    }
-}
-
-void TestPageChart::aVorOnAnAirportAcross180DegreesIsDrawnAroundIt()
-{
-    window->run("map.setCenter(new google.maps.LatLng(46.50000,179.99900));");
-    addVor("ABC", 46.5, 179.999);
-    showVors();
-    // The airport is a third of a pixel away, in the next degree.
-    QVERIFY(!window->run("page.isUnderAirport(listVOR[0], 8)").toBool());
-    window->run("addAPTMarker(new google.maps.LatLng(46.50000,-179.99900),\"LFLX\",1,\"x\");pushAPT();");
-    QVERIFY(window->run("page.isUnderAirport(listVOR[0], 8)").toBool());
 }
 
 QTEST_MAIN(TestPageChart)

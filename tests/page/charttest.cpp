@@ -1,0 +1,54 @@
+// Pages and pictures for the tests of what markers look like.
+#include "charttest.h"
+
+#include <QtTest>
+
+void ChartTest::init()
+{
+    program.reset(new FullProgramSide);
+    window.reset(new PageWindow(program.data()));
+    QVERIFY(window->load());
+    window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(8)");
+}
+
+QImage ChartTest::pictureAround(double latitude, double longitude, int reach)
+{
+    window->settle();
+    const QPoint middle = window->mouse->pointOf(latitude, longitude);
+    return window->view->grab().toImage().copy(middle.x() - reach, middle.y() - reach, 2 * reach + 1, 2 * reach + 1);
+}
+
+bool ChartTest::changes(const QString& script, double latitude, double longitude, int reach)
+{
+    const QImage before = pictureAround(latitude, longitude, reach);
+    window->run(script);
+    return pictureAround(latitude, longitude, reach) != before;
+}
+
+int ChartTest::ink(double latitude, double longitude, const char* colour, int reach)
+{
+    return window->pixelsAround(latitude, longitude, reach, QColor(colour));
+}
+
+void ChartTest::addVor(const char* ident, double latitude, double longitude, int type)
+{
+    window->run(QString("addVORMarker(new google.maps.LatLng(%1,%2),\"%3-%3KEY\",%4,"
+                        "\"<font color=blue><b>VOR %3</b><font color=black><br/>NAME %3<br/>113.7 Mhz<br/>x\")")
+                    .arg(latitude)
+                    .arg(longitude)
+                    .arg(ident)
+                    .arg(type));
+}
+
+void ChartTest::showVors()
+{
+    window->run("addNavMgr();VORMgr.addMarkers(listVOR)");
+}
+
+void ChartTest::plan(const QString& name, double latitude, double longitude)
+{
+    window->run(QString("clearFP();addPointToFp(new google.maps.LatLng(%1,%2),\"%3\");pushFP();")
+                    .arg(latitude)
+                    .arg(longitude)
+                    .arg(name));
+}
