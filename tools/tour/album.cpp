@@ -6,8 +6,11 @@
 
 #include <cstdio>
 
-Album::Album(const QString& folderName) : folder(QDir(folderName).absolutePath())
+Album::Album(const QString& folderName) : folder(folderName.isEmpty() ? QString() : QDir(folderName).absolutePath())
 {
+    if (folder.isEmpty()) {
+        return;
+    }
     QDir dir(folder);
     dir.mkpath(QStringLiteral("."));
     const QStringList old = dir.entryList({QStringLiteral("[0-9][0-9]-*.png")}, QDir::Files);
@@ -18,6 +21,9 @@ Album::Album(const QString& folderName) : folder(QDir(folderName).absolutePath()
 
 bool Album::take(QWidget* widget, const QString& name)
 {
+    if (folder.isEmpty()) {
+        return true;
+    }
     ++taken;
     const QString path = QStringLiteral("%1/%2-%3.png").arg(folder).arg(taken, 2, 10, QLatin1Char('0')).arg(name);
     if (!widget->grab().save(path)) {
@@ -27,14 +33,4 @@ bool Album::take(QWidget* widget, const QString& name)
     std::printf("%s\n", qPrintable(path));
     std::fflush(stdout);
     return true;
-}
-
-int Album::pictures() const
-{
-    return taken;
-}
-
-QString Album::folderPath() const
-{
-    return folder;
 }

@@ -8,14 +8,12 @@ class QWidget;
 class Album
 {
 public:
-    /// Makes the folder, and empties it of the pictures of an earlier tour.
+    /// Makes the folder, and empties it of the pictures of an earlier tour. An empty name makes an album that keeps
+    /// nothing.
     explicit Album(const QString& folder);
 
     /// Takes a picture of a window or a dialog as it stands. False when it cannot be saved.
     bool take(QWidget* widget, const QString& name);
-
-    int pictures() const;
-    QString folderPath() const;
 
 private:
     QString folder;

@@ -4,7 +4,10 @@
 #include "mainwindow.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QLineEdit>
 #include <QProcess>
+#include <QSettings>
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QTreeWidget>
@@ -22,9 +25,30 @@ const Place balan{46.51611, 1.03333};
 
 } // namespace
 
-Tour::Tour(const QString& pictures) : album(pictures) {}
+Tour::Tour(const TourOptions& options) : rest(options.rest), album(options.pictures), manual(options.manualPictures)
+{
+    forgetWorkFolder();
+    answerWorkFolder();
+    session = std::make_unique<WindowSession>();
+}
 
 Tour::~Tour() = default;
+
+void Tour::forgetWorkFolder()
+{
+    QSettings settings("trajector.ini", QSettings::IniFormat);
+    settings.remove("directory/dirWork");
+}
+
+void Tour::answerWorkFolder()
+{
+    boxes.expectDialog("QFileDialog", [this](QDialog* dialog) {
+        settle();
+        dialog->findChild<QLineEdit*>("fileNameEdit")->setText(QDir::cleanPath(QDir().absoluteFilePath("../../Work")));
+        picture(dialog, "box-work-folder");
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+}
 
 const QVector<Tour::Step>& Tour::steps()
 {
@@ -35,6 +59,7 @@ const QVector<Tour::Step>& Tour::steps()
         {"layers", &Tour::hideLayers},
         {"airport-menu", &Tour::openMarkerMenu},
         {"departure", &Tour::addDeparture},
+        {"saved-too-early", &Tour::saveTooEarly},
         {"runways", &Tour::showRunways},
         {"start-dragged", &Tour::dragStart},
         {"start-turned", &Tour::turnStart},
@@ -42,6 +67,8 @@ const QVector<Tour::Step>& Tour::steps()
         {"navaid-from-search", &Tour::addNavaidFromSearch},
         {"map-menu", &Tour::openMapMenu},
         {"own-point", &Tour::addOwnPoint},
+        {"measure", &Tour::measureLegs},
+        {"measure-cleared", &Tour::clearMeasure},
         {"pop-up", &Tour::openPopup},
         {"waypoint-from-map", &Tour::addWaypointFromMap},
         {"destination", &Tour::addDestination},
@@ -59,12 +86,16 @@ const QVector<Tour::Step>& Tour::steps()
         {"trace", &Tour::traceFlight},
         {"trace-followed", &Tour::followFlight},
         {"trace-ended", &Tour::endTrace},
+        {"trail-cleared", &Tour::clearTrail},
+        {"navaid-dialog", &Tour::openNewNavaid},
         {"empty-map-menu", &Tour::openEmptyMapMenu},
         {"waypoint-made", &Tour::makeWaypoint},
         {"waypoint-pop-up", &Tour::openNewPopup},
         {"waypoint-menu", &Tour::openWaypointMenu},
         {"waypoint-deleted", &Tour::deleteWaypoint},
         {"update-imported", &Tour::importUpdate},
+        {"aircraft-chosen", &Tour::chooseAircraft},
+        {"plan-searched", &Tour::planBySearch},
         {"departure-planned", &Tour::planDeparture},
         {"sid-stored", &Tour::storeSid},
         {"sid-shown", &Tour::showSid},
@@ -84,29 +115,31 @@ bool Tour::take()
         for (const QString& complaint : boxes.takeComplaints()) {
             require(false, complaint);
         }
-        picture(&session.window(), step.name);
+        picture(&session->window(), step.name);
         if (!failure.isEmpty()) {
             std::fprintf(stderr, "tour: %s: %s\n", step.name, qPrintable(failure));
             return false;
         }
     }
-    return true;
+    for (const QString& name : manual.missing()) {
+        std::fprintf(stderr, "tour: no step takes the manual's picture %s\n", qPrintable(name));
+    }
+    return manual.missing().isEmpty();
 }
 
 void Tour::start()
 {
-    require(session.load(), "the map page did not load");
-    // No window manager on a virtual display makes a window active, and keys go to the active one only.
-    QApplication::setActiveWindow(&session.window());
+    require(session->load(), "the map page did not load");
+    activate();
 }
 
 void Tour::searchExact()
 {
     // As on a pilot's screen: wide enough for the whole plan.
-    session.window().resize(1320, 1080);
+    session->window().resize(1320, 1080);
     search("lfpo", "btnSearchExact");
     pickFound("LFPO");
-    session.find<QTreeWidget>("treeWFound")->expandAll();
+    session->find<QTreeWidget>("treeWFound")->expandAll();
 }
 
 void Tour::searchNear()
@@ -125,7 +158,7 @@ void Tour::hideLayers()
 
 void Tour::openMarkerMenu()
 {
-    openMenuAt(session.page().pointOf(orly.latitude, orly.longitude));
+    openMenuAt(session->page().pointOf(orly.latitude, orly.longitude));
 }
 
 void Tour::addDeparture()
@@ -134,23 +167,30 @@ void Tour::addDeparture()
     requireLines(1);
 }
 
+void Tour::saveTooEarly()
+{
+    expectMessage(QMessageBox::Ok, "box-too-short");
+    clickButton("btnSaveFlightPlan");
+    activate();
+}
+
 void Tour::showRunways()
 {
     zoomTo(13);
     centreOn("LFPO", "LFPO");
-    openMenuAt(session.page().pointOf(orly.latitude, orly.longitude));
+    openMenuAt(session->page().pointOf(orly.latitude, orly.longitude));
     chooseEntry("showRunways");
 }
 
 void Tour::dragStart()
 {
-    const QPoint from = session.page().pointOf(runwayHead.latitude, runwayHead.longitude);
-    session.page().drag(from, from + QPoint(40, 40));
+    const QPoint from = session->page().pointOf(runwayHead.latitude, runwayHead.longitude);
+    session->page().drag(from, from + QPoint(40, 40));
 }
 
 void Tour::turnStart()
 {
-    auto* heading = session.find<QSpinBox>("spInertial");
+    auto* heading = session->find<QSpinBox>("spInertial");
     heading->setFocus();
     heading->selectAll();
     QTest::keyClicks(heading, "62");
@@ -161,7 +201,7 @@ void Tour::turnStart()
 void Tour::addNavaidFromMap()
 {
     zoomTo(9);
-    openMenuAt(session.page().pointOf(rambouillet.latitude, rambouillet.longitude));
+    openMenuAt(session->page().pointOf(rambouillet.latitude, rambouillet.longitude));
     chooseEntry("addToPlan");
     requireLines(2);
 }
@@ -176,7 +216,7 @@ void Tour::addNavaidFromSearch()
 void Tour::openMapMenu()
 {
     centreOn("AMB", "AMB4FR");
-    openMenuAt(session.page().pointOf(47.1, 1.35));
+    openMenuAt(session->page().pointOf(47.1, 1.35));
 }
 
 void Tour::addOwnPoint()
@@ -188,12 +228,12 @@ void Tour::addOwnPoint()
 void Tour::openPopup()
 {
     centreOn("BALAN", "BALANFR");
-    session.page().click(session.page().pointOf(balan.latitude, balan.longitude));
+    session->page().click(session->page().pointOf(balan.latitude, balan.longitude));
 }
 
 void Tour::addWaypointFromMap()
 {
-    openMenuAt(session.page().pointOf(balan.latitude, balan.longitude));
+    openMenuAt(session->page().pointOf(balan.latitude, balan.longitude));
     chooseEntry("addToPlan");
     requireLines(5);
 }
@@ -210,7 +250,7 @@ void Tour::addDestination()
 void Tour::seeWholePlan()
 {
     // A click on the empty map closes the pop-up.
-    session.page().click(QPoint(20, 20));
+    session->page().click(QPoint(20, 20));
     zoomTo(6);
     constexpr int middle = 3;
     QTest::mouseClick(grid()->viewport(), Qt::LeftButton, Qt::NoModifier,

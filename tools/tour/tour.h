@@ -1,39 +1,23 @@
 #pragma once
 
-#include "album.h"
-#include "boxresponder.h"
-#include "windowsession.h"
+#include "tourhands.h"
 
-#include <QPoint>
 #include <QString>
-#include <QStringList>
+#include <QVector>
 
 #include <memory>
 
 class QDialog;
 class QProcess;
-class QTableWidget;
-
-struct Place
-{
-    double latitude; ///< degrees
-    double longitude;
-};
-
-/// What is typed for a point in the search, and the key of the row that is meant.
-struct FoundPoint
-{
-    const char* ident;
-    const char* key;
-};
 
 /// The program's main job as a pilot does it, from the start to a plan that is saved, loaded again and flown, then a
 /// waypoint that is made, deleted and exported, then a plan with a SID and a STAR: real events on the real window, and
 /// a picture after each step. It flies from Paris Orly to Toulouse Blagnac on the demonstration simulator's data.
-class Tour
+class Tour : public TourHands
 {
 public:
-    explicit Tour(const QString& pictures);
+    /// Starts the program as at its first start.
+    explicit Tour(const TourOptions& options);
     ~Tour();
 
     /// Takes the steps in their order, up to the first that does not go as it should; that one is told on the standard
@@ -51,18 +35,25 @@ private:
     };
     static const QVector<Step>& steps();
 
+    /// As at a first start: the program does not know its work folder and asks for it.
+    void forgetWorkFolder();
+    void answerWorkFolder();
+
     void start();
     void searchExact();
     void searchNear();
     void hideLayers();
     void openMarkerMenu();
     void addDeparture();
+    void saveTooEarly();
     void showRunways();
     void dragStart();
     void turnStart();
     void addNavaidFromMap();
     void addNavaidFromSearch();
     void openMapMenu();
+    void measureLegs();
+    void clearMeasure();
     void addOwnPoint();
     void openPopup();
     void addWaypointFromMap();
@@ -84,6 +75,8 @@ private:
     void followFlight();
     void endTrace();
 
+    void clearTrail();
+    void openNewNavaid();
     void openEmptyMapMenu();
     void makeWaypoint();
     void openNewPopup();
@@ -91,6 +84,8 @@ private:
     void deleteWaypoint();
     void importUpdate();
 
+    void chooseAircraft();
+    void planBySearch();
     void planDeparture();
     void storeSid();
     void showSid();
@@ -113,37 +108,11 @@ private:
     /// Fills the position dialog that the waypoint's opened, and accepts it.
     void fillPosition(QDialog* dialog);
 
-    /// Time for the page to draw and for the window to lay itself out.
-    static void settle();
-    /// Remembers the first thing that went wrong.
-    void require(bool fulfilled, const QString& what);
-    void requireLines(int count);
-    void picture(QWidget* widget, const char* name);
-
-    void search(const QString& text, const QString& button);
-    /// Picks the item of the last search with this key; a missing one goes wrong.
-    void pickFound(const QString& key);
-    void addFound(const QString& key);
-    void centreOn(const QString& ident, const QString& key);
-    void zoomTo(double zoom);
-    void openMenuAt(const QPoint& place);
-    /// Chooses the entry of the page's open menu that the page's words know under this name.
-    void chooseEntry(const QString& word);
-    /// Answers the next message box; its picture is taken first.
-    void expectMessage(QMessageBox::StandardButton button, const char* pictureName);
-    /// Answers the next file dialog by a file's name; its picture is taken with the name in it.
-    void expectFile(const QString& name, const char* pictureName);
-    void clickButton(const QString& name);
     /// Begins a new plan of these points.
     void planOf(const QList<FoundPoint>& points);
     void openDock(const QString& name);
     void clickRow(int row);
     void clickProcedure(const QString& tree, const QString& name);
-    QTableWidget* grid() const;
 
-    WindowSession session;
-    BoxResponder boxes;
-    Album album;
-    QString failure;
     std::unique_ptr<QProcess> simulator; ///< while the plan is flown; killed when the tour ends before the flight
 };

@@ -1,4 +1,5 @@
-// The steps that change the navigation data: a waypoint made, deleted and exported, and its update file imported.
+// The flight's trail cleared, and the steps that change the navigation data: a waypoint made, deleted and exported, and
+// its update file imported.
 #include "tour.h"
 
 #include "mainwindow.h"
@@ -69,6 +70,28 @@ QString Tour::updateFile()
     return QString("%1/Data/%2.CSV").arg(QCoreApplication::applicationDirPath(), waypointName);
 }
 
+void Tour::clearTrail()
+{
+    centreOn("AMB", "AMB4FR");
+    zoomTo(9);
+    openMenuAt(session->page().pointOf(emptyPlace.latitude, emptyPlace.longitude));
+    chooseEntry("clearTrail");
+    require(!session->page().evaluate("page.hasTrail()").toBool(), "the trail is still there");
+}
+
+void Tour::openNewNavaid()
+{
+    openMenuAt(session->page().pointOf(emptyPlace.latitude, emptyPlace.longitude));
+    boxes.expectDialog("CDialogNav", [this](QDialog* dialog) {
+        QApplication::setActiveWindow(dialog);
+        settle();
+        picture(dialog, "box-navaid");
+        QTest::mouseClick(widgetOf<QPushButton>(dialog, "pbCancel"), Qt::LeftButton);
+    });
+    chooseEntry("newNavaid");
+    activate();
+}
+
 void Tour::openEmptyMapMenu()
 {
     // The program does not make the folder of the update files.
@@ -77,7 +100,7 @@ void Tour::openEmptyMapMenu()
     QFile::remove(updateFile());
     centreOn("AMB", "AMB4FR");
     zoomTo(9);
-    openMenuAt(session.page().pointOf(emptyPlace.latitude, emptyPlace.longitude));
+    openMenuAt(session->page().pointOf(emptyPlace.latitude, emptyPlace.longitude));
 }
 
 void Tour::makeWaypoint()
@@ -87,7 +110,7 @@ void Tour::makeWaypoint()
     expectMessage(QMessageBox::Ok, "box-waypoint-stored");
     expectMessage(QMessageBox::Ok, "box-waypoint-exported");
     chooseEntry("newWaypoint");
-    QApplication::setActiveWindow(&session.window());
+    activate();
     require(QFile::exists(updateFile()), "the waypoint was not exported");
 }
 
@@ -127,14 +150,14 @@ void Tour::fillPosition(QDialog* dialog)
 
 void Tour::openNewPopup()
 {
-    session.page().click(session.page().pointOf(waypointPlace.latitude, waypointPlace.longitude));
+    session->page().click(session->page().pointOf(waypointPlace.latitude, waypointPlace.longitude));
     settle();
-    require(session.page().popupText().contains(waypointName), "the new waypoint has no pop-up");
+    require(session->page().popupText().contains(waypointName), "the new waypoint has no pop-up");
 }
 
 void Tour::openWaypointMenu()
 {
-    openMenuAt(session.page().pointOf(waypointPlace.latitude, waypointPlace.longitude));
+    openMenuAt(session->page().pointOf(waypointPlace.latitude, waypointPlace.longitude));
 }
 
 void Tour::deleteWaypoint()
@@ -148,10 +171,11 @@ void Tour::deleteWaypoint()
 
 void Tour::importUpdate()
 {
-    auto* bar = session.find<QMenuBar>("menuBar");
-    auto* menu = session.find<QMenu>("menuImport");
+    auto* bar = session->find<QMenuBar>("menuBar");
+    auto* menu = session->find<QMenu>("menuImport");
     expectFile(updateFile(), "box-import");
     expectMessage(QMessageBox::Ok, "box-imported");
     QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->actionGeometry(menu->menuAction()).center());
-    QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(session.action("actImport")).center());
+    QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier,
+                      menu->actionGeometry(session->action("actImport")).center());
 }

@@ -116,7 +116,7 @@ void Tour::followFlight()
     QVariantList middle;
     const bool follows = QTest::qWaitFor(
         [&] {
-            middle = session.page().evaluate("[map.getCenter().lat(), map.getCenter().lng()]").toList();
+            middle = session->page().evaluate("[map.getCenter().lat(), map.getCenter().lng()]").toList();
             return middle.value(0).toDouble() < 46.2;
         },
         patience);

@@ -4,6 +4,7 @@
 
 #include "mainwindow.h"
 
+#include <QComboBox>
 #include <QDockWidget>
 #include <QInputDialog>
 #include <QLineEdit>
@@ -31,6 +32,31 @@ void Tour::planOf(const QList<FoundPoint>& points)
     requireLines(points.size());
 }
 
+void Tour::chooseAircraft()
+{
+    openDock("dockWAircraft");
+    auto* type = session->find<QComboBox>("cbAircraftType");
+    type->setFocus();
+    QTest::keyClick(type, Qt::Key_Down);
+    require(session->find<QLineEdit>("leSpeedCruise")->text().toInt() > 0, "the aircraft has no cruise speed");
+    auto* altitude = session->find<QLineEdit>("leAltCruise");
+    altitude->selectAll();
+    QTest::keyClicks(altitude, "24000");
+}
+
+/// A plan whose every leg has a speed: they come from the search alone.
+void Tour::planBySearch()
+{
+    planOf({{"LFPO", "LFPO"},
+            {"RBT", "RBT4FR"},
+            {"AMB", "AMB4FR"},
+            {"BALAN", "BALANFR"},
+            {"LMG", "LMG4FR"},
+            {"LFBO", "LFBO"}});
+    zoomTo(6);
+    centreOn("AMB", "AMB4FR");
+}
+
 void Tour::planDeparture()
 {
     planOf({{"LFPO", "LFPO"}, {"RBT", "RBT4FR"}, {"AMB", "AMB4FR"}, {"BALAN", "BALANFR"}});
@@ -49,7 +75,7 @@ void Tour::storeSid()
     expectMessage(QMessageBox::Ok, "box-sid-stored");
     clickButton("btnCreateSID");
     openDock("dockWSid");
-    session.find<QTreeWidget>("treeWSid")->expandAll();
+    session->find<QTreeWidget>("treeWSid")->expandAll();
 }
 
 void Tour::showSid()
@@ -85,7 +111,7 @@ void Tour::addStar()
 void Tour::listAirways()
 {
     centreOn("BALAN", "BALANFR");
-    openMenuAt(session.page().pointOf(balan.latitude, balan.longitude));
+    openMenuAt(session->page().pointOf(balan.latitude, balan.longitude));
     boxes.expectDialog("QInputDialog", [this](QDialog* dialog) {
         settle();
         picture(dialog, "box-airways");
@@ -96,8 +122,8 @@ void Tour::listAirways()
 
 void Tour::openDock(const QString& name)
 {
-    const QString title = session.find<QDockWidget>(name)->windowTitle();
-    const QList<QTabBar*> bars = session.window().findChildren<QTabBar*>();
+    const QString title = session->find<QDockWidget>(name)->windowTitle();
+    const QList<QTabBar*> bars = session->window().findChildren<QTabBar*>();
     for (QTabBar* bar : bars) {
         for (int tab = 0; tab < bar->count(); ++tab) {
             if (bar->tabText(tab) == title) {
@@ -118,7 +144,7 @@ void Tour::clickRow(int row)
 
 void Tour::clickProcedure(const QString& tree, const QString& name)
 {
-    auto* widget = session.find<QTreeWidget>(tree);
+    auto* widget = session->find<QTreeWidget>(tree);
     const QList<QTreeWidgetItem*> found = widget->findItems(name, Qt::MatchExactly);
     require(found.size() == 1, QString("%1 found %2 times").arg(name).arg(found.size()));
     if (!found.isEmpty()) {

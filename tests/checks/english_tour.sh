@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# The tour in English meets no French text, in windows, boxes, tool tips and on the map page.
+#
+#   english_tour.sh FOLDER_OF_PROGRAMS
+set -euo pipefail
+
+programs=$1
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+
+simulator=$folder/AeoZephan
+"$programs/makedemo" "$simulator"
+cp "$programs/zephantrajector_en.qm" "$simulator/Tools/Trajector"
+LC_ALL=en_GB.UTF-8 LANGUAGE=en QT_LOGGING_RULES='*.debug=false' "$programs/tour" --rest 60 \
+    --english resources/translations/zephantrajector_en.ts --kept tests/checks/kept_french.txt "$simulator"
