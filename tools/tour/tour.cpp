@@ -25,7 +25,7 @@ const Place balan{46.51611, 1.03333};
 
 } // namespace
 
-Tour::Tour(const TourOptions& options) : rest(options.rest), album(options.pictures), manual(options.manualPictures)
+Tour::Tour(const TourOptions& options) : TourHands(options)
 {
     forgetWorkFolder();
     answerWorkFolder();
