@@ -213,6 +213,29 @@ languages.forEach(({ file, lang, words }, which) => describe(file, () => {
     await page.tab.waitForFunction(() => window.calls.some(call => call[0] === 'doData' && /46° 4\d' .*RBT/.test(call[1])));
   });
 
+  once('tells what comes under a still pointer and goes from there', async () => {
+    const told = end => page.tab.waitForFunction(
+      pattern => new RegExp(pattern).test((window.calls.filter(call => call[0] === 'doData').pop() || ['', ''])[1]), end);
+    await feed();
+    const at = await page.pixelOf(46.7, 2.5);
+    await page.tab.mouse.move(at.x + 90, at.y + 90);
+    await page.tab.mouse.move(at.x, at.y);
+    await told('RBT');
+    await page.run('VORMgr.clearMarkers()');
+    await told('[EW]$');
+    await page.run('VORMgr.addMarkers(listVOR)');
+    await told('RBT');
+  });
+
+  once('opens the pop-up of the airport on which the start stands', async () => {
+    await feed();
+    await page.run('addSitMarker(listApt[0].position,"", 90);');
+    const place = await page.run('[listApt[0].position.lat(), listApt[0].position.lng()]');
+    await page.click(...place);
+    await page.tab.waitForSelector('.leaflet-popup-content');
+    assert.ok((await page.tab.textContent('.leaflet-popup-content')).includes(await page.run('listApt[0].getTitle()')));
+  });
+
   once('draws the route and takes it away', async () => {
     const without = await page.pictureAt(46.5, 2.5);
     await page.run('clearFP();addPointToFp(new google.maps.LatLng(46.50000, 2.20000),"LFXX");'
