@@ -13,6 +13,7 @@ private slots:
     void tells();
     void dataAreFrenchByTheCatalogueAlone();
     void untranslatedTextIsFrench();
+    void wordsOfTheFrenchPageAreFrench();
     void keptTextIsNot();
     void findsAllOfThemSorted();
     void whatIsNoCatalogueIsRefused();
@@ -85,6 +86,23 @@ void TestFrenchTexts::dataAreFrenchByTheCatalogueAlone()
 void TestFrenchTexts::untranslatedTextIsFrench()
 {
     QVERIFY(judge().areFrench("Fin"));
+}
+
+void TestFrenchTexts::wordsOfTheFrenchPageAreFrench()
+{
+    FrenchTexts texts = judge();
+    QVERIFY(!texts.areFrench("Point VFR"));
+    QBuffer frenchPage;
+    frenchPage.setData("  var pageWords = {\n    sum: 'Total',\n    kind: 'Point VFR',\n    gone: 'Rien d\\'autre',\n");
+    QBuffer englishPage;
+    englishPage.setData("    sum: 'Total',\n    kind: 'VFR point',\n");
+    frenchPage.open(QIODevice::ReadOnly);
+    englishPage.open(QIODevice::ReadOnly);
+    QVERIFY(texts.readPageWords(frenchPage, englishPage));
+    QVERIFY(texts.areFrench("Point VFR"));
+    QVERIFY(texts.areFrench("Rien d'autre"));
+    QVERIFY(!texts.areFrench("Total"));
+    QVERIFY(!texts.areFrench("VFR point"));
 }
 
 void TestFrenchTexts::keptTextIsNot()

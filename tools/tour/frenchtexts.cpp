@@ -1,5 +1,6 @@
 #include "frenchtexts.h"
 
+#include <QHash>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -44,6 +45,20 @@ const QRegularExpression& frenchWords()
     return words;
 }
 
+/// The words of a map page by their keys: the lines "key: 'words'," of its table.
+QHash<QString, QString> pageWords(QIODevice& page)
+{
+    static const QRegularExpression line("^\\s+(\\w+): '((?:[^'\\\\]|\\\\.)*)',$");
+    QHash<QString, QString> words;
+    while (!page.atEnd()) {
+        const QRegularExpressionMatch match = line.match(QString::fromUtf8(page.readLine()).remove('\n'));
+        if (match.hasMatch()) {
+            words.insert(match.captured(1), match.captured(2).remove('\\'));
+        }
+    }
+    return words;
+}
+
 } // namespace
 
 bool FrenchTexts::readCatalogue(QIODevice& catalogue)
@@ -55,12 +70,27 @@ bool FrenchTexts::readCatalogue(QIODevice& catalogue)
         if (reader.isStartElement() && reader.name() == QLatin1String("source")) {
             source = reader.readElementText();
         } else if (reader.isStartElement() && reader.name() == QLatin1String("translation")) {
-            if (plain(reader.readElementText()) != plain(source)) {
-                french << patternOf(source);
-            }
+            addPair(source, reader.readElementText());
         }
     }
     return !reader.hasError() && !french.isEmpty();
+}
+
+bool FrenchTexts::readPageWords(QIODevice& frenchPage, QIODevice& englishPage)
+{
+    const QHash<QString, QString> frenchWords = pageWords(frenchPage);
+    const QHash<QString, QString> englishWords = pageWords(englishPage);
+    for (auto word = frenchWords.constBegin(); word != frenchWords.constEnd(); ++word) {
+        addPair(word.value(), englishWords.value(word.key()));
+    }
+    return !frenchWords.isEmpty() && !englishWords.isEmpty();
+}
+
+void FrenchTexts::addPair(const QString& frenchText, const QString& englishText)
+{
+    if (plain(frenchText) != plain(englishText)) {
+        french << patternOf(frenchText);
+    }
 }
 
 void FrenchTexts::readKept(QIODevice& file)

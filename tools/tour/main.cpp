@@ -47,6 +47,15 @@ bool readFrench(const QCommandLineParser& parser, FrenchTexts& french)
         std::fprintf(stderr, "tour: %s is no catalogue\n", qPrintable(catalogue.fileName()));
         return false;
     }
+    const QString pages = QCoreApplication::applicationDirPath() + "/gm_trajector_%1.html";
+    QFile frenchPage(pages.arg("fr"));
+    QFile englishPage(pages.arg("en"));
+    if (!frenchPage.open(QIODevice::ReadOnly) || !englishPage.open(QIODevice::ReadOnly) ||
+        !french.readPageWords(frenchPage, englishPage)) {
+        std::fprintf(stderr, "tour: no words in %s and %s\n", qPrintable(frenchPage.fileName()),
+                     qPrintable(englishPage.fileName()));
+        return false;
+    }
     QFile kept(parser.value("kept"));
     if (parser.isSet("kept") && !kept.open(QIODevice::ReadOnly)) {
         std::fprintf(stderr, "tour: no list %s\n", qPrintable(kept.fileName()));
