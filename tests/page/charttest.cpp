@@ -1,23 +1,6 @@
 // Pages and pictures for the tests of what markers look like.
 #include "charttest.h"
 
-#include <QtTest>
-
-void ChartTest::init()
-{
-    program.reset(new FullProgramSide);
-    window.reset(new PageWindow(program.data()));
-    QVERIFY(window->load());
-    window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(8)");
-}
-
-QImage ChartTest::pictureAround(double latitude, double longitude, int reach)
-{
-    window->settle();
-    const QPoint middle = window->mouse->pointOf(latitude, longitude);
-    return window->view->grab().toImage().copy(middle.x() - reach, middle.y() - reach, 2 * reach + 1, 2 * reach + 1);
-}
-
 bool ChartTest::changes(const QString& script, double latitude, double longitude, int reach)
 {
     const QImage before = pictureAround(latitude, longitude, reach);

@@ -1,10 +1,6 @@
 #pragma once
 
-#include "pagewindow.h"
-#include "programside.h"
-
-#include <QObject>
-#include <QScopedPointer>
+#include "pagetest.h"
 
 /// The colours of the day in which the symbols are drawn.
 inline const char airportColour[] = "#1d3f8f";
@@ -21,24 +17,16 @@ inline const char noLayers[] = "ArptMgr.clearMarkers();VORMgr.clearMarkers();NDB
                                "NDBTermMgr.clearMarkers();WPTRteMgr.clearMarkers();WPTTermMgr.clearMarkers();"
                                "WPTVfrMgr.clearMarkers()";
 
-/// A page for each test, and the program on the other side, for the tests of what markers look like: the view is
-/// at 46.5 north and 2.5 east, zoom 8.
-class ChartTest : public QObject
+/// The tests of what markers look like.
+class ChartTest : public PageTest
 {
     Q_OBJECT
 
 protected:
-    QImage pictureAround(double latitude, double longitude, int reach);
     /// Whether a script changes what shows around a position.
     bool changes(const QString& script, double latitude, double longitude, int reach = 10);
     int ink(double latitude, double longitude, const char* colour, int reach = 10);
     void addVor(const char* ident, double latitude, double longitude, int type = 1);
     void showVors();
     void plan(const QString& name, double latitude, double longitude);
-
-    QScopedPointer<ProgramSide> program;
-    QScopedPointer<PageWindow> window;
-
-private slots:
-    void init();
 };

@@ -1,21 +1,13 @@
 // The simulator's aircraft on the map: it comes, moves, turns and goes.
-#include "pagewindow.h"
+#include "pagetest.h"
 
 #include <QtTest>
 
-class TestPageAircraft : public QObject
+class TestPageAircraft : public PageTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        program.reset(new FullProgramSide);
-        window.reset(new PageWindow(program.data()));
-        QVERIFY(window->load());
-        window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(8)");
-    }
-
     void theAircraftComesMovesAndGoes();
     void theAircraftTurns();
     void theAircraftTurnsOnOneCanvas();
@@ -34,18 +26,9 @@ private slots:
     void thousandsOfTicksLeaveOneAircraft();
 
 private:
-    QScopedPointer<ProgramSide> program;
-    QScopedPointer<PageWindow> window;
-
     int around(double latitude, double longitude, const char* colour, int reach = 12)
     {
         return window->pixelsAround(latitude, longitude, reach, QColor(colour));
-    }
-    QImage pictureAt(double latitude, double longitude)
-    {
-        window->settle();
-        const QPoint middle = window->mouse->pointOf(latitude, longitude);
-        return window->view->grab().toImage().copy(middle.x() - 18, middle.y() - 18, 37, 37);
     }
 };
 
@@ -72,17 +55,17 @@ void TestPageAircraft::theAircraftComesMovesAndGoes()
 void TestPageAircraft::theAircraftTurns()
 {
     window->run("addAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),\"\",0);");
-    const QImage north = pictureAt(46.7, 2.3);
+    const QImage north = pictureAround(46.7, 2.3, 18);
     window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),135);");
-    QVERIFY(pictureAt(46.7, 2.3) != north);
+    QVERIFY(pictureAround(46.7, 2.3, 18) != north);
     window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),0);");
-    QCOMPARE(pictureAt(46.7, 2.3), north);
+    QCOMPARE(pictureAround(46.7, 2.3, 18), north);
 }
 
 void TestPageAircraft::theAircraftTurnsOnOneCanvas()
 {
     window->run("addAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),\"\",225);");
-    const QImage fresh = pictureAt(46.7, 2.3);
+    const QImage fresh = pictureAround(46.7, 2.3, 18);
     window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),0);");
     window->settle();
     window->run("var canvas = document.querySelector('.chart-marker canvas'), made = 0, make = document.createElement;"
@@ -90,7 +73,7 @@ void TestPageAircraft::theAircraftTurnsOnOneCanvas()
     for (int heading = 1; heading <= 225; ++heading)
         window->run(QString("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),%1);").arg(heading));
     // Nothing of the headings before is left in the picture.
-    QCOMPARE(pictureAt(46.7, 2.3), fresh);
+    QCOMPARE(pictureAround(46.7, 2.3, 18), fresh);
     // 225 turns made none; the base map may have made some tiles meanwhile.
     const int made = window->run("made").toInt();
     QVERIFY2(made < 100, qPrintable(QString::number(made)));
@@ -142,23 +125,23 @@ void TestPageAircraft::anAircraftWithoutAHeadingGoesOnWithItsLast()
     window->run(QString("setAcftMrkr(%1,%2);;map.setCenter(%1);").arg(place, heading));
     QCOMPARE(around(46.7, 2.3, aircraftColour), 0);
     QVERIFY(around(46.2, 2.8, aircraftColour) > 20);
-    const QImage picture = pictureAt(46.2, 2.8);
+    const QImage picture = pictureAround(46.2, 2.8, 18);
     window->run(QString("setAcftMrkr(%1,135);").arg(place));
-    QCOMPARE(pictureAt(46.2, 2.8), picture);
+    QCOMPARE(pictureAround(46.2, 2.8, 18), picture);
     window->run(QString("setAcftMrkr(%1,0);").arg(place));
-    QVERIFY(pictureAt(46.2, 2.8) != picture);
+    QVERIFY(pictureAround(46.2, 2.8, 18) != picture);
     QCOMPARE(window->page->messages, QStringList());
 }
 
 void TestPageAircraft::anAircraftThatComesWithoutAHeadingLooksNorth()
 {
     window->run("addAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),\"\",nan);");
-    const QImage picture = pictureAt(46.7, 2.3);
+    const QImage picture = pictureAround(46.7, 2.3, 18);
     QVERIFY(around(46.7, 2.3, aircraftColour) > 20);
     window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),0);");
-    QCOMPARE(pictureAt(46.7, 2.3), picture);
+    QCOMPARE(pictureAround(46.7, 2.3, 18), picture);
     window->run("setAcftMrkr(new google.maps.LatLng(46.70000, 2.30000),90);");
-    QVERIFY(pictureAt(46.7, 2.3) != picture);
+    QVERIFY(pictureAround(46.7, 2.3, 18) != picture);
 }
 
 void TestPageAircraft::theAircraftOfTheOtherSideShows()

@@ -1,21 +1,13 @@
 // What scripts draw besides the markers: route, procedure, runways, airways and start marker.
-#include "pagewindow.h"
+#include "pagetest.h"
 
 #include <QtTest>
 
-class TestPageDrawing : public QObject
+class TestPageDrawing : public PageTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        program.reset(new FullProgramSide);
-        window.reset(new PageWindow(program.data()));
-        QVERIFY(window->load());
-        window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(8)");
-    }
-
     void theRouteShowsWhenItsPointsAreComplete();
     void anEmptiedPlanLeavesNoRoute();
     void eachBatchDrawsTheRouteAnew();
@@ -41,18 +33,9 @@ private slots:
     void theCommandsOfTheMapWorkOnTheStartMarker();
 
 private:
-    QScopedPointer<ProgramSide> program;
-    QScopedPointer<PageWindow> window;
-
     int around(double latitude, double longitude, const char* colour, int reach = 12)
     {
         return window->pixelsAround(latitude, longitude, reach, QColor(colour));
-    }
-    QImage pictureAt(double latitude, double longitude)
-    {
-        window->settle();
-        const QPoint middle = window->mouse->pointOf(latitude, longitude);
-        return window->view->grab().toImage().copy(middle.x() - 18, middle.y() - 18, 37, 37);
     }
 };
 
@@ -331,14 +314,14 @@ void TestPageDrawing::thereIsOneStartMarker()
 void TestPageDrawing::theStartMarkerShowsItsHeading()
 {
     window->run("addSitMarker(new google.maps.LatLng(46.70000000, 2.30000000),\"\", 0);");
-    const QImage north = pictureAt(46.7, 2.3);
+    const QImage north = pictureAround(46.7, 2.3, 18);
     window->run("addSitMarker(new google.maps.LatLng(46.70000000, 2.30000000),\"\", 90);");
-    QVERIFY(pictureAt(46.7, 2.3) != north);
+    QVERIFY(pictureAround(46.7, 2.3, 18) != north);
     window->run("addSitMarker(new google.maps.LatLng(46.70000000, 2.30000000),\"\", 1e+22);");
     window->run("addSitMarker(new google.maps.LatLng(46.70000000, 2.30000000),\"\", 360);");
-    QCOMPARE(pictureAt(46.7, 2.3), north);
+    QCOMPARE(pictureAround(46.7, 2.3, 18), north);
     window->run("addSitMarker(new google.maps.LatLng(46.70000000, 2.30000000),\"\", nan);");
-    QCOMPARE(pictureAt(46.7, 2.3), north);
+    QCOMPARE(pictureAround(46.7, 2.3, 18), north);
 }
 
 void TestPageDrawing::draggingTheStartMarkerTellsTheProgram()

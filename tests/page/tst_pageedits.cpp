@@ -1,21 +1,13 @@
 // Single markers after an edit, and the deletion of the marker last used.
-#include "pagewindow.h"
+#include "pagetest.h"
 
 #include <QtTest>
 
-class TestPageEdits : public QObject
+class TestPageEdits : public PageTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        program.reset(new FullProgramSide);
-        window.reset(new PageWindow(program.data()));
-        QVERIFY(window->load());
-        window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(8)");
-    }
-
     void aSingleMarkerShowsAtOnce_data();
     void aSingleMarkerShowsAtOnce();
     void itShowsInAHiddenLayerToo();
@@ -46,9 +38,6 @@ private slots:
     void editsAreFoundFromNear();
 
 private:
-    QScopedPointer<ProgramSide> program;
-    QScopedPointer<PageWindow> window;
-
     QStringList titles(const QString& list)
     {
         return window->run(list + ".map(marker => marker.getTitle())").toStringList();

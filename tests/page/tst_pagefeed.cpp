@@ -1,21 +1,13 @@
 // The marker feed: every script of it reaches its list, its manager and the map.
-#include "pagewindow.h"
+#include "pagetest.h"
 
 #include <QtTest>
 
-class TestPageFeed : public QObject
+class TestPageFeed : public PageTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        program.reset(new FullProgramSide);
-        window.reset(new PageWindow(program.data()));
-        QVERIFY(window->load());
-        window->run("map.setCenter(new google.maps.LatLng(46.70000, 2.30000));map.setZoom(8)");
-    }
-
     void aRowReachesItsList_data();
     void aRowReachesItsList();
     void titlesAreTextAsSent();
@@ -36,8 +28,10 @@ private slots:
     void fiftyThousandMarkersAreTaken();
 
 private:
-    QScopedPointer<ProgramSide> program;
-    QScopedPointer<PageWindow> window;
+    QString firstView() const override
+    {
+        return "map.setCenter(new google.maps.LatLng(46.70000, 2.30000));map.setZoom(8)";
+    }
 
     QStringList titles(const QString& list)
     {

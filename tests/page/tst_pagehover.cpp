@@ -1,24 +1,16 @@
 // The pointer over the map: the box beside it, and what the status bar is told.
+#include "pagetest.h"
 #include "samplechart.h"
 
 #include <QtTest>
 
 using namespace samplechart;
 
-class TestPageHover : public QObject
+class TestPageHover : public SampleChartTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        window.reset();
-        program.reset(new FullProgramSide);
-        window.reset(new PageWindow(program.data()));
-        QVERIFY(show(*window));
-        program->clear();
-    }
-
     void aRestOverAMarkerShowsTheBox();
     void theBoxTellsTheFrequency();
     void theBoxTellsEachOfSeveralObjects();
@@ -50,9 +42,6 @@ private slots:
     void aWindowInTheBackgroundHasNoBox();
 
 private:
-    QScopedPointer<ProgramSide> program;
-    QScopedPointer<PageWindow> window;
-
     bool isShown()
     {
         return !window->run("document.getElementById('tooltip').hidden").toBool();

@@ -1,24 +1,16 @@
 // The map and its menu by keys, the double click, and the order in which Escape closes things.
+#include "pagetest.h"
 #include "samplechart.h"
 
 #include <QtTest>
 
 using namespace samplechart;
 
-class TestPageKeys : public QObject
+class TestPageKeys : public SampleChartTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        window.reset();
-        program.reset(new FullProgramSide);
-        window.reset(new PageWindow(program.data()));
-        QVERIFY(show(*window));
-        program->clear();
-    }
-
     void theArrowsMoveTheMap_data();
     void theArrowsMoveTheMap();
     void twoArrowsGoTwiceAsFar();
@@ -51,22 +43,6 @@ private slots:
     void theSystemsOwnRequestDoesNotMoveTheMenu();
 
 private:
-    QScopedPointer<ProgramSide> program;
-    QScopedPointer<PageWindow> window;
-
-    /// The calls that are no reports of pointer and view.
-    QStringList commands() const
-    {
-        return program->calls().filter(QRegularExpression("^(?!doData|doCenter|doZoom)"));
-    }
-    QStringList chosen()
-    {
-        return texts(*window, ".menu-entry.chosen .menu-label");
-    }
-    int panels()
-    {
-        return window->run("document.querySelectorAll('.menu:not([hidden])').length").toInt();
-    }
     double number(const QString& script)
     {
         return window->run(script).toDouble();

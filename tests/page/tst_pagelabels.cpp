@@ -1,21 +1,13 @@
 // The labels: who gets the room, where they stand, and that they stay there while the map is moved.
-#include "pagewindow.h"
+#include "pagetest.h"
 
 #include <QtTest>
 
-class TestPageLabels : public QObject
+class TestPageLabels : public PageTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        program.reset(new FullProgramSide);
-        window.reset(new PageWindow(program.data()));
-        QVERIFY(window->load());
-        window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(9)");
-    }
-
     void aLabelStandsRightOfItsSymbol();
     void theLookOfAMarkerIsMadeOfOptionsAlone();
     void aLabelHasARimAgainstWhatLiesBelow();
@@ -47,8 +39,10 @@ private slots:
     void theServiceIsToldAPlaceBelowEachSymbol();
 
 private:
-    QScopedPointer<ProgramSide> program;
-    QScopedPointer<PageWindow> window;
+    QString firstView() const override
+    {
+        return "map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(9)";
+    }
 
     void addAirport(const QString& ident, double latitude, double longitude)
     {

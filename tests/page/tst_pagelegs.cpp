@@ -1,20 +1,13 @@
 // Course, distance and arrow on the legs of the plan's route.
-#include "pagewindow.h"
+#include "pagetest.h"
 
 #include <QtTest>
 
-class TestPageLegs : public QObject
+class TestPageLegs : public LonePageTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        window.reset(new PageWindow(nullptr));
-        QVERIFY(window->load());
-        window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(8)");
-    }
-
     void eachLegTellsCourseAndDistance_data();
     void eachLegTellsCourseAndDistance();
     void aShortLegHasAnArrowAlone();
@@ -40,8 +33,6 @@ private slots:
     void theTextsTakeTheColoursOfTheNight();
 
 private:
-    QScopedPointer<PageWindow> window;
-
     void draw(const QList<QPointF>& points);
     QStringList texts();
     int arrows()

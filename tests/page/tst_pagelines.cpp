@@ -1,22 +1,15 @@
 // How the map draws lines: great circles at every zoom, thinned points, symbols along the line, areas.
-#include "pagewindow.h"
+#include "pagetest.h"
 
 #include <QtTest>
 
 #include <cmath>
 
-class TestPageLines : public QObject
+class TestPageLines : public LonePageTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        window.reset(new PageWindow(nullptr));
-        QVERIFY(window->load());
-        window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(8)");
-    }
-
     void aGreatCircleBendsAtEveryZoom_data();
     void aGreatCircleBendsAtEveryZoom();
     void aLineOverThePoleEndsAtTheEdgeOfTheMap();
@@ -38,8 +31,6 @@ private slots:
     void airwaysTakeTheColoursOfTheNight();
 
 private:
-    QScopedPointer<PageWindow> window;
-
     int around(double latitude, double longitude, const char* colour, int reach = 6)
     {
         return window->pixelsAround(latitude, longitude, reach, QColor(colour));

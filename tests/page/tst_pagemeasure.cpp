@@ -1,24 +1,16 @@
 // The measure: its legs, their numbers, the line to the pointer, and its end.
+#include "pagetest.h"
 #include "samplechart.h"
 
 #include <QtTest>
 
 using namespace samplechart;
 
-class TestPageMeasure : public QObject
+class TestPageMeasure : public SampleChartTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        window.reset();
-        program.reset(new FullProgramSide);
-        window.reset(new PageWindow(program.data()));
-        QVERIFY(show(*window));
-        program->clear();
-    }
-
     void aLegTellsItsLengthAndBothCourses();
     void theTextOfALegToTheEastStandsBesideIt();
     void theLineFollowsThePointer();
@@ -42,9 +34,6 @@ private slots:
     void theMeasureFollowsThePalette();
 
 private:
-    QScopedPointer<ProgramSide> program;
-    QScopedPointer<PageWindow> window;
-
     void measureFrom(const Place& place, const QString& object = {})
     {
         menuAt(*window, place);

@@ -1,24 +1,16 @@
 // The context menu under the mouse: submenus, greyed entries, roles, and its place in the window.
+#include "pagetest.h"
 #include "samplechart.h"
 
 #include <QtTest>
 
 using namespace samplechart;
 
-class TestPageMenu : public QObject
+class TestPageMenu : public SampleChartTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        window.reset();
-        program.reset(new FullProgramSide);
-        window.reset(new PageWindow(program.data()));
-        QVERIFY(show(*window));
-        program->clear();
-    }
-
     void theMenuClosesWithoutACommand_data();
     void theMenuClosesWithoutACommand();
     void theMenuStaysInTheWindow();
@@ -40,22 +32,6 @@ private slots:
     void theMenuFollowsThePalette();
 
 private:
-    QScopedPointer<ProgramSide> program;
-    QScopedPointer<PageWindow> window;
-
-    /// The calls that are no reports of pointer and view.
-    QStringList commands() const
-    {
-        return program->calls().filter(QRegularExpression("^(?!doData|doCenter|doZoom)"));
-    }
-    QStringList chosen()
-    {
-        return texts(*window, ".menu-entry.chosen .menu-label");
-    }
-    int panels()
-    {
-        return window->run("document.querySelectorAll('.menu:not([hidden])').length").toInt();
-    }
     QPoint entryPixel(const QString& text)
     {
         const QVariantList place =

@@ -1,5 +1,5 @@
 // The chart by day and by night: every colour has its pair, and a press of the button changes all that is drawn.
-#include "pagewindow.h"
+#include "pagetest.h"
 
 #include <QtTest>
 
@@ -12,19 +12,11 @@ const QColor nightSea("#0f1a24");
 
 } // namespace
 
-class TestPagePalette : public QObject
+class TestPagePalette : public PageTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        program.reset(new FullProgramSide);
-        window.reset(new PageWindow(program.data()));
-        QVERIFY(window->load());
-        window->run("map.setCenter(new google.maps.LatLng(46.50000, -1.00000));map.setZoom(6)");
-    }
-
     void theDayComesFirst();
     void bothPalettesNameTheSameColours();
     void theButtonGoesToTheNightAndBack();
@@ -38,8 +30,10 @@ private slots:
     void aPartThatIsSwitchedOffIsNotDrawn();
 
 private:
-    QScopedPointer<ProgramSide> program;
-    QScopedPointer<PageWindow> window;
+    QString firstView() const override
+    {
+        return "map.setCenter(new google.maps.LatLng(46.50000, -1.00000));map.setZoom(6)";
+    }
 
     void pressButton()
     {

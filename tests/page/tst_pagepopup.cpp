@@ -1,21 +1,13 @@
 // The pop-ups: the HTML text of a marker shows on a click, and nothing of it but text and its own few elements.
-#include "pagewindow.h"
+#include "pagetest.h"
 
 #include <QtTest>
 
-class TestPagePopup : public QObject
+class TestPagePopup : public PageTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        program.reset(new FullProgramSide);
-        window.reset(new PageWindow(program.data()));
-        QVERIFY(window->load());
-        window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(8)");
-    }
-
     void aClickShowsTheText();
     void theColourOfTheTextShows();
     void anotherMarkerTakesThePopUp();
@@ -35,9 +27,6 @@ private slots:
     void hostileTextNeitherLoadsNorRuns();
 
 private:
-    QScopedPointer<ProgramSide> program;
-    QScopedPointer<PageWindow> window;
-
     void addAirport(double latitude, double longitude, const QString& title, const QString& html)
     {
         window->run(QString("addAPTMarker(new google.maps.LatLng(%1,%2),\"%3\",1,\"%4\");pushAPT();")

@@ -1,4 +1,5 @@
 // The chart on a screen of two pixels for each of the page's: everything is drawn with the screen's own.
+#include "pagetest.h"
 #include "samplechart.h"
 
 #include <QApplication>
@@ -6,28 +7,17 @@
 
 using namespace samplechart;
 
-class TestPageRatio : public QObject
+class TestPageRatio : public SampleChartTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        window.reset();
-        program.reset(new FullProgramSide);
-        window.reset(new PageWindow(program.data()));
-        QVERIFY(show(*window));
-    }
-
     void theScreenHasTwoPixels();
     void aSymbolHasTheScreensPixels();
     void theCanvasesHaveTheScreensPixels();
     void theBaseMapIsPaintedAnewForAnotherScreen();
 
 private:
-    QScopedPointer<ProgramSide> program;
-    QScopedPointer<PageWindow> window;
-
     /// The sides, in pixels, of the canvases that a selector finds, each once.
     QVariantList sides(const QString& selector)
     {

@@ -1,22 +1,15 @@
 // Where the simulator's aircraft has flown.
-#include "pagewindow.h"
+#include "pagetest.h"
 
 #include <QtTest>
 
 #include <cmath>
 
-class TestPageTrail : public QObject
+class TestPageTrail : public LonePageTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        window.reset(new PageWindow(nullptr));
-        QVERIFY(window->load());
-        window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(8)");
-    }
-
     void theTrailShowsWhereTheAircraftHasFlown();
     void theTrailGrowsWhileItIsLookedAt();
     void aJumpBreaksTheTrail();
@@ -39,8 +32,6 @@ private slots:
     void theTrailTakesTheColourOfTheNight();
 
 private:
-    QScopedPointer<PageWindow> window;
-
     int around(double latitude, double longitude, const char* colour, int reach = 6)
     {
         return window->pixelsAround(latitude, longitude, reach, QColor(colour));

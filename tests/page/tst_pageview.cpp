@@ -1,22 +1,13 @@
 // Centre and zoom of the map: what scripts set and read, what the user moves, what the page reports.
-#include "pagewindow.h"
+#include "pagetest.h"
 
 #include <QtTest>
 
-class TestPageView : public QObject
+class TestPageView : public PageTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        program.reset(new FullProgramSide);
-        window.reset(new PageWindow(program.data()));
-        QVERIFY(window->load());
-        window->run("map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(6)");
-        program->clear();
-    }
-
     void whatIsSetIsReadBackExactly();
     void theCentreSurvivesZoomAndResize();
     void aZoomOutOfRangeIsCut();
@@ -35,8 +26,16 @@ private slots:
     void aFailingListenerLeavesTheMapAlive();
 
 private:
-    QScopedPointer<ProgramSide> program;
-    QScopedPointer<PageWindow> window;
+    QString firstView() const override
+    {
+        return "map.setCenter(new google.maps.LatLng(46.50000, 2.50000));map.setZoom(6)";
+    }
+
+    void open() override
+    {
+        PageTest::open();
+        program->clear();
+    }
 
     double number(const QString& script)
     {
