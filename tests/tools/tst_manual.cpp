@@ -103,73 +103,15 @@ const QSet<QString> unseen{"toolBar", "about:blank", "POD", "Ouvrir un POD", "Fi
                            "Lat.",    "Long.", // of columns that the plan has not got
                            "\u00b0"};
 
-/// Texts of the program's C++ sources that stand in no box: on the window, in its menus, in its debug tab, in dialogs
-/// for files.
-const QSet<QString> outsideBoxes{"Zephan Trajector - Version %1",
-                                 "SID : %1",
-                                 "STAR : %1",
-                                 "SID : ",
-                                 "STAR : ",
-                                 "SID",
-                                 "STAR",
-                                 "Airport: %1 éléments chargés",
-                                 "Navaid: %1 éléments chargés",
-                                 "Waypoint: %1 élément chargés",
-                                 "ATS: %1 élément chargés",
-                                 "Chargement terminé",
-                                 "Centre: %1  %2\n %3 %4\n%5 %6",
-                                 "OACI",
-                                 "Pays",
-                                 "Nom",
-                                 "Clé unique",
-                                 "ID",
-                                 "Fréq.",
-                                 "Vitesse",
-                                 "Route",
-                                 "Dist",
-                                 "Durée",
-                                 "Temps",
-                                 "Altitude",
-                                 "Latitude",
-                                 "Longitude",
-                                 "Centrer sur ce point",
-                                 "Supprimer la ligne",
-                                 "Monter la ligne",
-                                 "Descendre la ligne",
-                                 "Aéroport",
-                                 "Affiche les aéroports",
-                                 "VOR",
-                                 "Affiche les VOR",
-                                 "NDB Rte",
-                                 "Affiche les NDB en route",
-                                 "NDB Ter",
-                                 "Affiche les NDB terminaux",
-                                 "Waypoint en route",
-                                 "Affiche les points de report en route",
-                                 "Waypoint terminaux",
-                                 "Affiche les points de report terminaux",
-                                 "Waypoint VFR",
-                                 "Affiche les points de report VFR",
-                                 "ATS Low",
-                                 "Affiche les routes basse altitude",
-                                 "ATS High",
-                                 "Affiche les routes haute altitude",
-                                 "ATS High/Low",
-                                 "Affiche les routes mixtes",
-                                 "Zone de contôle",
-                                 "Affiche les zones de contrôle",
-                                 "Plein écran",
-                                 "Mode plein écran",
-                                 "Ouvrir un plan de vol existant",
-                                 "Fichier plan de vol (*.fpl)",
-                                 "Ouvrir un fichier d'import",
-                                 "Fichier Zephan Export (*.CSV);;Tous (*.*)",
-                                 "TACAN",
-                                 "Usage",
-                                 "High",
-                                 "Low",
-                                 "Terminal",
-                                 "RNAV"};
+/// The texts of the program's C++ sources that stand in no box.
+QSet<QString> outsideBoxes()
+{
+    QSet<QString> texts;
+    for (const QString& line : readText(project + "/tests/tools/outside_boxes.txt").split('\n', Qt::SkipEmptyParts))
+        if (!line.startsWith('#'))
+            texts.insert(QString(line).replace("\\n", "\n"));
+    return texts;
+}
 
 struct Message
 {
@@ -206,7 +148,7 @@ QString firstOfFilter(const QString& text)
 QSet<QString> quotedInSources()
 {
     QSet<QString> quoted;
-    for (const char* folder : {"source", "ZephanCommon"}) {
+    for (const char* folder : {"source", "ZephanCommon", "tools/launcher"}) {
         QDirIterator files(project + '/' + folder, {"*.cpp"}, QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext()) {
             const QString text = readText(files.next());
@@ -322,11 +264,12 @@ void TestManual::everyBoxIsInTheLastChapter()
     const QString text = manualText(language);
     const QString last = plain(text.mid(text.indexOf("\n## 10. ")));
     const QSet<QString> quoted = quotedInSources();
+    const QSet<QString> outside = outsideBoxes();
     QStringList missing;
     int boxes = 0;
     for (const Message& message : catalogue()) {
-        if (!quoted.contains(message.source) || unseen.contains(message.source) ||
-            outsideBoxes.contains(message.source))
+        const bool inBox = quoted.contains(message.source) && !outside.contains(message.source.trimmed());
+        if (!inBox || unseen.contains(message.source))
             continue;
         ++boxes;
         if (!patternOf(inLanguage(message, language)).match(last).hasMatch())
