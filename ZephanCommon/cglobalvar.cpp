@@ -6,6 +6,7 @@
 #include "inivalues.h"
 #include "platformpath.h"
 #include "positions.h"
+#include "wideini.h"
 
 #include <QDebug>
 #include <QFile>
@@ -77,9 +78,10 @@ bool CGlobalVar::init()
 void CGlobalVar::initDBPath()
 {
     const QString path = QStringLiteral("%1/system/AeoZephan.ini").arg(dirZephan.path());
+    const ReadableIni ini(path);
     const QString usual = QStringLiteral("../../SQL");
-    const bool readable = isTextOnly(path);
-    const QSettings settings(path, QSettings::IniFormat);
+    const bool readable = isTextOnly(ini.path());
+    const QSettings settings(ini.path(), QSettings::IniFormat);
     for (const FolderKey& entry : folderKeys) {
         const QVariant setting = readable ? settings.value(QLatin1String(entry.key), usual) : usual;
         (this->*entry.folder).setPath(folderPath(dirZephan.path(), setting.toString()));

@@ -3,7 +3,9 @@
 #include "cnavglobalvar.h"
 
 #include "wholefile.h"
+#include "wideini.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 
@@ -14,6 +16,17 @@ CNavGlobalVar* theInstance = nullptr;
 QString settingsFile()
 {
     return QStringLiteral("trajector.ini");
+}
+
+// A file of two-byte characters is no settings file for QSettings, which would put the new keys between its bytes.
+void saveInSingleBytes()
+{
+    QFile file(settingsFile());
+    if (file.open(QIODevice::ReadOnly) && wideCodec(file.peek(2)) != nullptr) {
+        const QByteArray bytes = settingsBytes(file.readAll());
+        file.close();
+        writeWholeFile(settingsFile(), bytes);
+    }
 }
 
 struct Switch
@@ -87,7 +100,8 @@ CNavGlobalVar::~CNavGlobalVar()
 
 void CNavGlobalVar::loadSettings()
 {
-    const QSettings settings(settingsFile(), QSettings::IniFormat);
+    const ReadableIni ini(settingsFile());
+    const QSettings settings(ini.path(), QSettings::IniFormat);
     for (const Switch& entry : switchesRead) {
         this->*entry.field = settings.value(QLatin1String(entry.key), true).toBool();
     }
@@ -106,6 +120,7 @@ void CNavGlobalVar::saveSettings()
     if (!hasRoomBeside(settingsFile(), QFileInfo(settingsFile()).size() + furtherKeys)) {
         return;
     }
+    saveInSingleBytes();
     QSettings settings(settingsFile(), QSettings::IniFormat);
     for (const Switch& entry : switchesWritten) {
         settings.setValue(QLatin1String(entry.key), this->*entry.field);

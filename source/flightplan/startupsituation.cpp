@@ -2,6 +2,7 @@
 
 #include "platformpath.h"
 #include "wholefile.h"
+#include "wideini.h"
 
 #include <QFile>
 #include <QTextCodec>
@@ -19,27 +20,13 @@ QString startupLine(const QString& situationFile)
 }
 
 // As they stand in the file, whose first character may be a carriage return.
-QByteArray firstBytes(QIODevice& ini, int count)
+QByteArray firstBytes(QIODevice& ini)
 {
     const bool textMode = ini.isTextModeEnabled();
     ini.setTextModeEnabled(false);
-    const QByteArray bytes = ini.peek(count);
+    const QByteArray bytes = ini.peek(2);
     ini.setTextModeEnabled(textMode);
     return bytes;
-}
-
-// For a file that an editor has saved as "Unicode", two bytes a character: told by the mark or by the empty half of
-// the first character. Null for a file of single bytes.
-QTextCodec* wideCodec(QIODevice& ini)
-{
-    const QByteArray start = firstBytes(ini, 2);
-    if (start.size() < 2) {
-        return nullptr;
-    }
-    if (start == "\xFF\xFE" || start.at(1) == '\0') {
-        return QTextCodec::codecForName("UTF-16LE");
-    }
-    return start == "\xFE\xFF" || start.at(0) == '\0' ? QTextCodec::codecForName("UTF-16BE") : nullptr;
 }
 
 // The mark stays, as a character of the first line: nobody could read the file without it.
@@ -77,7 +64,7 @@ QString bytesAsText(const QString& text, bool isUtf8)
 QStringList startupLines(QIODevice& ini, const QString& situationFile)
 {
     const QString startup = startupLine(situationFile);
-    if (const QTextCodec* wide = wideCodec(ini)) {
+    if (const QTextCodec* wide = wideCodec(firstBytes(ini))) {
         return wideLines(ini, *wide, startup);
     }
     QTextStream reader(&ini);
@@ -100,7 +87,7 @@ QStringList startupLines(QIODevice& ini, const QString& situationFile)
 
 bool setStartupSituation(QFile& ini, const QString& situationFile)
 {
-    const QTextCodec* wide = wideCodec(ini);
+    const QTextCodec* wide = wideCodec(firstBytes(ini));
     const bool halfCharacter = wide != nullptr && ini.size() % 2 != 0;
     const QString text = startupLines(ini, situationFile).join(QLatin1Char('\n'));
     // What was read ahead of a failure is not the simulator's settings.

@@ -4,6 +4,7 @@
 #include "sandbox.h"
 
 #include <QSettings>
+#include <QTextCodec>
 #include <QtTest>
 
 namespace {
@@ -120,6 +121,37 @@ private slots:
         sandbox.writeFile("Tools/Trajector/trajector.ini", QByteArray("\0\xff[view\n===\n@Variant(", 22));
         QVERIFY(settings().showAirport);
         QCOMPARE(settings().zoom, 6.0);
+    }
+
+    void aFileSavedAsUnicodeIsReadAndKeepsItsForeignKeys_data()
+    {
+        QTest::addColumn<QString>("codec");
+        QTest::addColumn<QByteArray>("mark");
+        QTest::newRow("low byte first") << "UTF-16LE" << QByteArray("\xFF\xFE");
+        QTest::newRow("high byte first") << "UTF-16BE" << QByteArray("\xFE\xFF");
+        QTest::newRow("no mark") << "UTF-16LE" << QByteArray();
+    }
+
+    void aFileSavedAsUnicodeIsReadAndKeepsItsForeignKeys()
+    {
+        QFETCH(QString, codec);
+        QFETCH(QByteArray, mark);
+        Sandbox sandbox(Sandbox::Databases::None);
+        const QString text = QString::fromUtf8("[view]\r\nshowAirport=false\r\nzoom=9\r\n\r\n[directory]\r\n"
+                                               "dirWork=/Données/Œuvre ŁA\r\nmine=ŁŁ1\r\n");
+        QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+        const QByteArray bytes =
+            mark + QTextCodec::codecForName(codec.toLatin1())->fromUnicode(text.constData(), text.size(), &state);
+        sandbox.writeFile("Tools/Trajector/trajector.ini", bytes);
+        for (const char* run : {"as the editor left it", "as the first run left it"}) {
+            QVERIFY2(!settings().showAirport, run);
+            QCOMPARE(settings().zoom, 9.0);
+            QCOMPARE(settings().dirWork.path(), QString::fromUtf8("/Données/Œuvre ŁA"));
+            leave();
+            const QSettings file(sandbox.path("Tools/Trajector/trajector.ini"), QSettings::IniFormat);
+            QCOMPARE(file.value("directory/mine").toString(), QString::fromUtf8("ŁŁ1"));
+            QVERIFY(!sandbox.readFile("Tools/Trajector/trajector.ini").contains('\0'));
+        }
     }
 
     void theSingletonIsOneObjectUntilDeleted()

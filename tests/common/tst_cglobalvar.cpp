@@ -5,6 +5,7 @@
 #include "messagelog.h"
 #include "sandbox.h"
 
+#include <QTextCodec>
 #include <QtTest>
 
 namespace {
@@ -87,6 +88,27 @@ private slots:
         global.initDBPath();
         QCOMPARE(global.dirGEN.path(), sandbox.path("../../SQL"));
         QCOMPARE(global.dirM3D.path(), sandbox.path("../../SQL"));
+    }
+
+    void foldersOfAFileSavedAsUnicode()
+    {
+        Sandbox sandbox(Sandbox::Databases::None);
+        const QString text = QString::fromUtf8("[SQL]\r\nGENDB=/Données\r\nM3DDB=/Ł1\r\n");
+        sandbox.writeFile("system/AeoZephan.ini", QTextCodec::codecForName("UTF-16")->fromUnicode(text));
+        Global global(sandbox);
+        global.initDBPath();
+        QCOMPARE(global.dirGEN.path(), QString::fromUtf8("/Données"));
+        QCOMPARE(global.dirM3D.path(), QString::fromUtf8("/Ł1"));
+    }
+
+    void aPackedValueInAFileSavedAsUnicodeMakesItCountAsMissing()
+    {
+        Sandbox sandbox(Sandbox::Databases::None);
+        const QString text("[SQL]\r\nGENDB=a\r\nM3DDB=@Variant(\\0\\0\\0\\t\\xff\\xff\\xff\\xff)\r\n");
+        sandbox.writeFile("system/AeoZephan.ini", QTextCodec::codecForName("UTF-16")->fromUnicode(text));
+        Global global(sandbox);
+        global.initDBPath();
+        QCOMPARE(global.dirGEN.path(), sandbox.path("../../SQL"));
     }
 
     void aPackedValueOfAnotherSectionDoesNoHarm()
