@@ -8,6 +8,8 @@
 #include <QTextCodec>
 #include <QTextStream>
 
+#include <algorithm>
+
 namespace {
 
 const QLatin1String startupKey("startupSituation");
@@ -17,6 +19,15 @@ const QLatin1String byteOrderMark("\xEF\xBB\xBF"); // of UTF-8, as some editors 
 QString startupLine(const QString& situationFile)
 {
     return QStringLiteral("startupSituation=Saved Simulations/%1").arg(situationFile);
+}
+
+// A name with a line end in it would write lines of its own into the simulator's settings. Nothing is lost by leaving
+// the file alone: the simulator could not find a situation of that name in it.
+bool fitsOneLine(const QString& situationFile)
+{
+    return std::none_of(situationFile.begin(), situationFile.end(), [](QChar character) {
+        return character == QLatin1Char('\r') || character == QLatin1Char('\n') || character.isNull();
+    });
 }
 
 // As they stand in the file, whose first character may be a carriage return.
@@ -87,6 +98,10 @@ QStringList startupLines(QIODevice& ini, const QString& situationFile)
 
 bool setStartupSituation(QFile& ini, const QString& situationFile)
 {
+    if (!fitsOneLine(situationFile)) {
+        ini.close();
+        return false;
+    }
     const QTextCodec* wide = wideCodec(firstBytes(ini));
     const bool halfCharacter = wide != nullptr && ini.size() % 2 != 0;
     const QString text = startupLines(ini, situationFile).join(QLatin1Char('\n'));

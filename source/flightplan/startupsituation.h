@@ -14,8 +14,9 @@ class QIODevice;
 QStringList startupLines(QIODevice& ini, const QString& situationFile);
 
 /// Rewrites the simulator's ini file, open for reading as text, with its `startupLines`: single line feeds between them
-/// and none behind the last. Closes it. A file that cannot be read to its end or cannot be written stays as it is:
-/// false, and the user knows of it only when the disk had no room for the whole file.
+/// and none behind the last. Closes it. A file that cannot be read to its end or cannot be written stays as it is, and
+/// so does any file for a name with a line end in it: false, and the user knows of it only when the disk had no room
+/// for the whole file.
 bool setStartupSituation(QFile& ini, const QString& situationFile);
 
 /// The same by the file's path, which may hold backslashes. False also when there is no such file.

@@ -155,6 +155,26 @@ private slots:
         QCOMPARE(sandbox.readFile(iniFile), after);
     }
 
+    void aLineEndInTheNameCannotWriteLinesOfItsOwn_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("carriage return") << "PARIS\r[SQL]\rGENDB=ELSEWHERE.SIT";
+        QTest::newRow("line feed") << "PARIS\n[SQL]\nGENDB=ELSEWHERE.SIT";
+        QTest::newRow("end of a text") << QString("PARIS") + QChar(0) + ".SIT";
+    }
+
+    void aLineEndInTheNameCannotWriteLinesOfItsOwn()
+    {
+        QFETCH(QString, name);
+        for (const QByteArray& before : {QByteArray("[UI]\nstartupSituation=Old.sit\n"),
+                                         "\xFF\xFE" + wide("[UI]\nstartupSituation=Old.sit\n", false)}) {
+            const Sandbox sandbox(Sandbox::Databases::None);
+            sandbox.writeFile(iniFile, before);
+            QVERIFY(!setStartupSituation(sandbox.path(iniFile), name));
+            QCOMPARE(sandbox.readFile(iniFile), before);
+        }
+    }
+
     void halfACharacterIsLeftAlone()
     {
         const Sandbox sandbox(Sandbox::Databases::None);

@@ -23,6 +23,7 @@ private slots:
     void theProgramFindsItsDatabases();
     void aReplaceReplacesByKey();
     void archivesAreReadBack();
+    void aFolderNamedFromTheCurrentOne();
     void tablesHaveAtLeastTheRowsAskedFor();
     void theFrenchShareCountsForInventedRows();
     void aSizeBelowTheDemonstrationChangesNothing();
@@ -224,6 +225,21 @@ void TestMakeDemo::tablesHaveAtLeastTheRowsAskedFor()
     numbers.readSvh(&invented);
     QCOMPARE(numbers.acid, QString("F-X008"));
     QVERIFY(numbers.speedCruise > 0);
+}
+
+void TestMakeDemo::aFolderNamedFromTheCurrentOne()
+{
+    const QTemporaryDir folder;
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(folder.path()));
+    const QString error = makeDemoRoot("own/root");
+    QVERIFY(QDir::setCurrent(before));
+    QCOMPARE(error, QString());
+    const QDir root(folder.filePath("own/root"));
+    QVERIFY(!QFileInfo::exists(root.filePath("Aircraft/own")));
+    QVERIFY(QFileInfo::exists(root.filePath("Aircraft/Airliners/atr72.pod")));
+    const QSettings settings(root.filePath("Tools/Trajector/trajector.ini"), QSettings::IniFormat);
+    QCOMPARE(settings.value("directory/dirWork").toString(), root.filePath("Work"));
 }
 
 void TestMakeDemo::theFrenchShareCountsForInventedRows()

@@ -59,7 +59,8 @@ QString writeSettings(const QDir& root)
 QString makeDemoRoot(const QString& folder, const DemoSize& size)
 {
     Q_INIT_RESOURCE(demo);
-    const QDir root(folder);
+    // Paths below the root are handed on and taken up again: one that leads from here would be followed twice.
+    const QDir root(QDir(folder).absolutePath());
     QString error = makeFolders(root);
     if (error.isEmpty()) // found by its name alone, never run
         error = writeFile(root.filePath(QStringLiteral("AeoZephan.exe")), QByteArray());
