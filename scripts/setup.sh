@@ -36,14 +36,16 @@ libclang-rt-dev|
 llvm|llvm-symbolizer
 clang-format|clang-format
 clang-tidy|run-clang-tidy
-clang|clang++
-libclang-rt-dev|
-llvm|llvm-symbolizer
 shellcheck|shellcheck
 sqlite3|sqlite3
 chromium|chromium
 g++-mingw-w64-x86-64-posix|x86_64-w64-mingw32-g++-posix
 wine|wine
+dpkg-dev|dpkg-shlibdeps
+file|file
+lintian|lintian
+desktop-file-utils|desktop-file-validate
+nsis|makensis
 '
 
 say() { printf '%s\n' "set-up: $*"; }

@@ -8,4 +8,4 @@ catalogue=$(realpath "${1:-$(dirname "${BASH_SOURCE[0]}")/../resources/translati
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 lupdate=$(command -v lupdate-qt5 lupdate | head -n 1) || { echo 'update_catalogue.sh: no lupdate' >&2; exit 1; }
 # Without the places in the sources: they would change with every edit.
-"$lupdate" -silent -no-obsolete -locations none source ZephanCommon -ts "$catalogue"
+"$lupdate" -silent -no-obsolete -locations none source ZephanCommon tools/launcher -ts "$catalogue"

@@ -420,6 +420,87 @@ Nothing is changed: start Zephan Trajector anew.</translation>
     </message>
 </context>
 <context>
+    <name>Launcher</name>
+    <message>
+        <source>Zephan Trajector</source>
+        <translation>Zephan Trajector</translation>
+    </message>
+    <message>
+        <source>Choisir le dossier du simulateur, celui qui contient AeoZephan.exe</source>
+        <translation>Choose the simulator&apos;s folder, the one that holds AeoZephan.exe</translation>
+    </message>
+    <message>
+        <source>Il n&apos;y a pas de AeoZephan.exe dans ce dossier :
+%1
+
+Le prendre quand même ?</source>
+        <translation>There is no AeoZephan.exe in this folder:
+%1
+
+Take it all the same?</translation>
+    </message>
+    <message>
+        <source>Le simulateur n&apos;est plus dans ce dossier :
+%1
+
+Choisissez son dossier.</source>
+        <translation>The simulator is no longer in this folder:
+%1
+
+Choose its folder.</translation>
+    </message>
+    <message>
+        <source>Lance Zephan Trajector dans le dossier Tools/Trajector du simulateur AeoZephan, après l&apos;y avoir mis à jour.</source>
+        <translation>Starts Zephan Trajector in the folder Tools/Trajector of the AeoZephan simulator, after bringing it up to date there.</translation>
+    </message>
+    <message>
+        <source>Demander de nouveau le dossier du simulateur.</source>
+        <translation>Ask anew for the simulator&apos;s folder.</translation>
+    </message>
+    <message>
+        <source>DOSSIER</source>
+        <translation>FOLDER</translation>
+    </message>
+    <message>
+        <source>Le dossier du simulateur, désormais retenu.</source>
+        <translation>The simulator&apos;s folder, remembered from now on.</translation>
+    </message>
+    <message>
+        <source>Ce dossier n&apos;existe pas :
+%1</source>
+        <translation>This folder does not exist:
+%1</translation>
+    </message>
+    <message>
+        <source>Le dossier du simulateur ne peut pas être retenu, il sera redemandé.</source>
+        <translation>The simulator&apos;s folder cannot be remembered, it will be asked for again.</translation>
+    </message>
+    <message>
+        <source>Zephan Trajector ne peut pas être lancé dans ce dossier :
+%1
+%2</source>
+        <translation>Zephan Trajector cannot be started in this folder:
+%1
+%2</translation>
+    </message>
+    <message>
+        <source>Zephan Trajector a besoin d&apos;un écran : ni DISPLAY ni WAYLAND_DISPLAY.</source>
+        <translation>Zephan Trajector needs a display: neither DISPLAY nor WAYLAND_DISPLAY is set.</translation>
+    </message>
+    <message>
+        <source>Zephan Trajector ne peut pas être placé dans le dossier du simulateur :
+%1
+%2</source>
+        <translation>Zephan Trajector cannot be put into the simulator&apos;s folder:
+%1
+%2</translation>
+    </message>
+    <message>
+        <source>Le dossier ne peut pas être créé.</source>
+        <translation>The folder cannot be made.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Zephan Trajector</source>

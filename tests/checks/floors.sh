@@ -18,7 +18,7 @@ find ZephanCommon source tools tests bench fuzz -path tests/checks -prune -o \
         if (path ~ /^source\/editing\//)                           return 4
         if (path ~ /^source\/mainwindow\//)                        return 5
         if (path == "source/main.cpp")                             return 6
-        if (path ~ /^tools\/(drawicons|flysim|makedemo)\//)        return 7
+        if (path ~ /^tools\/(drawicons|flysim|launcher|makedemo)\//)        return 7
         if (path ~ /^tests\/support\//)                            return 8
         if (path ~ /^(tools\/(soak|tour)|tests\/[a-z]+|bench|fuzz)\//) return 9
         return 0

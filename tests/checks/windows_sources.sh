@@ -21,10 +21,11 @@ sources_without_qt() {
     echo tests/support/blockpeer_main.cpp
 }
 
-# soak and tour drive the window with what the tests have, and that is at home on POSIX systems alone.
+# soak and tour drive the window with what the tests have, and that is at home on POSIX systems alone; so is the launcher.
 sources_with_qt() {
     find source ZephanCommon tools -name '*.cpp' \
-        ! -name '*_posix.cpp' ! -name '*_windows.cpp' ! -path 'tools/flysim/*' ! -path 'tools/soak/*' ! -path 'tools/tour/*'
+        ! -name '*_posix.cpp' ! -name '*_windows.cpp' ! -path 'tools/flysim/*' ! -path 'tools/soak/*' ! -path 'tools/tour/*' \
+        ! -path 'tools/launcher/*'
 }
 
 # Qt's headers were configured on this system; what they know of the platform they take from the compiler. Without
