@@ -6,7 +6,7 @@
 #include "sandbox.h"
 #include "startupsituation.h"
 
-#include <QSettings>
+#include <QTextCodec>
 #include <QtTest>
 
 namespace {
@@ -65,10 +65,19 @@ class TestIniPage : public QObject
     const FormatPage page{"ini"};
 
 private slots:
+    void theFoldersBecomeThat_data()
+    {
+        const QByteArray example = page.example("Example of the simulator's", "ini");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("one byte a character") << example;
+        QTest::newRow("two bytes a character") << QTextCodec::codecForName("UTF-16")->fromUnicode(example);
+    }
+
     void theFoldersBecomeThat()
     {
+        QFETCH(QByteArray, bytes);
         const Sandbox sandbox(Sandbox::Databases::None);
-        sandbox.writeFile(simulatorsIni, page.example("Example of the simulator's", "ini"));
+        sandbox.writeFile(simulatorsIni, bytes);
         variables().dirZephan.setPath(sandbox.root());
         variables().initDBPath();
         const auto rows = page.table("What the folders become");
