@@ -12,5 +12,5 @@ trap 'rm -rf "$folder"' EXIT
 simulator=$folder/AeoZephan
 "$programs/makedemo" "$simulator"
 cp "$programs/zephantrajector_en.qm" "$simulator/Tools/Trajector"
-LC_ALL=en_GB.UTF-8 LANGUAGE=en QT_LOGGING_RULES='*.debug=false' "$programs/tour" --rest 60 \
+LC_ALL=en_GB.UTF-8 LANGUAGE=en QT_LOGGING_RULES='*.debug=false' "$programs/tour" --rest 20 \
     --english resources/translations/zephantrajector_en.ts --kept tests/checks/kept_french.txt "$simulator"
