@@ -2,7 +2,11 @@
 set(project "${CPACK_ZEPHAN_BUILD};ZephanTrajector")
 set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF)
 set(CPACK_PACKAGING_INSTALL_PREFIX /)
-if(CPACK_GENERATOR STREQUAL "DEB")
+if(CPACK_ZEPHAN_PAYLOAD)
+    # What was laid out by others, as the installer's test does with what can be built for Windows elsewhere.
+    set(CPACK_INSTALL_CMAKE_PROJECTS)
+    set(CPACK_INSTALLED_DIRECTORIES "${CPACK_ZEPHAN_PAYLOAD};.")
+elseif(CPACK_GENERATOR STREQUAL "DEB")
     set(CPACK_INSTALL_CMAKE_PROJECTS
         "${project};program;/usr/lib/zephan-trajector" "${project};flysim;/usr/bin" "${project};desktop;/usr")
 else()

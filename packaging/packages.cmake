@@ -21,6 +21,9 @@ endif()
 # Sources come from git.
 set(CPACK_SOURCE_GENERATOR TGZ)
 
+# Our own installer script, instead of the one that comes with CPack.
+set(CPACK_MODULE_PATH ${CMAKE_CURRENT_SOURCE_DIR}/windows)
+
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
