@@ -31,6 +31,20 @@ QMessageBox::StandardButton show(QMessageBox::Icon icon, const QString& text, QM
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
+/// An empty folder is what stays of a disk that is not mounted. One that was taken without AeoZephan.exe holds at least
+/// us.
+bool isStillThere(const QString& folder)
+{
+    return launcher::holdsSimulator(folder) || QDir(launcher::programFolder(folder)).exists();
+}
+
+bool wantsAnother(const QString& goneFolder)
+{
+    const QString text = Launcher::tr("Le simulateur n'est plus dans ce dossier :\n%1\n\nChoisissez son dossier.");
+    return show(QMessageBox::Information, text.arg(goneFolder), QMessageBox::Ok | QMessageBox::Cancel) ==
+           QMessageBox::Ok;
+}
+
 } // namespace
 
 QString launcher::rememberedSimulator()
@@ -51,6 +65,19 @@ bool launcher::holdsSimulator(const QString& folder)
     return !folder.isEmpty() && QDir(folder).exists(QStringLiteral("AeoZephan.exe"));
 }
 
+QString launcher::findSimulator(const QString& named, bool ask)
+{
+    if (!named.isEmpty()) {
+        return named;
+    }
+    const QString remembered = rememberedSimulator();
+    const bool gone = !remembered.isEmpty() && !isStillThere(remembered);
+    if (!remembered.isEmpty() && !gone && !ask) {
+        return remembered;
+    }
+    return gone && !wantsAnother(remembered) ? QString() : chooseSimulator(remembered);
+}
+
 QString launcher::chooseSimulator(const QString& last)
 {
     for (QString start = last.isEmpty() ? QDir::homePath() : last;;) {
@@ -68,12 +95,6 @@ QString launcher::chooseSimulator(const QString& last)
         }
         start = folder;
     }
-}
-
-bool launcher::tellItIsGone(const QString& folder)
-{
-    const QString text = Launcher::tr("Le simulateur n'est plus dans ce dossier :\n%1\n\nChoisissez son dossier.");
-    return show(QMessageBox::Information, text.arg(folder), QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;
 }
 
 void launcher::tellFailure(const QString& text)

@@ -15,11 +15,12 @@ bool rememberSimulator(const QString& folder);
 /// True for a folder with the simulator's program in it.
 bool holdsSimulator(const QString& folder);
 
+/// The folder to start beside: the one `named`, else the one remembered, else the user's answer; with `ask` always his
+/// answer. Empty when he gives up.
+QString findSimulator(const QString& named, bool ask);
 /// Asks for the simulator's folder in a folder dialog, beginning at `last`, until there is an answer that holds the
 /// simulator or that is wanted all the same. Empty when the user gives up.
 QString chooseSimulator(const QString& last);
-/// Tells the user that the folder remembered is no longer there; false when he will not choose another.
-bool tellItIsGone(const QString& folder);
 void tellFailure(const QString& text);
 
 /// Tools/Trajector of the simulator, written as it stands there already: a folder that came from a system that knows no

@@ -73,24 +73,6 @@ Request readArguments()
     return {parser.isSet(ask), named.isEmpty() ? named : QDir(named).absolutePath()};
 }
 
-/// Empty when the user gives up.
-QString simulatorFor(const Request& request)
-{
-    if (!request.simulator.isEmpty()) {
-        return request.simulator;
-    }
-    const QString remembered = launcher::rememberedSimulator();
-    // A folder taken without its AeoZephan.exe was wanted so: only its going is a reason to ask.
-    const bool there = !remembered.isEmpty() && QDir(remembered).exists();
-    if (there && !request.ask) {
-        return remembered;
-    }
-    if (!there && !remembered.isEmpty() && !launcher::tellItIsGone(remembered)) {
-        return QString();
-    }
-    return launcher::chooseSimulator(remembered);
-}
-
 /// Comes back only when the program could not be started, with the system's word for it.
 QString giveWayTo(const QString& folder)
 {
@@ -104,7 +86,7 @@ QString giveWayTo(const QString& folder)
 
 int launch(const Request& request)
 {
-    const QString simulator = simulatorFor(request);
+    const QString simulator = launcher::findSimulator(request.simulator, request.ask);
     if (simulator.isEmpty()) {
         return 1;
     }
