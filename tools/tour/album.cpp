@@ -6,18 +6,21 @@
 
 #include <cstdio>
 
-Album::Album(const QString& folderName) : folder(folderName.isEmpty() ? QString() : QDir(folderName).absolutePath())
+QString emptiedFolder(const QString& name, const QString& pattern)
 {
-    if (folder.isEmpty()) {
-        return;
+    if (name.isEmpty()) {
+        return {};
     }
-    QDir dir(folder);
+    QDir dir(name);
     dir.mkpath(QStringLiteral("."));
-    const QStringList old = dir.entryList({QStringLiteral("[0-9][0-9]-*.png")}, QDir::Files);
+    const QStringList old = dir.entryList({pattern}, QDir::Files);
     for (const QString& picture : old) {
         dir.remove(picture);
     }
+    return dir.absolutePath();
 }
+
+Album::Album(const QString& folderName) : folder(emptiedFolder(folderName, QStringLiteral("[0-9][0-9]-*.png"))) {}
 
 bool Album::take(QWidget* widget, const QString& name)
 {

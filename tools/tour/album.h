@@ -4,12 +4,15 @@
 
 class QWidget;
 
+/// Makes a folder, and empties it of the pictures of an earlier tour by the pattern of their names. Its absolute path;
+/// empty for an empty name.
+QString emptiedFolder(const QString& name, const QString& pattern);
+
 /// Saves pictures of widgets under one number after the other: "01-start.png", "02-layers.png".
 class Album
 {
 public:
-    /// Makes the folder, and empties it of the pictures of an earlier tour. An empty name makes an album that keeps
-    /// nothing.
+    /// Empties the folder. An empty name makes an album that keeps nothing.
     explicit Album(const QString& folder);
 
     /// Takes a picture of a window or a dialog as it stands. False when it cannot be saved.

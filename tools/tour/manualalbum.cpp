@@ -1,9 +1,9 @@
 #include "manualalbum.h"
 
+#include "album.h"
 #include "manualpictures.h"
 #include "smallpalette.h"
 
-#include <QDir>
 #include <QPixmap>
 #include <QWidget>
 
@@ -30,19 +30,7 @@ QRect partOf(QWidget* widget, const ManualPicture& picture, const ManualAlbum::E
 
 } // namespace
 
-ManualAlbum::ManualAlbum(const QString& folderName)
-    : folder(folderName.isEmpty() ? QString() : QDir(folderName).absolutePath())
-{
-    if (folder.isEmpty()) {
-        return;
-    }
-    QDir dir(folder);
-    dir.mkpath(QStringLiteral("."));
-    const QStringList old = dir.entryList({QStringLiteral("*.png")}, QDir::Files);
-    for (const QString& picture : old) {
-        dir.remove(picture);
-    }
-}
+ManualAlbum::ManualAlbum(const QString& folderName) : folder(emptiedFolder(folderName, QStringLiteral("*.png"))) {}
 
 bool ManualAlbum::take(QWidget* widget, const QString& step, const ElementPlace& elementPlace)
 {

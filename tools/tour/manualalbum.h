@@ -15,8 +15,7 @@ public:
     /// Where what a selector finds lies in the map page.
     using ElementPlace = std::function<QRect(const QString&)>;
 
-    /// Makes the folder, and empties it of the pictures of an earlier tour. An empty name makes an album that keeps
-    /// nothing.
+    /// Empties the folder. An empty name makes an album that keeps nothing.
     explicit ManualAlbum(const QString& folder);
 
     /// Takes the pictures that belong to a step, of a window or a dialog as it stands. False when one cannot be taken
