@@ -100,6 +100,8 @@ void Tour::showStar()
     clickRow(4);
     openDock("dockWStar");
     clickProcedure("treeWStar", starName);
+    // The wheel left the pointer on the airport, whose tool tip would cover the procedure.
+    session->page().moveTo(QPoint(20, 20));
 }
 
 void Tour::addStar()
