@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QSqlRecord>
 #include <QTextStream>
 #include <QVariant>
 
@@ -23,16 +24,16 @@ struct TableLines
     const char* database;    ///< the database as the rows' lines name it
     const char* table;
     const char* keyColumn;
-    QString (*rowText)(const QSqlQuery& query);
+    QString (*typedRow)(const QSqlQuery& query); ///< null for rows of all columns, each as its text
 };
 
-constexpr TableLines navaidLines = {"GEN", "GEN", "NAV", "ukey", rowAsText};
+constexpr TableLines navaidLines = {"GEN", "GEN", "NAV", "ukey", nullptr};
 // The deleting line has always named GEN, and an import refuses it; the rows go to WPT.
-constexpr TableLines waypointLines = {"GEN", "WPT", "WPT", "ukey", rowAsText};
+constexpr TableLines waypointLines = {"GEN", "WPT", "WPT", "ukey", nullptr};
 constexpr TableLines modelLines = {"M3D", "M3D", "MOD", "name", rowMOD};
 constexpr TableLines textureLines = {"M3D", "M3D", "TEXTURE", "xname", rowTEXTURE};
-constexpr TableLines projectLines = {"OBJ", "OBJ", "FNM", "scene", rowAsText};
-constexpr TableLines objectLines = {"OBJ", "OBJ", "OBJ", "scn", rowAsText};
+constexpr TableLines projectLines = {"OBJ", "OBJ", "FNM", "scene", nullptr};
+constexpr TableLines objectLines = {"OBJ", "OBJ", "OBJ", "scn", nullptr};
 
 /// What differs between the exports of whole tables.
 struct WholeTable
@@ -69,8 +70,10 @@ void writeTable(QTextStream& stream, const TableLines& lines, const QString& key
     const QString table = QLatin1String(lines.table);
     stream << composeDeleteLine(QLatin1String(lines.deletedFrom), table, QLatin1String(lines.keyColumn), key) << ";\n";
     const QString rowStart = composeRowLine(QLatin1String(lines.database), table, {QString()});
+    const int columns = query.record().count(); // once: a record is a copy of its whole row
     do {
-        stream << rowStart << lines.rowText(query) << '\n';
+        const QString row = lines.typedRow != nullptr ? lines.typedRow(query) : rowAsText(query, columns);
+        stream << rowStart << row << '\n';
     } while (query.next());
 }
 

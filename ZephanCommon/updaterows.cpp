@@ -50,15 +50,18 @@ QString typedRow(const QSqlQuery& query, std::initializer_list<TypedColumn> colu
 
 } // namespace
 
-QString rowAsText(const QSqlQuery& query)
+QString rowAsText(const QSqlQuery& query, int columns)
 {
     QString row;
-    const int columns = query.record().count();
-    // One past the last column: the lines of whole rows end in an empty value.
-    for (int column = 0; column <= columns; ++column) {
+    for (int column = 0; column < columns; ++column) {
         row += query.value(column).toString() + separator;
     }
-    return row;
+    return row + separator; // the lines of whole rows end in an empty value
+}
+
+QString rowAsText(const QSqlQuery& query)
+{
+    return rowAsText(query, query.record().count());
 }
 
 QString rowFromModel(const QSqlQueryModel* model, int row)

@@ -12,7 +12,9 @@ class QSqlQueryModel;
 /// Any table, from the query's current row: each value as text with a ";" behind it. There is one empty value more
 /// than the table has columns, so that the text ends in ";;".
 QString rowAsText(const QSqlQuery& query);
-/// The same from a row of a model or from a record, without the empty value.
+/// For many rows of one query, whose columns were counted once.
+QString rowAsText(const QSqlQuery& query, int columns);
+/// A row of a model or a record in the same form, without the empty value.
 QString rowFromModel(const QSqlQueryModel* model, int row);
 QString rowFromRecord(const QSqlRecord& record);
 
