@@ -24,8 +24,8 @@ public:
     /// Finds the view "map" in the window.
     explicit PageProbe(QWidget* window);
 
-    /// Runs the event loop until the window's debug text holds "Chargement terminé", in the program's language, whatever
-    /// stands behind it. False after `timeout` ms.
+    /// Runs the event loop until the window's debug text holds "Chargement terminé", in the program's language,
+    /// whatever stands behind it. False after `timeout` ms.
     bool waitUntilLoaded(int timeout = 30000);
 
     /// All calls so far, or those of one function, as `addAPTMarker` or `map.setCenter`.
