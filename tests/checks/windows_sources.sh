@@ -56,4 +56,5 @@ printf '%s\0' "${with_qt[@]}" | xargs -0 -n 8 -P "$(getconf _NPROCESSORS_ONLN)" 
     "${check[@]}" -include "$folder/precompiled.h" -Winvalid-pch "${options[@]}" -I "$generated" "${rooms[@]}"
 # Where the platform's start code calls qMain itself.
 "${check[@]}" -DQT_NEEDS_QMAIN "${options[@]}" "${rooms[@]}" source/main.cpp
+"${compiler%g++*}windres" -I resources/images/app packaging/windows/program.rc "$folder/program.o"
 echo "read: $((${#plain[@]} + ${#with_qt[@]})) sources"
