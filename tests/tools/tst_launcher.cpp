@@ -2,7 +2,9 @@
 #include "launcher.h"
 
 #include "boxresponder.h"
+#include "smalldisk.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -209,6 +211,34 @@ private slots:
         QVERIFY(QFileInfo(inTheWay).isDir());
     }
 
+    void aDiskThatIsReadOnlyIsTold()
+    {
+        SKIP_WITHOUT_MOUNTS();
+        layOutPackage();
+        QCOMPARE(launcher::bringUpToDate(path("package"), path("sim/Tools/Trajector")), QString());
+        SmallDisk disk(path("sim"), 65536);
+        disk.protect();
+        const QString told = launcher::bringUpToDate(path("package"), path("sim/Tools/Trajector"));
+        disk.unprotect();
+        QVERIFY2(told.startsWith("Zephan Trajector ne peut pas être placé dans le dossier du simulateur :\n" +
+                                 path("sim/Tools/Trajector") + '\n'),
+                 qPrintable(told));
+    }
+
+    void aFullDiskKeepsTheOldFile()
+    {
+        SKIP_WITHOUT_MOUNTS();
+        layOutPackage();
+        const QString page = path("sim/Tools/Trajector/maps/page/map.js");
+        writeFile(page, "older page");
+        writeFile(path("package/maps/page/map.js"), QByteArray(20000, 'p'));
+        SmallDisk disk(path("sim/Tools/Trajector/maps/page"), 65536);
+        disk.fill();
+        const QString told = launcher::bringUpToDate(path("package"), path("sim/Tools/Trajector"));
+        QVERIFY(!told.isEmpty());
+        QCOMPARE(contentOf(page), QByteArray("older page"));
+    }
+
 private:
     QString path(const QString& name) const
     {
@@ -226,5 +256,5 @@ private:
     std::unique_ptr<QTemporaryDir> home;
 };
 
-QTEST_MAIN(TestLauncher)
+TEST_MAIN_WITH_MOUNTS(TestLauncher)
 #include "tst_launcher.moc"
