@@ -42,8 +42,8 @@
     /** @param {google.maps.Data.DataOptions} [options] */
     constructor(options) {
       super();
-      /** @type {Set<google.maps.Data.Feature>} */
-      this.features = new Set();
+      /** In the order in which they came. @type {google.maps.Data.Feature[]} */
+      this.features = [];
       this.grid = new engine.HitGrid(this.features);
       /** @type {Map<PointParts, PointStyle>} */
       this.overrides = new Map();
@@ -60,18 +60,23 @@
     }
 
     /**
-     * Adds a point (a Feature or what makes one). A position that is no number makes a point that is never drawn.
+     * Adds a point (a Feature or what makes one), taking it out of its former layer. A position that is no number makes
+     * a point that is never drawn.
      * @param {google.maps.Data.Feature|PointOptions} options
      */
     add(options) {
       const feature = pointOf(options);
       if (!engine.isFinitePosition(feature.geometry))
         return feature;
-      feature.layer = this;
+      if (feature.layer !== this) {
+        if (feature.layer)
+          feature.layer.remove(feature);
+        feature.layer = this;
+        this.features.push(feature);
+      }
       feature.x = engine.unitX(feature.geometry.lng());
       feature.y = engine.unitY(feature.geometry.lat());
       feature.dressing = 0;
-      this.features.add(feature);
       this.grid.forget();
       this.changed();
       return feature;
@@ -79,8 +84,9 @@
 
     /** @param {google.maps.Data.Feature} feature */
     remove(feature) {
-      if (!this.features.delete(feature))
+      if (!this.contains(feature))
         return;
+      this.features.splice(this.features.indexOf(feature), 1);
       if (this.map)
         engine.leavePoint(this.map, this, feature);
       this.grid.forget();
@@ -91,12 +97,12 @@
 
     /** @param {google.maps.Data.Feature} feature */
     contains(feature) {
-      return this.features.has(feature);
+      return feature.layer === this;
     }
 
-    /** @param {function(google.maps.Data.Feature): void} callback */
+    /** @param {function(google.maps.Data.Feature): void} callback may remove points */
     forEach(callback) {
-      this.features.forEach(feature => callback(feature));
+      this.features.slice().forEach(feature => callback(feature));
     }
 
     /**

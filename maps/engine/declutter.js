@@ -62,8 +62,11 @@
       return (Math.floor(y / crowd.pixels) - this.top) * this.columns + Math.floor(x / crowd.pixels) - this.left;
     }
 
-    add(x, y) {
-      ++this.counts[this.at(x, y)];
+    /** @param {Places} places pixels from the corner at left and top */
+    add(places, left, top) {
+      const { xs, ys } = places;
+      for (let i = 0; i < xs.length; ++i)
+        ++this.counts[this.at(xs[i] + left, ys[i] + top)];
     }
 
     isDense(x, y) {
@@ -162,8 +165,7 @@
 
     /**
      * @param {Frame} frame
-     * @param {Array<{height: number, points: Object[], xs: number[], ys: number[]}>} levels what is drawn, the lower
-     *     `zIndex` first; places are pixels from the frame's corner and may lie around the frame
+     * @param {PointLevel[]} levels what is drawn, the lower `zIndex` first; places may lie around the frame
      * @param {number} margin how far around it, in pixels
      * @param {number} version of the points and their looks
      * @return {Array<{x: number, y: number, text: Object}>} the labels: left and upper edge in the frame
@@ -185,12 +187,11 @@
       const order = levels.slice().reverse();
       // The same points as in the last picture: what stands there stays, whatever new ones come in from the side.
       if (this.isSame)
-        order.forEach(each => this.placeLevel(each, true));
+        order.forEach(each => this.placeFormer(each));
       order.forEach(each => {
-        for (let i = 0; i < each.points.length; ++i)
-          this.crowd.add(each.xs[i] + frame.left, each.ys[i] + frame.top);
-        this.placeLevel(each, true);
-        this.placeLevel(each, false);
+        this.crowd.add(each.all, frame.left, frame.top);
+        this.placeFormer(each);
+        this.placeOthers(each);
       });
       this.zoom = frame.zoom;
       this.version = version;
@@ -230,30 +231,53 @@
 
     putSymbols(each) {
       const height = level(each.height);
-      for (let i = 0; i < each.points.length; ++i) {
-        const point = each.points[i];
-        const radius = point.sprite.radius;
-        if (radius >= leastObstacle && !point.sprite.isEmpty && isObstacle(point.look))
-          this.room.putSymbol(each.xs[i] + this.frame.left, each.ys[i] + this.frame.top, radius, height);
+      const { points, xs, ys } = each;
+      const { left, top } = this.frame;
+      for (let i = 0; i < points.length; ++i) {
+        const { sprite, look } = points[i];
+        if (sprite.radius >= leastObstacle && !sprite.isEmpty && isObstacle(look))
+          this.room.putSymbol(xs[i] + left, ys[i] + top, sprite.radius, height);
       }
     }
 
-    /** @param {boolean} former only the labels of the last picture, or all that have no place yet */
-    placeLevel(each, former) {
-      if (former && !this.before.size)
+    /** The labels of the last picture that have no place yet. */
+    placeFormer(each) {
+      if (!this.before.size)
         return;
       const height = level(each.height);
       for (let i = 0; i < each.points.length; ++i) {
         const point = each.points[i];
-        const side = former ? this.before.get(point) : -1;
-        if (side === undefined || this.kept.has(point))
-          continue;
-        if (!former && this.crowd.isDense(each.xs[i] + this.frame.left, each.ys[i] + this.frame.top))
-          continue;
-        // A label may be made only when it is asked for, so this comes last.
-        if (point.look.label)
+        const side = this.before.get(point);
+        if (side !== undefined && !this.kept.has(point) && point.look.label)
           this.placePoint(point, each.xs[i], each.ys[i], height, side);
       }
+    }
+
+    /** All labels that have no place yet. */
+    placeOthers(each) {
+      const height = level(each.height);
+      const { points, xs, ys } = each;
+      const { left, top } = this.frame;
+      for (let i = 0; i < points.length; ++i) {
+        if (this.crowd.isDense(xs[i] + left, ys[i] + top) || this.kept.has(points[i]))
+          continue;
+        // A label may be made only when it is asked for, so this comes last.
+        if (this.mayHaveRoom(points[i], xs[i], ys[i], height) && points[i].look.label)
+          this.placePoint(points[i], xs[i], ys[i], height, -1);
+      }
+    }
+
+    /** Whether there is a side on which at least the cell that every label would take there is free. */
+    mayHaveRoom(point, x, y, height) {
+      const { left, top } = this.frame;
+      const reach = point.sprite.radius + gap;
+      for (let i = 0; i < sides.length; ++i) {
+        const besideX = Math.round(x + sides[i][0] * reach) + left;
+        const besideY = Math.round(y + sides[i][1] * reach) + top;
+        if (this.room.heightIn(besideX, besideY, 0, 0, height) < height)
+          return true;
+      }
+      return false;
     }
 
     /**

@@ -12,17 +12,22 @@
   const smallCells = 32 * largeCells;
   /** Lists of large cells: one for each, and a row for what lies on the southern limit. */
   const largeLists = largeCells * (largeCells + 1);
-  /** There are too many small cells for a list each: those far apart share one. */
-  const smallLists = 65536;
+  /** There are too many small cells for a list each: those far apart share one of about as many as there are points. */
+  const mostSmallLists = 65536;
+  const smallListsFor = points => Math.min(mostSmallLists, Math.pow(2, Math.ceil(Math.log2(points.length + 1))));
 
   class Cells {
-    /** @param {number} count cells around the world @param {number} lists how many lists hold them */
-    constructor(count, lists) {
+    /**
+     * @param {number} count cells around the world
+     * @param {number} lists how many lists hold them
+     * @param {PointParts[]} points
+     */
+    constructor(count, lists, points) {
       this.count = count;
       this.lists = lists;
-      /** The points by list, and for each list where in them it starts. */
-      this.points = [];
+      /** For each list where in the sorted points it starts. */
       this.starts = new Int32Array(lists + 1);
+      this.points = this.sorted(points);
     }
 
     /** The list of a cell; the column in any copy of the world. */
@@ -36,56 +41,48 @@
         + Math.min(this.count - 1, Math.floor(point.x * this.count))) % this.lists;
     }
 
-    /** Points of one list keep their order. @param {Set<PointParts>} points */
-    sort(points) {
-      const starts = this.starts.fill(0);
-      const listOf = new Int32Array(points.size);
-      let i = 0;
-      points.forEach(point => {
-        const list = this.listOf(point);
-        listOf[i++] = list;
+    /** The points by list; those of one keep their order. @param {PointParts[]} points */
+    sorted(points) {
+      const count = points.length;
+      const starts = this.starts;
+      const listOf = new Int32Array(count);
+      for (let i = 0; i < count; ++i) {
+        const list = this.listOf(points[i]);
+        listOf[i] = list;
         ++starts[list + 1];
-      });
+      }
       for (let list = 1; list <= this.lists; ++list)
         starts[list] += starts[list - 1];
       const next = new Int32Array(starts);
-      const sorted = new Array(points.size);
-      i = 0;
-      points.forEach(point => {
-        sorted[next[listOf[i++]]++] = point;
-      });
-      this.points = sorted;
+      const sorted = new Array(count);
+      for (let i = 0; i < count; ++i)
+        sorted[next[listOf[i]]++] = points[i];
+      return sorted;
     }
   }
 
   class HitGrid {
-    /** @param {Set<PointParts>} points x and y are unit coordinates of the first copy of the world */
+    /** @param {PointParts[]} points x and y are unit coordinates of the first copy of the world */
     constructor(points) {
       this.all = points;
-      this.large = null;
-      this.small = null;
       this.forget();
     }
 
     /** To be called when the points have changed. */
     forget() {
-      this.isLargeSorted = false;
-      this.isSmallSorted = false;
+      /** @type {?Cells} */
+      this.large = null;
+      /** @type {?Cells} */
+      this.small = null;
     }
 
     largeOnes() {
-      this.large = this.large || new Cells(largeCells, largeLists);
-      if (!this.isLargeSorted)
-        this.large.sort(this.all);
-      this.isLargeSorted = true;
+      this.large = this.large || new Cells(largeCells, largeLists, this.all);
       return this.large;
     }
 
     smallOnes() {
-      this.small = this.small || new Cells(smallCells, smallLists);
-      if (!this.isSmallSorted)
-        this.small.sort(this.all);
-      this.isSmallSorted = true;
+      this.small = this.small || new Cells(smallCells, smallListsFor(this.all), this.all);
       return this.small;
     }
 
@@ -99,7 +96,7 @@
       const lastColumn = Math.min(largeCells - 1, Math.floor(maxX * largeCells));
       const lastRow = Math.min(largeCells, Math.floor(maxY * largeCells));
       const runs = [];
-      if (!this.all.size || firstColumn > lastColumn)
+      if (!this.all.length || firstColumn > lastColumn)
         return { points: [], runs: runs };
       const cells = this.largeOnes();
       for (let row = Math.max(0, Math.floor(minY * largeCells)); row <= lastRow; ++row)
@@ -116,7 +113,7 @@
      */
     nearest(x, y, radius, accepts) {
       const best = { point: null, square: radius * radius };
-      if (!this.all.size)
+      if (!this.all.length)
         return best;
       // Never many cells, never a large one for a small circle.
       const cells = radius * smallCells > 1 ? this.largeOnes() : this.smallOnes();

@@ -14,7 +14,7 @@
 
   /**
    * Of so many points at one height hardly one can be told from its neighbours: of those in a square of so many pixels
-   * one is drawn.
+   * one is drawn and labelled, that which would be drawn last.
    */
   const crowd = { points: 5000, pixels: 4 };
 
@@ -65,6 +65,11 @@
         for (let world = frame.firstWorld; world <= frame.lastWorld; ++world)
           this.gather(frame, layer, frame.left - world * frame.scale, ratio);
       });
+      this.levels.forEach(level => {
+        level.all = { xs: level.xs, ys: level.ys };
+        if (level.points.length > crowd.points)
+          thin(frame, level);
+      });
       const levels = Array.from(this.levels.values()).sort((a, b) => a.height - b.height);
       this.labels = this.declutter.place(frame, levels, margin, this.version);
       if (this.names)
@@ -107,7 +112,7 @@
     levelAt(height) {
       let level = this.levels.get(height);
       if (!level) {
-        level = { height: height, points: [], xs: [], ys: [] };
+        level = { height: height, points: [], xs: [], ys: [], all: null };
         this.levels.set(height, level);
       }
       return level;
@@ -124,14 +129,12 @@
       if (!level)
         return;
       const context = frame.context;
-      const hidden = level.points.length > crowd.points ? hiddenIn(frame, level) : null;
       for (let i = 0; i < level.points.length; ++i) {
         const sprite = level.points[i].sprite;
         const middle = sprite.middle;
         const x = level.xs[i];
         const y = level.ys[i];
-        const isInside = x > -middle && y > -middle && x < frame.width + middle && y < frame.height + middle;
-        if (isInside && !(hidden && hidden[i]))
+        if (x > -middle && y > -middle && x < frame.width + middle && y < frame.height + middle)
           context.drawImage(sprite.canvas, x - middle, y - middle, sprite.size, sprite.size);
       }
     }
@@ -164,21 +167,27 @@
     }
   }
 
-  /** For each point whether one drawn later stands in its square; squares are counted from the world's corner. */
-  function hiddenIn(frame, level) {
-    const hidden = new Uint8Array(level.points.length);
+  /** Keeps one point of a square; squares are counted from the world's corner, so that they move with the view. */
+  function thin(frame, level) {
+    const { points, xs, ys } = level;
+    const count = points.length;
     const columns = Math.ceil((frame.width + 2 * margin) / crowd.pixels) + 2;
     const rows = Math.ceil((frame.height + 2 * margin) / crowd.pixels) + 2;
-    const firstColumn = Math.floor((frame.left - margin) / crowd.pixels);
-    const firstRow = Math.floor((frame.top - margin) / crowd.pixels);
+    const { left, top } = frame;
+    const firstColumn = Math.floor((left - margin) / crowd.pixels);
+    const firstRow = Math.floor((top - margin) / crowd.pixels);
     const taken = new Uint8Array(columns * rows);
-    for (let i = level.points.length - 1; i >= 0; --i) {
-      const column = Math.floor((level.xs[i] + frame.left) / crowd.pixels) - firstColumn;
-      const row = Math.floor((level.ys[i] + frame.top) / crowd.pixels) - firstRow;
-      hidden[i] = taken[row * columns + column];
-      taken[row * columns + column] = 1;
+    const isKept = new Uint8Array(count);
+    for (let i = count - 1; i >= 0; --i) {
+      const column = Math.floor((xs[i] + left) / crowd.pixels) - firstColumn;
+      const row = Math.floor((ys[i] + top) / crowd.pixels) - firstRow;
+      const square = row * columns + column;
+      isKept[i] = 1 - taken[square];
+      taken[square] = 1;
     }
-    return hidden;
+    level.points = points.filter((point, i) => isKept[i]);
+    level.xs = xs.filter((x, i) => isKept[i]);
+    level.ys = ys.filter((y, i) => isKept[i]);
   }
 
   engine.Points = Points;

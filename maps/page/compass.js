@@ -112,8 +112,12 @@
     const rows = new Map();
     /** @type {(a: Place, b: Place) => boolean} */
     const areApart = (a, b) => {
+      const east = page.degreesEast(a, b);
+      // Nearly all are told apart by this; the cosine takes longer.
+      if (Math.abs(east) >= rowDegrees)
+        return true;
       const north = (a.lat() - b.lat()) / Math.max(0.01, Math.cos(a.lat() * Math.PI / 180));
-      return Math.hypot(north, page.degreesEast(a, b)) * pixelsPerDegree >= least;
+      return Math.hypot(north, east) * pixelsPerDegree >= least;
     };
     return markers.filter(marker => {
       const place = marker.position;
@@ -126,15 +130,18 @@
     });
   }
 
-  let drawn = '';
+  /** What the roses were drawn for last. @type {{zoom: number, shown: ChartMarker[], named: ChartMarker[]}} */
+  let drawnFor = { zoom: 0, shown: [], named: [] };
 
   /**
    * Whether frequency and name are to be told: from near, and of the marker that the user has clicked.
    * @param {ChartMarker} marker
    */
   const isNamed = marker => page.isChosen(marker) || page.hasNames(marker.symbol);
-  /** @param {ChartMarker[]} markers */
-  const titlesOf = markers => markers.map(marker => marker.title).join();
+
+  /** @type {(some: ChartMarker[], others: ChartMarker[]) => boolean} */
+  const areSame = (some, others) =>
+    some.length === others.length && some.every((marker, i) => marker === others[i]);
 
   /** The markers that may have a rose: those of the VOR layer, and of the plan without it. @return {ChartMarker[]} */
   const shownNow = () => Array.from(new Set(page.plannedMarkers().concat(VORMgr ? VORMgr.markers() : [])));
@@ -145,10 +152,10 @@
     const near = zoom >= fromZoom ? shownNow() : [];
     const shown = near.filter(marker => withRose.indexOf(marker.symbol) >= 0);
     const named = shown.filter(isNamed);
-    const key = shown.length ? `${zoom} ${titlesOf(named)} ${titlesOf(shown)}` : '';
-    if (key === drawn)
+    const isZoomSame = zoom === drawnFor.zoom || !shown.length;
+    if (isZoomSame && areSame(shown, drawnFor.shown) && areSame(named, drawnFor.named))
       return;
-    drawn = key;
+    drawnFor = { zoom: zoom, shown: shown, named: named };
     layer.forEach(feature => layer.remove(feature));
     texts.forEach(feature => texts.remove(feature));
     drawnAround = new Set(apart(shown, zoom));

@@ -15,13 +15,7 @@
   const nearZoom = 9.5;
   const nearCell = 0.0125;
 
-  /**
-   * The airports that are shown, by cells of a width; null: to be sorted when somebody asks.
-   * @type {?{width: number, places: Map<number, Place[]>}}
-   */
-  let cells = null;
-
-  /** @type {(degrees: number, width: number) => number} the row or column of cells of a latitude or longitude */
+  /** The row or column of cells of a latitude or longitude. @type {(degrees: number, width: number) => number} */
   const lineOf = (degrees, width) => Math.floor(degrees / width);
 
   /** The number of a cell; the column in any copy of the world. @type {(row: number, column: number, width: number) => number} */
@@ -30,24 +24,62 @@
     return row * columns + (column % columns + columns) % columns;
   }
 
-  /** @param {number} width */
-  function sorted(width) {
-    /** @type {Map<number, Place[]>} */
-    const places = new Map();
-    (ArptMgr ? ArptMgr.markers() : []).forEach(marker => {
-      const key = keyOf(lineOf(marker.position.lat(), width), lineOf(marker.position.lng(), width), width);
-      const there = places.get(key);
-      if (there)
-        there.push(marker.position);
-      else
-        places.set(key, [marker.position]);
-    });
-    return { width: width, places: places };
+  /**
+   * Places in cells. Those of a cell are a chain, for nearly all hold one and a list for each would take longer: `last`
+   * tells the number of a cell's last place, `before` that of the place before it in the same cell, or -1.
+   */
+  class PlaceCells {
+    /** @param {ChartMarker[]} markers @param {number} width */
+    constructor(markers, width) {
+      this.width = width;
+      this.places = markers.map(marker => marker.position);
+      /** @type {Map<number, number>} */
+      this.last = new Map();
+      this.before = new Int32Array(this.places.length);
+      for (let i = 0; i < this.places.length; ++i) {
+        const place = this.places[i];
+        const key = keyOf(lineOf(place.lat(), width), lineOf(place.lng(), width), width);
+        const there = this.last.get(key);
+        this.before[i] = there === undefined ? -1 : there;
+        this.last.set(key, i);
+      }
+    }
+
+    /** Whether one of the places lies under a symbol. @param {Place} place @param {number} zoom */
+    hasNear(place, zoom) {
+      const width = this.width;
+      const reach = nearPixels / pixelsPerDegree(zoom);
+      const lastRow = lineOf(place.lat() + reach, width);
+      const lastColumn = lineOf(place.lng() + reach, width);
+      for (let row = lineOf(place.lat() - reach, width); row <= lastRow; ++row) {
+        for (let column = lineOf(place.lng() - reach, width); column <= lastColumn; ++column) {
+          if (this.hasNearIn(keyOf(row, column, width), place, zoom))
+            return true;
+        }
+      }
+      return false;
+    }
+
+    /** @param {number} key that of a cell @param {Place} place @param {number} zoom */
+    hasNearIn(key, place, zoom) {
+      const last = this.last.get(key);
+      for (let i = last === undefined ? -1 : last; i >= 0; i = this.before[i]) {
+        if (isNear(this.places[i], place, zoom))
+          return true;
+      }
+      return false;
+    }
   }
+
+  /** The airports that are shown; null: to be sorted when somebody asks. @type {?PlaceCells} */
+  let airports = null;
+
+  /** @param {number} zoom */
+  const pixelsPerDegree = zoom => 256 * Math.pow(2, zoom) / 360;
 
   /** @type {(a: Place, b: Place, zoom: number) => boolean} */
   function isNear(a, b, zoom) {
-    const pixels = 256 * Math.pow(2, zoom) / 360;
+    const pixels = pixelsPerDegree(zoom);
     const north = a.lat() - b.lat();
     const east = page.degreesEast(a, b);
     // Nearly all are told apart by this; the cosine takes longer.
@@ -62,18 +94,14 @@
   /** Whether an airport is shown at the place of a marker. */
   page.isUnderAirport = function (marker, zoom) {
     const width = zoom < nearZoom ? wideCell : nearCell;
-    if (!cells || cells.width !== width)
-      cells = sorted(width);
-    const places = cells.places;
-    const middle = { row: lineOf(marker.position.lat(), width), column: lineOf(marker.position.lng(), width) };
-    const steps = [-1, 0, 1];
-    return steps.some(row => steps.some(column => (places.get(keyOf(middle.row + row, middle.column + column, width)) || [])
-      .some(airport => isNear(airport, marker.position, zoom))));
+    if (!airports || airports.width !== width)
+      airports = new PlaceCells(ArptMgr ? ArptMgr.markers() : [], width);
+    return airports.hasNear(marker.position, zoom);
   };
 
   /** Has to be called after airports have come or gone. */
   page.airportsChanged = function () {
-    cells = null;
+    airports = null;
     if (VORMgr)
       VORMgr.dress();
   };

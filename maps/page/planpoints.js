@@ -93,7 +93,7 @@
   page.isPointOf = (marker, point) => keyOf(marker.position) === keyOf(point.position) && bears(marker, point.name);
 
   /** @return {boolean} whether a marker is drawn as a point of the plan */
-  page.isPlanned = marker => planned.has(marker);
+  page.isPlanned = marker => planned.size > 0 && planned.has(marker);
 
   /** @return {ChartMarker[]} those that are drawn as points of the plan */
   page.plannedMarkers = () => Array.from(planned);

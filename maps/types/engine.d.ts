@@ -155,12 +155,18 @@ interface PlacedLabel {
   text: LabelText;
 }
 
-/** The points of one zIndex with their pixels in the frame. */
-interface PointLevel {
-  height: number;
-  points: PointParts[];
+/** Pixels from the frame's corner. */
+interface Places {
   xs: number[];
   ys: number[];
+}
+
+/** The points of one zIndex with their places. */
+interface PointLevel extends Places {
+  height: number;
+  points: PointParts[];
+  /** The places of all, when these are the points that are left of a crowd. */
+  all: Places | null;
 }
 
 /** What the base map writes: boxes in pixels of the first copy of the world. */
@@ -280,6 +286,7 @@ interface LayerParts {
   grid: HitGrid;
   dressing: number;
   dress(point: PointParts, ratio: number): void;
+  remove(point: PointParts): void;
 }
 
 interface PointParts {
@@ -371,7 +378,7 @@ interface MapEngine {
   Lines: new () => Lines;
   linesAt(map: MapParts, height: number): LinesHome;
 
-  HitGrid: new (points: Set<PointParts>) => HitGrid;
+  HitGrid: new (points: PointParts[]) => HitGrid;
   clearPicture(canvas: HTMLCanvasElement, picture: { width: number, height: number }): CanvasRenderingContext2D;
   drawRim(context: CanvasRenderingContext2D, picture: { width: number, height: number },
     write: (context: CanvasRenderingContext2D) => void): void;
