@@ -55,7 +55,10 @@ var theLast = null;
     return found;
   }
 
-  /** Shows a marker at once, whether its layer is to be seen or not, in place of its predecessor. */
+  /**
+   * Shows a marker at once in place of its predecessor, whether its layer is to be seen or not, and at every zoom: who
+   * has made a point sees it.
+   */
   page.showEdited = function (marker) {
     if (!marker)
       return;
@@ -64,6 +67,7 @@ var theLast = null;
     if (former && layerOf(marker).list === listVOR && former.symbol.indexOf('ndb') !== 0)
       marker.symbol = former.symbol;
     layerOf(marker).manager().addMarker(marker);
+    page.chooseEdited(marker);
     page.joinBeacons();
     page.matchPlan();
   };

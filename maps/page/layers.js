@@ -23,9 +23,14 @@ var WPTVfrMgr = null;
 
   /** How all markers look at the map's zoom. @type {?Looks} */
   let looks = null;
-  /** The marker whose pop-up is open: it is drawn in full. @type {?ChartMarker} */
+  /** The marker whose pop-up is open. @type {?ChartMarker} */
   let chosen = null;
+  /** That of the last edit, until the user clicks on something else. @type {?ChartMarker} */
+  let edited = null;
   const chosenHeight = 58;
+
+  /** Whether a marker is drawn in full at every zoom. @param {ChartMarker} marker */
+  const isChosen = marker => marker === chosen || marker === edited;
 
   /** @type {Record<string, () => number>} */
   const counts = {
@@ -48,7 +53,7 @@ var WPTVfrMgr = null;
     // A point of the plan shows whatever its layer does.
     if (page.isPlanned(marker))
       return hidden;
-    if (marker === chosen)
+    if (isChosen(marker))
       return page.fullLook(marker, {
         // A VOR has the rest around its rose.
         text: page.hasRose(marker) ? page.identOf(marker) : page.longText(marker),
@@ -97,7 +102,7 @@ var WPTVfrMgr = null;
      * away to be drawn when they come, and wait here until they are.
      */
     fill() {
-      const isSeen = (!!chosen && chosen.badge === this.badge)
+      const isSeen = [chosen, edited].some(marker => !!marker && marker.badge === this.badge)
         || this.shown.some(marker => looks.draws(marker.symbol));
       if (isSeen) {
         for (; this.filled < this.shown.length; ++this.filled) {
@@ -121,6 +126,8 @@ var WPTVfrMgr = null;
       if (marker.badge !== this.badge)
         return;
       marker.badge = null;
+      if (marker === edited)
+        edited = null;
       const at = this.shown.indexOf(marker);
       this.shown.splice(at, 1);
       if (at < this.filled) {
@@ -193,17 +200,24 @@ var WPTVfrMgr = null;
   /** Whether names, and not identifiers alone, stand beside the symbols of a kind. */
   page.hasNames = symbol => !!looks && looks.hasNames(symbol);
 
-  /** Draws a marker in full as the one whose pop-up is open; null for none. */
-  page.choose = function (marker) {
-    if (marker === chosen)
+  /** @type {(nextChosen: ?ChartMarker, nextEdited: ?ChartMarker) => void} */
+  function setChosen(nextChosen, nextEdited) {
+    if (nextChosen === chosen && nextEdited === edited)
       return;
-    chosen = marker;
+    chosen = nextChosen;
+    edited = nextEdited;
     page.dressLayers();
     page.fitRoses();
-  };
+  }
 
-  /** Whether a marker is the one that the user has clicked. */
-  page.isChosen = marker => marker === chosen;
+  /** Draws a marker in full as the one whose pop-up is open; null for none. */
+  page.choose = marker => setChosen(marker, marker ? null : edited);
+
+  /** Draws a marker in full as the one that the program's dialog has sent; null for none. */
+  page.chooseEdited = marker => setChosen(chosen, marker);
+
+  /** Whether a marker is the one that the user has clicked or edited. */
+  page.isChosen = isChosen;
 
   /** A fresh manager in place of an old one, which would otherwise leave its markers on the map. */
   page.newManager = function (old) {

@@ -57,6 +57,9 @@
       });
   };
 
-  google.maps.event.addListener(map, 'click', () => page.closePopup());
+  google.maps.event.addListener(map, 'click', () => {
+    page.closePopup();
+    page.chooseEdited(null);
+  });
   google.maps.event.addListener(infoWindow, 'closeclick', () => page.closePopup());
 })();

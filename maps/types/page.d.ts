@@ -278,6 +278,7 @@ interface Page {
   fitLooks(): void;
   dressLayers(): void;
   choose(marker: ChartMarker | null): void;
+  chooseEdited(marker: ChartMarker | null): void;
   hasNames(symbol: string): boolean;
   hasRose(marker: ChartMarker): boolean;
   isChosen(marker: ChartMarker): boolean;

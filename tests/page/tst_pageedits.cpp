@@ -10,6 +10,7 @@ class TestPageEdits : public PageTest
 private slots:
     void aSingleMarkerShowsAtOnce_data();
     void aSingleMarkerShowsAtOnce();
+    void itShowsFromAfarUntilAClickElsewhere();
     void itShowsInAHiddenLayerToo();
     void itBelongsToItsLayerAfterwards();
     void anEditedRowTakesThePlaceOfItsMarker();
@@ -93,6 +94,28 @@ void TestPageEdits::aSingleMarkerShowsAtOnce()
     window->run(script);
     QCOMPARE(titles(list), QStringList{title});
     QVERIFY(isDrawn(46.7, 2.3));
+}
+
+void TestPageEdits::itShowsFromAfarUntilAClickElsewhere()
+{
+    // So many others that the kind leaves the map early.
+    window->run(
+        "for (let i = 0; i < 3000; ++i) addWPTMarker(new google.maps.LatLng(44 + i / 3000, 2), 'W' + i + '-W' + "
+        "i + 'FR', 1, 'x');addWptMgr();WPTRteMgr.addMarkers(listWptRte);map.setZoom(5)");
+    for (int usage : {1, 4, 6}) {
+        window->run(
+            QString("addWPTMarker2(new google.maps.LatLng(46.70000, 2.30000),\"NEW-NEWFR\",%1,\"x\")").arg(usage));
+        QVERIFY2(isDrawn(46.7, 2.3), qPrintable(QString("usage %1").arg(usage)));
+    }
+    QVERIFY(!window->run("WPTRteMgr.draws(listWptRte[0])").toBool());
+    window->click(46.7, 2.3);
+    QCOMPARE(window->popupText(), "x");
+    window->pressKey(Qt::Key_Escape);
+    QVERIFY(!isDrawn(46.7, 2.3));
+    window->run("addWPTMarker2(new google.maps.LatLng(46.70000, 2.30000),\"NEW-NEWFR\",1,\"x\")");
+    QVERIFY(isDrawn(46.7, 2.3));
+    window->click(48.0, 2.3);
+    QVERIFY(!isDrawn(46.7, 2.3));
 }
 
 void TestPageEdits::itShowsInAHiddenLayerToo()
