@@ -10,6 +10,10 @@ trajector=$simulator/Tools/Trajector
 [ -d "$trajector/Data" ] || fail 'no folder for update files'
 [ ! -e "$trajector/flysim" ] || fail 'the component holds what was not asked for'
 look_at_manual "$trajector/manual"
+grep -q '^var mapSettings' "$trajector/maps/service.js" || fail 'no settings of the map'
+echo '// mine' >"$trajector/maps/service.js"
+"$cmake_programs/cmake" --install "$build" --component program --prefix "$trajector" >/dev/null
+[ "$(cat "$trajector/maps/service.js")" = '// mine' ] || fail "the user's settings of the map are lost"
 cd "$trajector"
 start_and_look C.UTF-8 ./ZephanTrajector
 start_and_look fr_FR.UTF-8 ./ZephanTrajector

@@ -58,6 +58,10 @@ install_and_remove() {
     run "$trajector/flysim.exe" --help || fail 'flysim.exe does not run'
     grep -q '^Usage: flysim' "$folder/log" || fail 'flysim.exe is silent'
 
+    echo '// mine' >"$trajector/maps/service.js"
+    run "$folder/packages/setup.exe" /S "/D=$(windows_path "$simulator")" || fail "a second installing ends with $?"
+    [ "$(cat "$trajector/maps/service.js")" = '// mine' ] || fail "the user's settings of the map are lost"
+
     echo 'GEN;NAV;-;ukey;X' >"$trajector/Data/MINE.CSV"
     run "$trajector/Uninstall.exe" /S || fail "the uninstaller ends with $?"
     wait_for_the_uninstaller

@@ -9,7 +9,7 @@ QUrl PageCopy::with(const QMap<QString, QString>& settings)
 {
     const QString from = QCoreApplication::applicationDirPath();
     QProcess::execute("cp", {"-r", from + "/maps", from + "/gm_trajector_fr.html", folder.path()});
-    QFile file(path("maps/page/service.js"));
+    QFile file(path("maps/service.js"));
     if (!file.open(QIODevice::ReadWrite))
         return {};
     QString text = QString::fromUtf8(file.readAll());

@@ -8,7 +8,7 @@
 class PageCopy
 {
 public:
-    /// Copies the pages beside this test and sets values of `page/service.js`, by name and as they are written there.
+    /// Copies the pages beside this test and sets values of `maps/service.js`, by name and as they are written there.
     /// An empty address when that fails or a name is not there.
     QUrl with(const QMap<QString, QString>& settings);
     QString path(const QString& file) const

@@ -75,6 +75,8 @@ private slots:
     void anAnswerWithoutAMapIsGivenUp_data();
     void anAnswerWithoutAMapIsGivenUp();
     void aServiceThatIsSilentIsGivenUpAfterTheWait();
+    void settingsThatLackOrBreakAreAsShipped_data();
+    void settingsThatLackOrBreakAreAsShipped();
 
 private:
     PageCopy pages;
@@ -180,6 +182,34 @@ void TestPageService::aServiceThatIsSilentIsGivenUpAfterTheWait()
     QTRY_COMPARE(window->run("listVOR.length").toInt(), 1);
     QCOMPARE(window->run("map.getCenter().lat()").toDouble(), 46.5);
     QVERIFY(!window->menuAt(46.2, 2.5).isEmpty());
+}
+
+void TestPageService::settingsThatLackOrBreakAreAsShipped_data()
+{
+    QTest::addColumn<QByteArray>("settings");
+    QTest::addColumn<bool>("isBroken");
+    QTest::newRow("of an earlier version") << QByteArray("var mapSettings = { address: '' };") << false;
+    QTest::newRow("broken") << QByteArray("var mapSettings = {") << true;
+    QTest::newRow("empty") << QByteArray() << false;
+}
+
+void TestPageService::settingsThatLackOrBreakAreAsShipped()
+{
+    QFETCH(QByteArray, settings);
+    QFETCH(bool, isBroken);
+    const QUrl address = pages.with({});
+    QFile file(pages.path("maps/service.js"));
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    QCOMPARE(file.write(settings), qint64(settings.size()));
+    file.close();
+    openWindow();
+    if (isBroken)
+        window->page->expectFault("service.js");
+    QVERIFY(window->load(address));
+    QVERIFY(isEngine());
+    QCOMPARE(window->run("mapService.wait").toInt(), 4);
+    QCOMPARE(window->run("mapService.tileLastZoom").toInt(), 18);
+    QCOMPARE(window->run("listVOR.length").toInt(), 1);
 }
 
 QTEST_MAIN(TestPageService)

@@ -190,6 +190,18 @@ private slots:
         QCOMPARE(contentOf(folder + "/Data/MINE.CSV"), QByteArray("mine"));
     }
 
+    void theSettingsOfTheMapComeOnceAndAreTheUsers()
+    {
+        layOutPackage();
+        writeFile(path("package/maps/service.js"), "shipped");
+        const QString settings = path("sim/Tools/Trajector/maps/service.js");
+        QCOMPARE(launcher::bringUpToDate(path("package"), path("sim/Tools/Trajector")), QString());
+        QCOMPARE(contentOf(settings), QByteArray("shipped"));
+        writeFile(settings, "mine");
+        QCOMPARE(launcher::bringUpToDate(path("package"), path("sim/Tools/Trajector")), QString());
+        QCOMPARE(contentOf(settings), QByteArray("mine"));
+    }
+
     void aFolderThatCannotBeMadeIsTold()
     {
         layOutPackage();

@@ -29,6 +29,12 @@ QString entryNamed(const QDir& folder, const QString& name)
     return name;
 }
 
+/// Whether a file comes with the program once, and is the user's from then on.
+bool isUsers(const QString& relativePath)
+{
+    return relativePath == QLatin1String("maps/service.js");
+}
+
 bool sameBytes(const QString& one, const QString& other)
 {
     QFile a(one);
@@ -102,7 +108,7 @@ QString launcher::bringUpToDate(const QString& from, const QString& to)
     for (QDirIterator files(from, QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
         const QString file = files.next();
         const QString copy = QDir(to).filePath(source.relativeFilePath(file));
-        if (sameBytes(file, copy)) {
+        if (sameBytes(file, copy) || (isUsers(source.relativeFilePath(file)) && QFile::exists(copy))) {
             continue;
         }
         if (!QDir().mkpath(QFileInfo(copy).path())) {

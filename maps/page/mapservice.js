@@ -1,36 +1,23 @@
 /**
- * Where the map comes from. With an address the page takes an outside map service, without one (as shipped) the map
- * engine that lies beside the page. A service that does not come within the wait is given up: the page starts again
- * with the engine, and the program feeds the new page as it feeds any.
+ * Where the map comes from, as the settings say. With an address the page takes an outside map service, without one (as
+ * shipped) the map engine that lies beside the page. A service that does not come within the wait is given up: the page
+ * starts again with the engine, and the program feeds the new page as it feeds any.
  */
-var mapService = {
-  /** The address of the service's script, without the key; empty: no service. */
+var mapService = Object.assign({
+  // For settings that leave something out, or that the engine cannot read.
   address: '',
-  /** The key that the service asks for; empty: none is sent. */
   key: '',
-  /**
-   * Seconds after which the service is given up, and after which a raster map without a picture is told to be missing.
-   */
   wait: 4,
-  /**
-   * Where the pictures of a raster map come from, with {z}, {x} and {y} for zoom, column and row and the host written
-   * out; empty: none is shown.
-   */
   tileAddress: '',
-  /**
-   * Further hosts, as in 'https://a.example https://b.example:8080', to which that address leads on. No other gives the
-   * page a picture.
-   */
   tileHosts: '',
-  /** What the maker of the raster map wants to be named, as text; always shown with the map. */
   tileAttribution: '',
-  /** The last zoom that the raster map has; beyond it the pictures are enlarged. */
   tileLastZoom: 18,
+}, window.mapSettings, {
   /** Whether the map is the engine's. */
   isEngine: false,
   /** Runs while the service is awaited. */
   timer: 0,
-};
+});
 
 (function () {
   'use strict';
