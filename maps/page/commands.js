@@ -107,6 +107,7 @@
       edit('editWaypoint', 'sAddWptToDB'),
       byKey('deleteWaypoint', 'sDelWptFromDB'),
     ],
+    point: [],
   };
 
   /** @type {Command<Place>[]} */
@@ -168,8 +169,15 @@
       (all.length ? all.concat({ separator: true }, group) : group), []);
   }
 
+  /** @param {ChartMarker} marker */
+  function use(marker) {
+    if (page.hasRow(marker))
+      theLast = marker;
+  }
+
   /**
-   * The entries for one marker. Whatever is chosen, the marker becomes the last used: the program may ask to delete it.
+   * The entries for one marker. Whatever is chosen, a marker with a row becomes the last used: the program may ask to
+   * delete it.
    * @param {ChartMarker} marker
    */
   function entriesOfMarker(marker) {
@@ -177,7 +185,7 @@
       entriesFor([measureMarker, centreMarker], marker));
     return all.map(entry => (entry.separator ? entry : Object.assign({}, entry, {
       run: () => {
-        theLast = marker;
+        use(marker);
         entry.run();
       },
     })));
@@ -226,16 +234,18 @@
    */
   page.openMenuOf = function (place, first, at) {
     const markers = page.markersAt(place, first);
-    if (!markers.length) {
+    const objects = page.moversAt(place).concat(markers);
+    if (!objects.length) {
       page.openMenu(titleOfPlace(place), entriesOfPlace(place), at);
       return;
     }
-    theLast = markers[0];
+    markers.filter(page.hasRow).slice(0, 1).forEach(use);
     // Whoever starts, measures or makes a point on a marker means the marker's place, not the pixel beside it.
-    if (markers.length > 1)
-      openForSeveral(markers, theLast.position, at);
+    const exact = (markers[0] || objects[0]).position;
+    if (objects.length > 1)
+      openForSeveral(objects, exact, at);
     else
-      openForOne(theLast, theLast.position, at);
+      openForOne(objects[0], exact, at);
   };
 
   /** @param {ChartMarker} marker */
@@ -244,14 +254,17 @@
       page.measureTo(marker.position, page.describe(marker).head);
       return;
     }
-    theLast = marker;
+    use(marker);
     page.openPopup(marker);
   }
 
-  /** The mouse on the markers of a layer: the pop-up, the menu, the box beside the pointer. */
-  page.listenToLayer = function (layer) {
+  /**
+   * The mouse on the markers of a layer: the pop-up, the menu, the box beside the pointer. Without another way a
+   * feature's marker is its property.
+   */
+  page.listenToLayer = function (layer, markerOfFeature) {
     /** @param {google.maps.Data.MouseEvent} event */
-    const markerOf = event => event.feature.getProperty('marker');
+    const markerOf = event => (markerOfFeature ? markerOfFeature(event.feature) : event.feature.getProperty('marker'));
     /** @param {?ChartMarker} marker */
     const pointed = marker => {
       page.reportMarker(marker);

@@ -41,6 +41,8 @@
 
   /** The identifier: what follows the kind in the text's first line, else the title without its key. */
   page.identOf = function (marker) {
+    if (!page.hasRow(marker))
+      return marker.title;
     const first = headOf(marker);
     const blank = first.indexOf(' ');
     return (blank > 0 && first.slice(blank + 1).trim()) || marker.stem();

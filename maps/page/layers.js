@@ -149,11 +149,12 @@ var WPTVfrMgr = null;
     }
 
     /**
-     * Whether a marker of the list is on the map at this zoom, as one of this layer or of the plan.
+     * Whether a marker of the list is on the map at this zoom, as one of this layer, of the plan or of a procedure.
      * @param {ChartMarker} marker
      */
     draws(marker) {
-      return page.isPlanned(marker) || (marker.badge === this.badge && styleOf(marker).visible !== false);
+      return page.isPlanned(marker) || page.procedure.tells(marker)
+        || (marker.badge === this.badge && styleOf(marker).visible !== false);
     }
 
     /** Hides all markers of the layer. */

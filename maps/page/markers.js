@@ -22,7 +22,10 @@ var listWptVfr = [];
   const usage = { terminal: 4, rnav: 5, vfr: 6 };
 
   /** What a marker stands for; decides the commands of its menu. */
-  page.families = { airport: 'airport', navaid: 'navaid', waypoint: 'waypoint' };
+  page.families = { airport: 'airport', navaid: 'navaid', waypoint: 'waypoint', point: 'point' };
+
+  /** Families whose titles hold no key: an airport's is its identifier, and a point (namedpoints.js) has no row. */
+  const keyless = [page.families.airport, page.families.point];
 
   /** @type {(marker: ChartMarker) => boolean} whether the one "-" of the title is that between name and key. */
   const hasPlainName = marker => marker.title.split('-').length === 2;
@@ -54,15 +57,19 @@ var listWptVfr = [];
       return this.position;
     }
 
-    /** What stands behind the last "-" of the title; empty for an airport. */
-    tail() {
-      return this.family === page.families.airport ? '' : this.title.slice(this.title.lastIndexOf('-') + 1);
+    hasKey() {
+      return keyless.indexOf(this.family) < 0;
     }
 
-    /** What stands in front of that "-"; the whole title of an airport, and of what has nothing there. */
+    /** What stands behind the last "-" of the title; empty for what has no key. */
+    tail() {
+      return this.hasKey() ? this.title.slice(this.title.lastIndexOf('-') + 1) : '';
+    }
+
+    /** What stands in front of that "-"; the whole title of what has no key or nothing there. */
     stem() {
       const dash = this.title.lastIndexOf('-');
-      return this.family === page.families.airport || dash < 1 ? this.title : this.title.slice(0, dash);
+      return this.hasKey() && dash >= 1 ? this.title.slice(0, dash) : this.title;
     }
 
     /**
@@ -81,7 +88,7 @@ var listWptVfr = [];
      * @param {ChartMarker} other
      */
     isSameRow(other) {
-      if (other.family !== this.family || this.family === page.families.airport)
+      if (other.family !== this.family || !this.hasKey())
         return false;
       if (this.title === other.title)
         return true;
@@ -90,11 +97,16 @@ var listWptVfr = [];
     }
   }
 
+  page.newMarker = (family, symbol, position, title, html) => new ChartMarker(family, symbol, position, title, html);
+
+  /** Whether a marker stands for a row of the databases. */
+  page.hasRow = marker => marker.family !== page.families.point;
+
   /** Makes a marker and puts it into a list. @return {?ChartMarker} null without a place to draw it */
   page.collect = function (list, family, symbol, position, title, html) {
     if (!page.isPlace(position))
       return null;
-    const marker = new ChartMarker(family, symbol, position, title, html);
+    const marker = page.newMarker(family, symbol, position, title, html);
     list.push(marker);
     return marker;
   };

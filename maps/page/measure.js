@@ -23,7 +23,6 @@
   /** The corners so far: where they are and what lies there. @type {{place: Place, name: string}[]} */
   let corners = [];
   let open = false;
-  /** Where the rubber line ends now: at the marker under the pointer, else at the pointer itself. */
   /** @type {?Place} */
   let pointer = null;
   /** @type {?ChartMarker} */
@@ -153,9 +152,15 @@
     readout.hidden = true;
   }
 
+  /** Where the rubber line ends now: at what lies under the pointer, else at the pointer itself. @return {?Place} */
+  function endOf() {
+    const object = snapped || (pointer && page.moversAt(pointer)[0]);
+    return object ? object.position : pointer;
+  }
+
   const drawRubber = page.oncePerFrame(() => {
-    const end = snapped ? snapped.position : pointer;
-    if (!open || !end) {
+    const end = open ? endOf() : null;
+    if (!end) {
       hideRubber();
       return;
     }
@@ -244,7 +249,13 @@
       draw();
   });
 
-  map.addListener('click', event => page.measureTo(event.latLng, ''));
+  map.addListener('click', event => {
+    const mover = open && page.moversAt(event.latLng)[0];
+    if (mover)
+      page.measureTo(mover.position, page.describe(mover).head);
+    else
+      page.measureTo(event.latLng, '');
+  });
   google.maps.event.addListener(map, 'dblclick', () => page.endMeasure());
   map.addListener('mousemove', event => {
     pointer = event.latLng;

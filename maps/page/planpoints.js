@@ -18,12 +18,17 @@
   let points = [];
   /** @type {Set<ChartMarker>} */
   let planned = new Set();
-  /** What the plan has drawn and named. @type {Array<{marker: ?ChartMarker, name: string, key: number}>} */
+  /** What the plan has drawn and named, each by its marker or its own object. @type {PlanPoint[]} */
   let drawnPoints = [];
+  /** Of the last plan, and still those when it is drawn again. @type {Map<string, ChartMarker>} */
+  let objects = new Map();
 
   /** @param {Place} position */
   const keyOf = position =>
     Math.round(position.lat() * decimals) * 1e8 + Math.round(position.lng() * decimals);
+
+  /** @param {TrackPoint} point */
+  const pointKey = point => `${keyOf(point.position)} ${point.name}`;
 
   /** The markers at the places of the points, by place. */
   function markersByPlace() {
@@ -53,13 +58,24 @@
         (best && page.symbolHeight(best.symbol) >= page.symbolHeight(marker.symbol) ? best : marker), null);
   }
 
+  /** Points where no marker is known are objects of their own: the same for the same name and place. */
+  function fitObjects() {
+    const former = objects;
+    if (points.length)
+      objects = new Map();
+    points.forEach(point => {
+      const key = pointKey(point);
+      objects.set(key, former.get(key)
+        || page.newPoint(point.position, point.name, `${pageWords.planPoint} ${point.name}`));
+    });
+  }
+
   /** @param {string} name @return {google.maps.Data.StyleOptions} */
   function plainLook(name) {
     const colours = page.palette;
     return {
       icon: page.labelledBelow(page.symbol(unknown.path, colours.route, unknown.weight, colours.routeFill)),
       zIndex: height,
-      clickable: false,
       label: page.labelOf(name, colours.route, 12, { fontWeight: 'bold' }),
     };
   }
@@ -67,9 +83,9 @@
   /** @param {google.maps.Data.Feature} feature @return {google.maps.Data.StyleOptions} */
   function lookOf(feature) {
     const marker = feature.getProperty('marker');
-    return marker
+    return page.hasRow(marker)
       ? page.fullLook(marker, { colour: page.palette.route, zIndex: height, text: page.identOf(marker) })
-      : plainLook(feature.getProperty('name'));
+      : plainLook(marker.title);
   }
 
   function newLayer() {
@@ -86,11 +102,27 @@
   };
 
   /** Whether a point of another track stands in the plan under the same name, which is written there already. */
-  page.planTells = point => drawnPoints.some(({ marker, name, key }) => key === keyOf(point.position)
-    && (marker ? page.identOf(marker) : name) === point.name);
+  page.planTells = point => drawnPoints.some(({ marker, key }) => key === keyOf(point.position)
+    && page.identOf(marker) === point.name);
 
   /** Whether a marker is that of a point of a track: its place and one of its names. */
   page.isPointOf = (marker, point) => keyOf(marker.position) === keyOf(point.position) && bears(marker, point.name);
+
+  /** The marker of a point of a track, or the plan's object for it; null without either. */
+  page.markerOfPoint = function (point) {
+    const key = keyOf(point.position);
+    /** @type {ChartMarker[]} */
+    const there = [];
+    page.layers.forEach(each => each.list.forEach(marker => {
+      // Nearly all are told apart by this.
+      if (Math.abs(marker.position.lat() - point.position.lat()) < 1 / decimals && keyOf(marker.position) === key)
+        there.push(marker);
+    }));
+    const own = drawnPoints.find(each => each.key === key && each.marker.title === point.name);
+    return markerFor(point, there) || (own ? own.marker : null);
+  };
+
+  page.pointSources.push(() => drawnPoints.map(each => each.marker).filter(marker => !page.hasRow(marker)));
 
   /** @return {boolean} whether a marker is drawn as a point of the plan */
   page.isPlanned = marker => planned.size > 0 && planned.has(marker);
@@ -109,16 +141,17 @@
     if (layer)
       layer.setMap(null);
     layer = points.length ? newLayer() : null;
+    fitObjects();
     points.forEach(point => {
-      const marker = markerFor(point, found.get(keyOf(point.position)));
-      const same = marker || `${keyOf(point.position)} ${point.name}`;
-      if (drawn.has(same))
+      const known = markerFor(point, found.get(keyOf(point.position)));
+      const marker = known || objects.get(pointKey(point));
+      if (drawn.has(marker))
         return;
-      drawn.add(same);
-      if (marker)
-        planned.add(marker);
-      drawnPoints.push({ marker: marker, name: point.name, key: keyOf(point.position) });
-      layer.add({ geometry: point.position, properties: { marker: marker, name: point.name } });
+      drawn.add(marker);
+      if (known)
+        planned.add(known);
+      drawnPoints.push({ marker: marker, key: keyOf(point.position) });
+      layer.add({ geometry: point.position, properties: { marker: marker } });
     });
     if (layer)
       layer.setMap(map);

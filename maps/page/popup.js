@@ -44,6 +44,10 @@
     page.choose(null);
   };
 
+  /** @param {ChartMarker} marker */
+  const isOnMap = marker => page.namedPoints().indexOf(marker) >= 0
+    || page.layers.some(layer => layer.list.indexOf(marker) >= 0 && layer.manager().draws(marker));
+
   /**
    * Closes the pop-up of a marker that is no more on the map, as soon as the program's scripts have come to their end:
    * they often take something away to draw it anew.
@@ -52,7 +56,7 @@
     if (shown && !pending)
       pending = window.requestAnimationFrame(() => {
         pending = 0;
-        if (shown && !page.layers.some(layer => layer.list.indexOf(shown) >= 0 && layer.manager().draws(shown)))
+        if (shown && !isOnMap(shown))
           page.closePopup();
       });
   };

@@ -18,7 +18,7 @@
   page.procedure = new page.Track({
     colours: ['procedure', 'procedureFill'],
     zIndex: 55,
-    point: { path: 'M -3.5 -3.5 L 3.5 -3.5 L 3.5 3.5 L -3.5 3.5 Z', weight: 1.6 },
+    point: { path: 'M -3.5 -3.5 L 3.5 -3.5 L 3.5 3.5 L -3.5 3.5 Z', weight: 1.6, word: 'procedurePoint' },
     lines: (colour, fill) => [
       { strokeColor: fill, strokeOpacity: 1, strokeWeight: 5 },
       {

@@ -34,7 +34,7 @@
   /** The start and the aircraft lie above the markers. */
   function namesUnderPointer() {
     const markers = pointed ? page.markersAt(place, pointed) : [];
-    const names = page.moversAt(place).concat(markers.map(marker => page.describe(marker).head));
+    const names = page.moversAt(place).concat(markers).map(marker => page.describe(marker).head);
     return names.length ? `  ${names.slice(0, most).join(', ')}${names.length > most ? '…' : ''}` : '';
   }
 

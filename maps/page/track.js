@@ -2,6 +2,12 @@
 (function () {
   'use strict';
 
+  /** @param {TrackPoint} point */
+  const keyOf = point => `${point.position.toString()} ${point.name}`;
+
+  /** The point that `draw` has put there. @type {(feature: google.maps.Data.Feature) => TrackPoint} */
+  const pointOf = feature => feature.getProperty('point');
+
   class Track {
     /** @param {TrackStyle} style */
     constructor(style) {
@@ -13,6 +19,12 @@
       this.lines = [];
       /** @type {?google.maps.Data} */
       this.layer = null;
+      /** The objects of the points, those of the last track too: it may be drawn again. */
+      /** @type {Map<string, ChartMarker>} */
+      this.objects = new Map();
+      /** @type {Map<string, ChartMarker>} */
+      this.formerObjects = new Map();
+      page.pointSources.push(() => Array.from(this.objects.values()));
       this.legs = style.legs ? new page.LegTexts(() => ({ text: this.colour, rim: page.palette.labelRim })) : null;
       page.onPalette(palette => this.dress(palette));
     }
@@ -49,6 +61,9 @@
     }
 
     clear() {
+      if (this.objects.size)
+        this.formerObjects = this.objects;
+      this.objects = new Map();
       this.points = [];
       this.drawn = 0;
       this.lines.forEach(line => line.setMap(null));
@@ -74,8 +89,10 @@
       if (!this.lines.length)
         this.begin();
       this.points.slice(this.drawn).forEach(point => {
-        if (this.layer)
+        if (this.layer) {
           this.layer.add({ geometry: point.position, properties: { point: point } });
+          this.addObject(point);
+        }
         this.lines.forEach(line => line.getPath().push(point.position));
       });
       this.drawn = this.points.length;
@@ -85,10 +102,21 @@
         this.legs.setPoints(this.points);
     }
 
+    /** @param {TrackPoint} point */
+    addObject(point) {
+      const key = keyOf(point);
+      this.objects.set(key, this.objects.get(key) || this.formerObjects.get(key)
+        || page.newPoint(point.position, point.name, `${pageWords[this.style.point.word]} ${point.name}`));
+    }
+
     begin() {
       if (this.style.point) {
         this.layer = new google.maps.Data();
         this.layer.setStyle(feature => this.look(feature));
+        page.listenToLayer(this.layer, feature => {
+          const point = pointOf(feature);
+          return page.markerOfPoint(point) || this.objects.get(keyOf(point));
+        });
       }
       this.lines = this.options.map((options, i) => new google.maps.Polyline(Object.assign({
         geodesic: true,
@@ -100,12 +128,10 @@
 
     /** @type {(feature: google.maps.Data.Feature) => google.maps.Data.StyleOptions} */
     look(feature) {
-      /** The TrackPoint that `draw` put there. @type {*} */
-      const point = feature.getProperty('point');
+      const point = pointOf(feature);
       return {
         icon: this.point,
         zIndex: this.style.zIndex + this.options.length,
-        clickable: false,
         label: page.planTells(point) ? undefined : page.labelOf(point.name, this.colour, 12, { fontWeight: 'bold' }),
       };
     }

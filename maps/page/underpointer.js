@@ -4,8 +4,6 @@
 
   /** A marker counts as under the pointer when its middle is no more than so many pixels away. */
   const reach = 9;
-  /** The start and the aircraft are larger. */
-  const moverReach = 13;
 
   /** A box stands so many pixels from the pointer, and as many from the window's edge. */
   const gap = { pointer: 14, edge: 4 };
@@ -53,7 +51,7 @@
 
   /**
    * The markers shown at a place of the map, the nearest first; those of one point stand in the order of the layers,
-   * airports before navaids before waypoints.
+   * airports before navaids before waypoints, then points of plan and procedure that are none of them.
    * @param {Place} place
    * @param {?ChartMarker} first the marker that the map itself has found there: it leads the list
    */
@@ -70,17 +68,14 @@
       if (marker === first || (pixels <= reach && layer.manager().draws(marker)))
         found.push({ marker: marker, rank: marker === first ? -1 : Math.round(pixels), order: found.length });
     }));
+    page.namedPoints().forEach(marker => {
+      const pixels = page.pixelsBetween(marker.position, place);
+      const isTold = () => found.some(item => page.isPointOf(item.marker, { position: marker.position, name: marker.title }));
+      if (marker === first || (pixels <= reach && !isTold()))
+        found.push({ marker: marker, rank: marker === first ? -1 : Math.round(pixels), order: found.length });
+    });
     return found.sort((a, b) => a.rank - b.rank || a.order - b.order).map(item => item.marker);
   };
-
-  /** What stands on the map besides the markers: each gives its marker of the map service, or null while it is away. */
-  page.movers = [];
-
-  /** What the movers at a place are called. @param {Place} place */
-  page.moversAt = place => page.movers.map(mover => mover())
-    .filter(marker => marker && page.isPlace(marker.getPosition())
-      && page.pixelsBetween(marker.getPosition(), place) <= moverReach)
-    .map(marker => marker.getTitle());
 
   /** The first of many markers; a single one more is not worth a line that counts it. */
   page.shorten = (markers, most) => (markers.length > most + 1 ? markers.slice(0, most) : markers);
@@ -103,6 +98,8 @@
   page.describe = function (marker) {
     const lines = page.linesOf(marker);
     const first = lines[0] || '';
+    if (!page.hasRow(marker))
+      return { head: first, lines: lines.slice(1) };
     const ident = leadingWord.test(first) ? first.replace(leadingWord, '') : marker.stem();
     const details = lines.slice(1, lines.length > 2 ? -1 : undefined).filter(line => line && line !== ident);
     return { head: `${kindOf(marker)} ${ident}`, lines: details };

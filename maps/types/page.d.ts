@@ -9,9 +9,9 @@ type Place = google.maps.LatLng;
 declare const pageWords: Record<string, string>;
 
 /** What a marker stands for; decides the commands of its menu. */
-type MarkerFamily = 'airport' | 'navaid' | 'waypoint';
+type MarkerFamily = 'airport' | 'navaid' | 'waypoint' | 'point';
 
-/** A marker of the feed. */
+/** A marker of the feed; of the family `point`, another object with a name. */
 interface ChartMarker {
   family: MarkerFamily;
   /** The name of its design. */
@@ -23,6 +23,8 @@ interface ChartMarker {
   badge: object | null;
   getTitle(): string;
   getPosition(): Place;
+  /** Whether the title holds the key of a row. */
+  hasKey(): boolean;
   tail(): string;
   stem(): string;
   keyDigit(): number;
@@ -131,8 +133,8 @@ interface TrackStyle {
   /** The palette's colours of the line and its names, and of what lies inside its points. */
   colours: [Colour, Colour];
   zIndex: number;
-  /** The symbol of its points; without it the track is nothing but its lines. */
-  point?: { path: string, weight: number };
+  /** The symbol of its points and the key of what they are called; without it the track is nothing but its lines. */
+  point?: { path: string, weight: number, word: string };
   /** Whether course and distance stand beside its legs. */
   legs?: boolean;
   /** The lines of the track, each over the one before, from its two colours. */
@@ -142,6 +144,12 @@ interface TrackStyle {
 interface TrackPoint {
   position: Place;
   name: string;
+}
+
+/** A drawn point of the plan: its marker, or its own object, and the number of its place. */
+interface PlanPoint {
+  marker: ChartMarker;
+  key: number;
 }
 
 /** Two points of a track with what is written beside the way between them. */
@@ -250,6 +258,11 @@ interface Page {
   vorSymbol(type: number): string;
 
   families: Record<MarkerFamily, MarkerFamily>;
+  newMarker(family: MarkerFamily, symbol: string, position: Place, title: string, html: string): ChartMarker;
+  hasRow(marker: ChartMarker): boolean;
+  newPoint(position: Place, name: string, head: string): ChartMarker;
+  pointSources: Array<() => ChartMarker[]>;
+  namedPoints(): ChartMarker[];
   collect(list: ChartMarker[], family: MarkerFamily, symbol: string, position: Place, title: string,
     html: string): ChartMarker | null;
   collectAirport(position: Place, title: string, html: string): ChartMarker | null;
@@ -289,13 +302,14 @@ interface Page {
   matchPlan(): void;
   dressPlan(): void;
   planTells(point: TrackPoint): boolean;
+  markerOfPoint(point: TrackPoint): ChartMarker | null;
   isPointOf(marker: ChartMarker, point: TrackPoint): boolean;
   plannedMarkers(): ChartMarker[];
   isPlanned(marker: ChartMarker): boolean;
 
   layers: ChartLayer[];
   newManager(old?: MarkerManager | null): MarkerManager;
-  listenToLayer(layer: google.maps.Data): void;
+  listenToLayer(layer: google.maps.Data, markerOf?: (feature: google.maps.Data.Feature) => ChartMarker): void;
   showEdited(marker: ChartMarker | null): void;
   whileEditing(marker: ChartMarker, call: () => void): void;
   removeLast(): void;
@@ -320,7 +334,7 @@ interface Page {
   pixelsBetween(a: Place, b: Place): number;
   pixelOf(place: Place): Spot;
   movers: Array<() => google.maps.Marker | null>;
-  moversAt(place: Place): string[];
+  moversAt(place: Place): ChartMarker[];
   moverMoved(): void;
   markersAt(place: Place, first: ChartMarker | null): ChartMarker[];
   shorten(markers: ChartMarker[], most: number): ChartMarker[];
@@ -387,7 +401,7 @@ declare namespace google.maps {
 declare namespace google.maps.Data {
   interface Feature {
     getProperty(name: 'marker'): ChartMarker;
-    getProperty(name: 'name'): string;
+    getProperty(name: 'point'): TrackPoint;
     getProperty(name: 'text'): string;
   }
 }

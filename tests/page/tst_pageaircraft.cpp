@@ -240,6 +240,7 @@ void TestPageAircraft::aClickOnWhatStandsOnAPointIsThePoints()
     window->mouse->click(place);
     QCOMPARE(window->popupText(), "Airport LFLX");
     window->mouse->contextMenu(place);
+    QVERIFY(window->chooseEntry("Aéroport LFLX"));
     QVERIFY(window->chooseEntry("Ajouter au plan de vol"));
     QCOMPARE(program->calls("sAddAptToFp"), QStringList{"sAddAptToFp \"LFLX\""});
 }
@@ -255,6 +256,7 @@ void TestPageAircraft::aClickOnWhatStandsAloneIsTheMaps()
     QCOMPARE(window->popupText(), "");
     window->mouse->contextMenu(window->mouse->pointOf(46.7, 2.3) + QPoint(9, 1));
     // The place is that of the start and not the mouse's.
+    QVERIFY(window->chooseEntry("Carte ici"));
     QVERIFY(window->chooseEntry("Ajouter un point utilisateur ici"));
     QCOMPARE(program->calls("sAddNewWptToFp"), QStringList{"sAddNewWptToFp \"WPT\" 46.70000 2.30000"});
 }

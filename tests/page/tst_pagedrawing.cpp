@@ -348,7 +348,8 @@ void TestPageDrawing::theCommandsOfTheMapWorkOnTheStartMarker()
 {
     window->run("addSitMarker(new google.maps.LatLng(46.70000000, 2.30000000),\"A320\", 63);");
     window->settle();
-    QVERIFY(window->menuAt(46.7, 2.3).contains("Ajouter un point utilisateur ici"));
+    QCOMPARE(window->menuAt(46.7, 2.3), (QStringList{"Mesurer depuis ici", "Centrer ici", "Carte ici"}));
+    QVERIFY(window->chooseEntry("Carte ici"));
     QVERIFY(window->chooseEntry("Ajouter un point utilisateur ici"));
     QCOMPARE(program->calls("sAddNewWptToFp"), QStringList{"sAddNewWptToFp \"WPT\" 46.70000 2.30000"});
 }

@@ -191,7 +191,7 @@ void TestPageFeed::aLayerWakesWhenTheZoomLetsItBeSeen()
     window->run("map.setZoom(5)");
     QVERIFY(!isDrawn(46.7, 2.3));
     // What comes while the layer sleeps is there too when it wakes.
-    window->run(marker.arg("2", "2.50000", "B") + "theLast = listWptRte[0];delWaypoint();");
+    window->run(marker.arg("2", "2.50000", "B") + "theLast = listWptRte[0];delWaypoint();page.chooseEdited(null)");
     QVERIFY(!isDrawn(46.7, 2.5));
     window->run("map.setZoom(9)");
     QVERIFY(isDrawn(46.7, 2.5));

@@ -108,7 +108,8 @@ void TestPagePopup::ofCoincidingMarkersTheUpperOneAnswers()
 {
     window->run("addWPTMarker2(new google.maps.LatLng(46.50000, 2.50000),\"W-WFR\",1,\"W\");"
                 "addVORMarker2(new google.maps.LatLng(46.50000, 2.50000),\"V-V4FR\",1,\"V\");"
-                "addNDBMarker2(new google.maps.LatLng(46.50000, 2.50000),\"N-N5FR\",1,\"N\")");
+                "addNDBMarker2(new google.maps.LatLng(46.50000, 2.50000),\"N-N5FR\",1,\"N\");"
+                "page.chooseEdited(null)");
     window->settle();
     window->click(46.5, 2.5);
     QCOMPARE(window->popupText(), "V");
