@@ -9,7 +9,7 @@
   const nameFont = `bold 12px ${page.letterFamily}`;
 
   /** Pixels: the height of the text, from the line to the text's middle, and free line at each end of the text. */
-  const textHeight = 13;
+  const textHeight = page.discSize;
   const textOffset = 12;
   const textMargin = 5;
 
@@ -22,6 +22,8 @@
 
   /** The reach of a compass rose, pixels. */
   const roseReach = 56;
+  /** Discs that cover the start marker with its nose, pixels from its middle. */
+  const startDiscs = [[-5, -5], [5, -5], [5, 5], [-5, 5]];
 
   /** Just below the points of the plan: the chart's other labels keep away from the texts. */
   const coverHeight = 62;
@@ -56,67 +58,9 @@
     return { from: from.position, to: to.position, distance: distance, text: text, width: widthOf(text, font) };
   }
 
-  /**
-   * The middles of discs that cover a box along a direction: what stands on the map is kept apart by them.
-   * @type {(x: number, y: number, width: number, angle: number) => Spot[]}
-   */
-  function discsAlong(x, y, width, angle) {
-    const count = Math.max(1, Math.ceil(width / textHeight));
-    const discs = [];
-    for (let i = 0; i < count; ++i) {
-      const along = (i + 0.5) / count * width - width / 2;
-      discs.push({ x: x + along * Math.cos(angle), y: y + along * Math.sin(angle) });
-    }
-    return discs;
-  }
-
-  /** The middles of discs that cover a compass rose. @param {Spot} middle */
-  function discsOfRose(middle) {
-    const discs = [];
-    for (let x = -roseReach; x <= roseReach; x += textHeight) {
-      for (let y = -roseReach; y <= roseReach; y += textHeight) {
-        if (Math.hypot(x, y) <= roseReach)
-          discs.push({ x: middle.x + x, y: middle.y + y });
-      }
-    }
-    return discs;
-  }
-
   /** What keeps the room of a piece of text and is not to be seen: a circle drawn with no ink. */
   const cover = page.symbol(page.shapes.circle(0, 0, textHeight / 2 - 1), '#000', 1, '#000',
     { fillOpacity: 0, strokeOpacity: 0 });
-
-  /** Keeps discs apart, by cells as large as a disc. */
-  class Room {
-    constructor() {
-      /** @type {Map<string, Spot[]>} */
-      this.cells = new Map();
-    }
-
-    /** @param {Spot[]} discs */
-    take(discs) {
-      discs.forEach(disc => {
-        const key = `${Math.floor(disc.x / textHeight)},${Math.floor(disc.y / textHeight)}`;
-        if (!this.cells.has(key))
-          this.cells.set(key, []);
-        this.cells.get(key).push(disc);
-      });
-    }
-
-    /** Whether nothing stands where a disc would. @param {Spot} disc */
-    isFree(disc) {
-      const column = Math.floor(disc.x / textHeight);
-      const row = Math.floor(disc.y / textHeight);
-      for (let i = column - 1; i <= column + 1; ++i) {
-        for (let k = row - 1; k <= row + 1; ++k) {
-          const there = this.cells.get(`${i},${k}`) || [];
-          if (there.some(other => Math.abs(disc.x - other.x) < textHeight && Math.abs(disc.y - other.y) < textHeight))
-            return false;
-        }
-      }
-      return true;
-    }
-  }
 
   /** The part of a leg from its end to the nearest middle of its text. @type {(leg: Leg, length: number) => number} */
   const leastPart = (leg, length) => Math.min(0.5, (leg.width / 2 + textMargin) / length);
@@ -130,11 +74,11 @@
       this.colours = colours;
       /** @type {Leg[]} */
       this.legs = [];
-      /** @type {Array<{position: Place, width: number}>} */
+      /** @type {TrackPoint[]} */
       this.points = [];
       /** What a text may not cover, and what it covers only where it must. */
-      this.room = new Room();
-      this.symbols = new Room();
+      this.room = new page.Room();
+      this.symbols = new page.Room();
       /** The texts as the chart knows them. @type {?google.maps.Data} */
       this.covers = null;
       /** @type {?HTMLElement} */
@@ -147,8 +91,7 @@
 
     /** @param {TrackPoint[]} points of the track, each leg from one to the next */
     setPoints(points) {
-      this.points = points.map(point =>
-        ({ position: point.position, width: widthOf(point.name, nameFont) }));
+      this.points = points;
       this.legs = points.slice(1).map((point, i) => legOf(points[i], point)).filter(leg => leg.distance > 0);
       // Draws by itself when it comes onto the map.
       this.refresh();
@@ -223,19 +166,30 @@
       this.covers.setMap(map);
     }
 
-    /** The points of the track and their names, right of them, are there already. */
+    /** The points of the track, their texts, right of them, and the start are there already. */
     keepPointsFree() {
-      this.room = new Room();
+      this.room = new page.Room();
       this.points.forEach(point => {
         const at = this.projection.fromLatLngToDivPixel(point.position);
+        const lines = page.planText(point).split('\n');
         this.room.take([at]);
-        this.room.take(discsAlong(at.x + 8 + point.width / 2, at.y, point.width, 0));
+        lines.forEach((line, i) => {
+          const width = widthOf(line, nameFont);
+          const below = (i - (lines.length - 1) / 2) * textHeight;
+          this.room.take(page.discsAlong(at.x + 8 + width / 2, at.y + below, width, 0));
+        });
       });
+      // The aircraft moves on; the start stands.
+      const start = page.startPlace();
+      if (start) {
+        const at = this.projection.fromLatLngToDivPixel(start);
+        this.room.take(startDiscs.map(([x, y]) => ({ x: at.x + x, y: at.y + y })));
+      }
     }
 
     /** The symbols of the chart in the view; of a whole country's none. */
     spareSymbols() {
-      this.symbols = new Room();
+      this.symbols = new page.Room();
       const size = this.size();
       const reach = 2 * size.y / this.pixelsPerMile(this.laidOut.lat()) / milesPerDegree;
       if (reach > mostSpared)
@@ -244,7 +198,7 @@
         if (Math.abs(marker.position.lat() - this.laidOut.lat()) > reach || !manager.draws(marker))
           return;
         const at = this.projection.fromLatLngToDivPixel(marker.position);
-        this.symbols.take(page.hasRose(marker) ? discsOfRose(at) : [at]);
+        this.symbols.take(page.hasRose(marker) ? page.discsAround(at, roseReach) : [at]);
       }));
     }
 
@@ -340,7 +294,7 @@
           const y = spot.y + offset * Math.cos(upright);
           if (!this.fits(spot, offset, leg.width))
             continue;
-          const discs = discsAlong(x, y, leg.width, upright);
+          const discs = page.discsAlong(x, y, leg.width, upright);
           const covered = discs.filter(disc => !this.symbols.isFree(disc)).length;
           if (covered < least && discs.every(disc => this.room.isFree(disc))) {
             least = covered;

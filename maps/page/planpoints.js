@@ -80,11 +80,24 @@
     };
   }
 
+  /**
+   * The identifier, and from near the rest that stands beside other markers of the kind. A VOR has it around its rose.
+   * @param {ChartMarker} marker
+   */
+  const textOf = marker => (page.hasRow(marker) && page.hasNames(marker.symbol) && !page.hasRose(marker)
+    ? page.longText(marker) : page.identOf(marker));
+
+  /** What is written beside a point of the plan. */
+  page.planText = function (point) {
+    const drawn = drawnPoints.find(each => each.key === keyOf(point.position) && bears(each.marker, point.name));
+    return drawn ? textOf(drawn.marker) : point.name;
+  };
+
   /** @param {google.maps.Data.Feature} feature @return {google.maps.Data.StyleOptions} */
   function lookOf(feature) {
     const marker = feature.getProperty('marker');
     return page.hasRow(marker)
-      ? page.fullLook(marker, { colour: page.palette.route, zIndex: height, text: page.identOf(marker) })
+      ? page.fullLook(marker, { colour: page.palette.route, zIndex: height, text: textOf(marker) })
       : plainLook(marker.title);
   }
 
@@ -160,6 +173,7 @@
     page.procedure.dressPoints();
     page.closeLostPopup();
     page.moverMoved();
+    page.route.refreshTexts();
   };
 
   /**

@@ -26,6 +26,6 @@ function addPointToFp(position, name) {
 
 /** The points are complete: draws the route. */
 function pushFP() {
-  page.route.draw();
   page.setPlanPoints(page.route.points);
+  page.route.draw();
 }

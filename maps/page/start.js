@@ -19,6 +19,8 @@
 
   page.movers.push(() => marker);
 
+  page.startPlace = () => (marker ? marker.getPosition() : null);
+
   /** Puts the marker to a place; there is never more than one. */
   page.setStart = function (position, aircraft, heading) {
     if (!page.isPlace(position))
@@ -29,6 +31,7 @@
       marker.setTitle(title);
       marker.setIcon(iconFor(heading));
       page.moverMoved();
+      page.route.refreshTexts();
       return;
     }
     marker = new google.maps.Marker({
@@ -39,8 +42,10 @@
       draggable: true,
       zIndex: 1000,
     });
+    page.route.refreshTexts();
     google.maps.event.addListener(marker, 'dragend', () => {
       const place = marker.getPosition();
+      page.route.refreshTexts();
       page.call('doMoveSIT', place.lat(), place.lng());
     });
   };

@@ -39,14 +39,19 @@
       this.options = this.style.lines(this.colour, this.fill);
       this.lines.forEach((line, i) => line.setOptions(this.options[i]));
       this.dressPoints();
-      if (this.legs)
-        this.legs.refresh();
+      this.refreshTexts();
     }
 
     /** Draws the points anew where what stands beside them has changed. */
     dressPoints() {
       if (this.layer)
         this.layer.setStyle(feature => this.look(feature));
+    }
+
+    /** Places the texts of the legs anew where something has come in their way, or gone. */
+    refreshTexts() {
+      if (this.legs)
+        this.legs.refresh();
     }
 
     /** Whether the track writes a marker's name: the chart then leaves it out. @param {ChartMarker} marker */

@@ -202,6 +202,12 @@ interface Way {
   north: number;
 }
 
+/** Keeps discs apart. */
+interface Room {
+  take(discs: Spot[]): void;
+  isFree(disc: Spot): boolean;
+}
+
 interface LegTexts extends google.maps.OverlayView {
   setPoints(points: TrackPoint[]): void;
   refresh(): void;
@@ -213,6 +219,7 @@ interface Track {
   add(position: Place, name: string): void;
   draw(): void;
   dressPoints(): void;
+  refreshTexts(): void;
   tells(marker: ChartMarker): boolean;
 }
 
@@ -301,6 +308,7 @@ interface Page {
   setPlanPoints(points: TrackPoint[]): void;
   matchPlan(): void;
   dressPlan(): void;
+  planText(point: TrackPoint): string;
   planTells(point: TrackPoint): boolean;
   markerOfPoint(point: TrackPoint): ChartMarker | null;
   isPointOf(marker: ChartMarker, point: TrackPoint): boolean;
@@ -351,6 +359,10 @@ interface Page {
 
   courseText(degrees: number): string;
   milesText(miles: number): string;
+  discSize: number;
+  discsAlong(x: number, y: number, width: number, angle: number): Spot[];
+  discsAround(middle: Spot, reach: number): Spot[];
+  Room: new () => Room;
   LegTexts: new (colours: () => { text: string, rim: string }) => LegTexts;
   Track: new (style: TrackStyle) => Track;
   route: Track;
@@ -364,6 +376,7 @@ interface Page {
   addToAirway(position: Place): void;
   showAirways(level: string, on: boolean): void;
 
+  startPlace(): Place | null;
   setStart(position: Place, aircraft: string, heading: number): void;
   showAircraft(position: Place, title: string, heading: number): void;
   moveAircraft(position: Place, heading: number): void;

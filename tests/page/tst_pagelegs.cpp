@@ -21,6 +21,7 @@ private slots:
     void aTextOnAMeridianGoesUp_data();
     void aTextOnAMeridianGoesUp();
     void aTextSparesTheSymbolsOfTheChart();
+    void aTextStandsOffTheStart();
     void theLabelsOfTheChartSpareTheTexts();
     void aTextStandsOffARose();
     void thereAndBackHaveATextEach();
@@ -216,6 +217,27 @@ void TestPageLegs::aTextSparesTheSymbolsOfTheChart()
     window->run("VORMgr.clearMarkers()");
     draw({{46.5, 1.9}, {46.5, 3.1}});
     QVERIFY(pixels(QRect(360, 280, 80, 12), QColor(routeColour)) > 10);
+}
+
+void TestPageLegs::aTextStandsOffTheStart()
+{
+    draw({{46.5, 2.0}, {46.5, 3.0}});
+    // The line goes through the middle of the view; the two sides of it, but for what the start covers.
+    const auto above = [this] {
+        return pixels({365, 280, 23, 14}, routeColour) + pixels({412, 280, 23, 14}, routeColour);
+    };
+    const auto below = [this] { return pixels({365, 306, 23, 14}, routeColour); };
+    QVERIFY(above() > 5);
+    QCOMPARE(below(), 0);
+    window->run("addSitMarker(new google.maps.LatLng( 46.54500000,  2.50000000),\"Cessna 172\", 0);");
+    QCOMPARE(above(), 0);
+    QVERIFY(below() > 5);
+    // Somewhere else.
+    window->run("addSitMarker(new google.maps.LatLng( 47.00000000,  2.50000000),\"Cessna 172\", 0);");
+    QVERIFY(above() > 5);
+    // The aircraft moves all the time.
+    window->run("addAcftMrkr(new google.maps.LatLng(46.54500, 2.50000),\"\",0);");
+    QVERIFY(above() > 5);
 }
 
 void TestPageLegs::theLabelsOfTheChartSpareTheTexts()

@@ -16,6 +16,7 @@ private slots:
     void aPointOfThePlanIsDrawnOnce();
     void theMarkerOfThePointsNameIsTaken();
     void aPointWithAnotherNameIsNoMarkerOfThePlace();
+    void itsNameStandsBesideItFromNear();
     void anEmptiedPlanGivesTheMarkersBack();
     void aDeletedMarkerLeavesItsPointInThePlan();
 };
@@ -126,6 +127,23 @@ void TestPagePlanPoints::aPointWithAnotherNameIsNoMarkerOfThePlace()
     // Blanks around a name are not among the letters of the marker's text.
     plan(" NAME ABC ", 46.7, 2.3);
     QCOMPARE(window->run("page.plannedMarkers().length").toInt(), 1);
+}
+
+void TestPagePlanPoints::itsNameStandsBesideItFromNear()
+{
+    window->run("addAPTMarker(new google.maps.LatLng(46.50000, 2.50000),\"LFXX\",1,"
+                "\"<font color=blue><b>Airport LFXX</b><font color=black><br/>SOMEWHERE<br/>x\");pushAPT();"
+                "ArptMgr.clearMarkers();");
+    plan("LFXX", 46.5, 2.5);
+    const auto label = [this] {
+        window->settle();
+        return window->run("Array.from(map.points.declutter.kept.keys())[0].look.label.text").toString();
+    };
+    QCOMPARE(label(), "LFXX");
+    window->run("map.setZoom(11)");
+    QCOMPARE(label(), "LFXX\nSOMEWHERE");
+    window->run("map.setZoom(8)");
+    QCOMPARE(label(), "LFXX");
 }
 
 void TestPagePlanPoints::anEmptiedPlanGivesTheMarkersBack()
