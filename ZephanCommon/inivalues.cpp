@@ -1,13 +1,19 @@
 #include "inivalues.h"
 
 #include <QByteArrayList>
+#include <QMetaType>
+#include <QString>
+#include <QVector>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
-/// What stands for a letter behind a backslash; 0 where the settings' reader passes over it.
-char escapedLetter(char letter)
+constexpr int nothing = -1; ///< for an escape that the settings' reader passes over
+
+/// What stands for a letter behind a backslash.
+int escapedLetter(char letter)
 {
     switch (letter) {
     case 'a':
@@ -24,7 +30,7 @@ char escapedLetter(char letter)
     case '\\':
         return letter;
     default:
-        return 0;
+        return nothing;
     }
 }
 
@@ -45,11 +51,11 @@ char escapedNumber(const QByteArray& ini, int& at, int base)
     return value < 0x80U ? static_cast<char>(value) : ' ';
 }
 
-/// The character behind a backslash at `at`, which comes to stand behind it; 0 for none.
-char unescaped(const QByteArray& ini, int& at)
+/// The character behind a backslash at `at`, which comes to stand behind it.
+int unescaped(const QByteArray& ini, int& at)
 {
     if (at >= ini.size()) {
-        return 0;
+        return nothing;
     }
     if (ini.at(at) == 'x') {
         return escapedNumber(ini, ++at, 16);
@@ -96,19 +102,78 @@ QByteArray linesOfSection(const QByteArray& ini, const QByteArray& section)
     return kept;
 }
 
+/// A file's characters as they are read, whatever value they belong to: without quotes and escapes.
+struct PlainText
+{
+    QByteArray characters;
+    QVector<int> places; ///< where each of them begins in the file
+};
+
+PlainText plainText(const QByteArray& ini)
+{
+    PlainText plain;
+    plain.characters.reserve(ini.size());
+    plain.places.reserve(ini.size());
+    for (int at = 0; at < ini.size();) {
+        const int place = at;
+        const char letter = ini.at(at++);
+        const int character = letter == '\\' ? unescaped(ini, at) : letter;
+        if (character != nothing && letter != '"') {
+            plain.characters += static_cast<char>(character);
+            plain.places += place;
+        }
+    }
+    return plain;
+}
+
+const char packedValue[] = "@Variant(";
+const char packedTime[] = "@DateTime(";
+
+/// Whether what stands behind "@Variant(" is of a type that takes the same few bytes whatever they hold. Only such a
+/// value can be unpacked without harm: all others tell of themselves how much memory they want.
+bool isOfFixedSize(const QByteArray& packed)
+{
+    constexpr int typeSize = 4;
+    static const char fixedTypes[] = {
+        QMetaType::QDate, QMetaType::QTime,  QMetaType::QRectF,  QMetaType::QSizeF,
+        QMetaType::QLine, QMetaType::QLineF, QMetaType::QPointF,
+    };
+    return packed.size() >= typeSize && packed.startsWith(QByteArray(typeSize - 1, '\0')) &&
+           std::find(std::begin(fixedTypes), std::end(fixedTypes), packed.at(typeSize - 1)) != std::end(fixedTypes);
+}
+
+/// Whether a packed value that can do harm begins at this character.
+bool isHarmful(const QByteArray& characters, int at)
+{
+    constexpr int longestStart = 16; // the word and the type
+    const QByteArray start = characters.mid(at, longestStart);
+    return start.startsWith(packedTime) ||
+           (start.startsWith(packedValue) && !isOfFixedSize(start.mid(int(sizeof packedValue) - 1)));
+}
+
 } // namespace
 
 bool holdsPackedValues(const QByteArray& ini, const QByteArray& section)
 {
-    const QByteArray lines = linesOfSection(ini, section);
-    QByteArray plain;
-    plain.reserve(lines.size());
-    for (int at = 0; at < lines.size();) {
-        const char letter = lines.at(at++);
-        const char character = letter == '\\' ? unescaped(lines, at) : letter;
-        if (character != 0 && letter != '"') {
-            plain += character;
+    const QByteArray plain = plainText(linesOfSection(ini, section)).characters;
+    return plain.contains(packedValue) || plain.contains(packedTime);
+}
+
+QByteArray withHarmlessValues(const QByteArray& ini)
+{
+    const PlainText plain = plainText(ini);
+    QByteArray harmless;
+    int copied = 0;
+    for (int at = plain.characters.indexOf('@'); at >= 0; at = plain.characters.indexOf('@', at + 1)) {
+        if (isHarmful(plain.characters, at)) {
+            harmless += ini.mid(copied, plain.places.at(at) - copied) + '@';
+            copied = plain.places.at(at);
         }
     }
-    return plain.contains("@Variant(") || plain.contains("@DateTime(");
+    return harmless + ini.mid(copied);
+}
+
+bool isHarmlessRest(const QString& text)
+{
+    return text.startsWith(QLatin1String(packedValue)) || text.startsWith(QLatin1String(packedTime));
 }

@@ -1,6 +1,9 @@
 #include "wideini.h"
 
+#include "inivalues.h"
+
 #include <QFile>
+#include <QFileInfo>
 #include <QTextCodec>
 
 namespace {
@@ -48,19 +51,30 @@ QByteArray settingsBytes(const QByteArray& ini)
     return codec != nullptr ? escaped(codec->toUnicode(ini)) : ini;
 }
 
-ReadableIni::ReadableIni(const QString& path) : original(path)
+bool isSettingsFile(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || wideCodec(file.peek(2)) == nullptr) {
+    constexpr qint64 mostBytes = 4 * 1024 * 1024;
+    const QFileInfo file(path);
+    return file.isFile() && file.size() <= mostBytes;
+}
+
+ReadableIni::ReadableIni(const QString& path) : readable(path)
+{
+    if (!QFileInfo::exists(path)) {
         return;
     }
-    const QByteArray bytes = settingsBytes(file.readAll());
-    if (copy.open() && (copy.write(bytes) != bytes.size() || !copy.flush())) {
-        copy.remove();
+    QFile file(path);
+    const bool taken = isSettingsFile(path) && file.open(QIODevice::ReadOnly);
+    const QByteArray bytes = taken ? file.readAll() : QByteArray();
+    const QByteArray understood = withHarmlessValues(settingsBytes(bytes));
+    if (taken && understood == bytes) {
+        return;
     }
+    const bool copied = copy.open() && copy.write(understood) == understood.size() && copy.flush();
+    readable = copied ? copy.fileName() : QString();
 }
 
 QString ReadableIni::path() const
 {
-    return copy.isOpen() ? copy.fileName() : original;
+    return readable;
 }

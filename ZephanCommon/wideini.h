@@ -15,17 +15,22 @@ QTextCodec* wideCodec(const QByteArray& start);
 /// lies beyond Latin-1 is escaped. Any other file as it stands.
 QByteArray settingsBytes(const QByteArray& ini);
 
-/// A settings file as QSettings can read it, without a change to the file.
+/// Whether a file can be a settings file: no device, pipe or folder, and of at most 4 MiB. Such a file is some hundred
+/// lines; what is larger is none, and a pipe would be waited for.
+bool isSettingsFile(const QString& path);
+
+/// A settings file as QSettings can read it without harm, without a change to the file.
 class ReadableIni
 {
 public:
     explicit ReadableIni(const QString& path);
 
-    /// The file itself; of a file of two-byte characters a copy of single bytes, which is gone with this object. The
-    /// file itself also where no copy can be made.
+    /// The file itself. Of a file of two-byte characters, or with packed values of no fixed size, a copy that QSettings
+    /// understands, and of what is no settings file an empty one; it is gone with this object. Empty, which QSettings
+    /// takes for a missing file, where no copy can be made.
     QString path() const;
 
 private:
-    QString original;
+    QString readable;
     QTemporaryFile copy;
 };

@@ -2,11 +2,14 @@
 
 #include "cnavglobalvar.h"
 
+#include "inivalues.h"
 #include "wholefile.h"
 #include "wideini.h"
 
+#include <QDebug>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QSettings>
 
 namespace {
@@ -18,15 +21,44 @@ QString settingsFile()
     return QStringLiteral("trajector.ini");
 }
 
-// A file of two-byte characters is no settings file for QSettings, which would put the new keys between its bytes.
-void saveInSingleBytes()
+// Neither a file of two-byte characters, between whose bytes QSettings would put the new keys, nor one with values that
+// it cannot unpack without harm is a file that it may write to. False where such a file cannot be replaced.
+bool makeWritable()
 {
     QFile file(settingsFile());
-    if (file.open(QIODevice::ReadOnly) && wideCodec(file.peek(2)) != nullptr) {
-        const QByteArray bytes = settingsBytes(file.readAll());
-        file.close();
-        writeWholeFile(settingsFile(), bytes);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return true; // there is none yet
     }
+    const QByteArray bytes = file.readAll();
+    const QByteArray understood = withHarmlessValues(settingsBytes(bytes));
+    file.close();
+    return understood == bytes || writeWholeFile(settingsFile(), understood) == WriteEnd::Whole;
+}
+
+// QSettings waits for its lock without end, and the window has gone by then: a second program that was stopped while it
+// wrote, or a folder of that name, must not keep this one.
+bool isLockFree()
+{
+    constexpr int patience = 3000; // milliseconds
+    QLockFile lock(settingsFile() + QStringLiteral(".lock"));
+    return lock.tryLock(patience);
+}
+
+// On a full disk QSettings leaves an empty file and takes it for written; the file from before is better.
+bool canBeSaved()
+{
+    constexpr qint64 furtherKeys = 16384;
+    const QFileInfo present(settingsFile());
+    if (present.exists() && !isSettingsFile(settingsFile())) {
+        return false;
+    }
+    return hasRoomBeside(settingsFile(), present.size() + furtherKeys) && isLockFree() && makeWritable();
+}
+
+QVariant valueOf(const QSettings& settings, const char* key, const QVariant& usual)
+{
+    const QVariant value = settings.value(QLatin1String(key), usual);
+    return value.type() == QVariant::String && isHarmlessRest(value.toString()) ? usual : value;
 }
 
 struct Switch
@@ -103,24 +135,22 @@ void CNavGlobalVar::loadSettings()
     const ReadableIni ini(settingsFile());
     const QSettings settings(ini.path(), QSettings::IniFormat);
     for (const Switch& entry : switchesRead) {
-        this->*entry.field = settings.value(QLatin1String(entry.key), true).toBool();
+        this->*entry.field = valueOf(settings, entry.key, true).toBool();
     }
-    zoom = settings.value(QStringLiteral("view/zoom"), 6).toDouble();
-    mapCenter = settings.value(QStringLiteral("view/mapCenter"), QPointF(2.0, 49.0)).toPointF();
-    route = settings.value(QStringLiteral("view/route"), QStringLiteral("FR")).toString();
-    traceInterval = settings.value(QStringLiteral("trace/intervale"), 2).toInt();
+    zoom = valueOf(settings, "view/zoom", 6).toDouble();
+    mapCenter = valueOf(settings, "view/mapCenter", QPointF(2.0, 49.0)).toPointF();
+    route = valueOf(settings, "view/route", QStringLiteral("FR")).toString();
+    traceInterval = valueOf(settings, "trace/intervale", 2).toInt();
     // A missing key gives the empty path, which does not exist: the first start asks for the folder.
-    dirWork.setPath(settings.value(QStringLiteral("directory/dirWork")).toString());
+    dirWork.setPath(valueOf(settings, "directory/dirWork", QVariant()).toString());
 }
 
 void CNavGlobalVar::saveSettings()
 {
-    // On a full disk QSettings leaves an empty file and takes it for written; the file from before is better.
-    constexpr qint64 furtherKeys = 16384;
-    if (!hasRoomBeside(settingsFile(), QFileInfo(settingsFile()).size() + furtherKeys)) {
+    if (!canBeSaved()) {
+        qDebug() << "trajector.ini not saved";
         return;
     }
-    saveInSingleBytes();
     QSettings settings(settingsFile(), QSettings::IniFormat);
     for (const Switch& entry : switchesWritten) {
         settings.setValue(QLatin1String(entry.key), this->*entry.field);

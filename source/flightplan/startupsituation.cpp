@@ -116,5 +116,6 @@ bool setStartupSituation(QFile& ini, const QString& situationFile)
 bool setStartupSituation(const QString& iniPath, const QString& situationFile)
 {
     QFile file(platformPath(iniPath));
-    return file.open(QIODevice::ReadOnly | QIODevice::Text) && setStartupSituation(file, situationFile);
+    return isSettingsFile(file.fileName()) && file.open(QIODevice::ReadOnly | QIODevice::Text) &&
+           setStartupSituation(file, situationFile);
 }

@@ -19,5 +19,6 @@ QStringList startupLines(QIODevice& ini, const QString& situationFile);
 /// for the whole file.
 bool setStartupSituation(QFile& ini, const QString& situationFile);
 
-/// The same by the file's path, which may hold backslashes. False also when there is no such file.
+/// The same by the file's path, which may hold backslashes. False also when there is no such file, or
+/// when what stands there is no settings file.
 bool setStartupSituation(const QString& iniPath, const QString& situationFile);

@@ -1,11 +1,14 @@
 // The settings: what a start reads and what an end writes.
 #include "cnavglobalvar.h"
 
+#include "messagelog.h"
 #include "sandbox.h"
 
 #include <QSettings>
 #include <QTextCodec>
 #include <QtTest>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -152,6 +155,68 @@ private slots:
             QCOMPARE(file.value("directory/mine").toString(), QString::fromUtf8("ŁŁ1"));
             QVERIFY(!sandbox.readFile("Tools/Trajector/trajector.ini").contains('\0'));
         }
+    }
+
+    void aDamagedPackedValueCountsAsMissingAndStaysAText()
+    {
+        Sandbox sandbox(Sandbox::Databases::None);
+        const QByteArray list = "@Variant(\\0\\0\\0\\xb\\x7f\\xff\\xff\\xff)\n"; // two thousand million texts
+        sandbox.writeFile("Tools/Trajector/trajector.ini",
+                          "[other]\nmine=1\nlist=" + list + "[view]\nmapCenter=" + list + "route=BE\nzoom=" + list);
+        QCOMPARE(settings().mapCenter, QPointF(2.0, 49.0));
+        QCOMPARE(settings().zoom, 6.0);
+        QCOMPARE(settings().route, QString("BE"));
+        settings().mapCenter = QPointF(-4.25, 48.5);
+        leave();
+        QCOMPARE(settings().mapCenter, QPointF(-4.25, 48.5));
+        const QSettings file(sandbox.path("Tools/Trajector/trajector.ini"), QSettings::IniFormat);
+        QCOMPARE(file.value("other/mine").toString(), QString("1"));
+        QVERIFY(file.value("other/list").toString().startsWith("@Variant("));
+    }
+
+    void aFileOfMoreThanSettingsCountsAsMissingAndStays()
+    {
+        Sandbox sandbox(Sandbox::Databases::None);
+        sandbox.writeFile("Tools/Trajector/trajector.ini", "[view]\nroute=BE\n");
+        QFile file(sandbox.path("Tools/Trajector/trajector.ini"));
+        QVERIFY(file.resize(4 * 1024 * 1024 + 1));
+        QCOMPARE(settings().route, QString("FR"));
+        leave();
+        QCOMPARE(file.size(), qint64(4 * 1024 * 1024 + 1));
+        QVERIFY(file.resize(4 * 1024 * 1024));
+        QCOMPARE(settings().route, QString("BE"));
+    }
+
+    void aPipeIsNotWaitedFor()
+    {
+        Sandbox sandbox(Sandbox::Databases::None);
+        const QString path = sandbox.path("Tools/Trajector/trajector.ini");
+        sandbox.removeFile("Tools/Trajector/trajector.ini");
+        QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        QCOMPARE(settings().zoom, 6.0);
+        leave();
+        QVERIFY(QFileInfo::exists(path) && !QFileInfo(path).isFile());
+    }
+
+    void aLockThatNobodyGivesBackLeavesTheFile_data()
+    {
+        QTest::addColumn<QString>("entry");
+        QTest::newRow("a folder of its name") << "trajector.ini.lock/inside.txt";
+        QTest::newRow("a fresh one without an owner") << "trajector.ini.lock";
+    }
+
+    void aLockThatNobodyGivesBackLeavesTheFile()
+    {
+        QFETCH(QString, entry);
+        Sandbox sandbox(Sandbox::Databases::None);
+        const QByteArray before = sandbox.readFile("Tools/Trajector/trajector.ini");
+        settings().route = "BE";
+        sandbox.writeFile("Tools/Trajector/" + entry, "");
+        MessageLog log;
+        leave();
+        QCOMPARE(log.messages(), QStringList{"trajector.ini not saved"});
+        QCOMPARE(sandbox.readFile("Tools/Trajector/trajector.ini"), before);
+        QVERIFY(sandbox.hasFile("Tools/Trajector/" + entry));
     }
 
     void theSingletonIsOneObjectUntilDeleted()

@@ -8,6 +8,8 @@
 #include <QTextCodec>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 namespace {
 
 /// The base class alone, with no settings of a program.
@@ -118,6 +120,44 @@ private slots:
         Global global(sandbox);
         global.initDBPath();
         QCOMPARE(global.dirGEN.path(), sandbox.path("a"));
+    }
+
+    void aFileOfMoreThanSettingsCountsAsMissing()
+    {
+        Sandbox sandbox(Sandbox::Databases::None);
+        writeIni(sandbox, "GENDB=a\n");
+        QVERIFY(QFile::resize(sandbox.path("system/AeoZephan.ini"), 1024 * 1024 * 1024)); // of zeros, without a page
+        Global global(sandbox);
+        global.initDBPath();
+        QCOMPARE(global.dirGEN.path(), sandbox.path("../../SQL"));
+    }
+
+    void whatIsNoFileCountsAsMissing()
+    {
+        Sandbox sandbox(Sandbox::Databases::None);
+        const QString path = sandbox.path("system/AeoZephan.ini");
+        sandbox.removeFile("system/AeoZephan.ini");
+        QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        Global global(sandbox);
+        global.initDBPath(); // waits for nobody
+        QCOMPARE(global.dirGEN.path(), sandbox.path("../../SQL"));
+        QVERIFY(QFile::remove(path));
+        QVERIFY(QFile::link("/dev/zero", path));
+        global.initDBPath();
+        QCOMPARE(global.dirGEN.path(), sandbox.path("../../SQL"));
+    }
+
+    void aFileThatWantsACopyCountsAsMissingWhereNoneCanBeMade()
+    {
+        Sandbox sandbox(Sandbox::Databases::None);
+        const QByteArray place = qgetenv("TMPDIR");
+        qputenv("TMPDIR", "/proc"); // takes no file, of root neither
+        const QString text("[SQL]\nGENDB=a\n");
+        sandbox.writeFile("system/AeoZephan.ini", QTextCodec::codecForName("UTF-16")->fromUnicode(text));
+        Global global(sandbox);
+        global.initDBPath();
+        place.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", place);
+        QCOMPARE(global.dirGEN.path(), sandbox.path("../../SQL"));
     }
 
     void folderOfAKey_data()

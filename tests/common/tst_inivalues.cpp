@@ -51,6 +51,55 @@ private slots:
         QFETCH(QByteArray, ini);
         QVERIFY(!holdsPackedValues(ini, "SQL"));
     }
+
+    void whatCanDoHarmBecomesText_data()
+    {
+        QTest::addColumn<QByteArray>("ini");
+        QTest::addColumn<QByteArray>("harmless");
+        QTest::newRow("list without an end")
+            << QByteArray("[view]\nmapCenter=@Variant(\\0\\0\\0\\xb\\x7f\\xff\\xff\\xff)\n")
+            << QByteArray("[view]\nmapCenter=@@Variant(\\0\\0\\0\\xb\\x7f\\xff\\xff\\xff)\n");
+        QTest::newRow("type cut off") << QByteArray("a=@Variant(\\0\\0\\0)") << QByteArray("a=@@Variant(\\0\\0\\0)");
+        QTest::newRow("type of the user")
+            << QByteArray("a=@Variant(\\0\\0\\x4\\x1a\\x7f)") << QByteArray("a=@@Variant(\\0\\0\\x4\\x1a\\x7f)");
+        QTest::newRow("a time") << QByteArray("a=@DateTime(\\0\\0\\0\\x10)")
+                                << QByteArray("a=@@DateTime(\\0\\0\\0\\x10)");
+        QTest::newRow("two, in a list") << QByteArray("a=\"@Variant(\\0\\0\\0\\t\\x7f)\", @Variant(x)\nb=1\n")
+                                        << QByteArray("a=\"@@Variant(\\0\\0\\0\\t\\x7f)\", @@Variant(x)\nb=1\n");
+        QTest::newRow("escaped") << QByteArray("a=1\\x40Var\\iiant(\\0\\0\\0\\xb)")
+                                 << QByteArray("a=1@\\x40Var\\iiant(\\0\\0\\0\\xb)");
+    }
+
+    void whatCanDoHarmBecomesText()
+    {
+        QFETCH(QByteArray, ini);
+        QTEST(withHarmlessValues(ini), "harmless");
+    }
+
+    void whatDoesNoHarmStays_data()
+    {
+        QTest::addColumn<QByteArray>("ini");
+        QTest::newRow("nothing") << QByteArray();
+        QTest::newRow("a point") << QByteArray(
+            "[view]\nmapCenter=@Variant(\\0\\0\\0\\x1a@\\0\\0\\0\\0\\0\\0\\0@H\\x80\\0\\0\\0\\0\\0)\n");
+        QTest::newRow("a point of few bytes") << QByteArray("mapCenter=@Variant(\\0\\0\\0\\x1a@)");
+        QTest::newRow("a rectangle") << QByteArray("a=@Variant(\\0\\0\\0\\x14\\0)");
+        QTest::newRow("values that read as text") << QByteArray("a=@ByteArray(x)\nb=@@home\nc=Variant(\\0)\nd=x\\");
+    }
+
+    void whatDoesNoHarmStays()
+    {
+        QFETCH(QByteArray, ini);
+        QCOMPARE(withHarmlessValues(ini), ini);
+    }
+
+    void whatIsLeftOfAHarmfulValueIsTold()
+    {
+        QVERIFY(isHarmlessRest("@Variant(\n)"));
+        QVERIFY(isHarmlessRest("@DateTime(x)"));
+        QVERIFY(!isHarmlessRest("Variant("));
+        QVERIFY(!isHarmlessRest(""));
+    }
 };
 
 QTEST_MAIN(TestIniValues)

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QtTest>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -173,6 +174,19 @@ private slots:
             QVERIFY(!setStartupSituation(sandbox.path(iniFile), name));
             QCOMPARE(sandbox.readFile(iniFile), before);
         }
+    }
+
+    void whatIsNoSettingsFileIsLeftAlone()
+    {
+        const Sandbox sandbox(Sandbox::Databases::None);
+        sandbox.writeFile(iniFile, "startupSituation=Old.sit\n");
+        QFile file(sandbox.path(iniFile));
+        QVERIFY(file.resize(4 * 1024 * 1024 + 1));
+        QVERIFY(!setStartupSituation(file.fileName(), "A.SIT"));
+        QCOMPARE(file.size(), qint64(4 * 1024 * 1024 + 1));
+        QVERIFY(file.remove());
+        QCOMPARE(mkfifo(QFile::encodeName(file.fileName()).constData(), 0600), 0);
+        QVERIFY(!setStartupSituation(file.fileName(), "A.SIT")); // waits for nobody
     }
 
     void halfACharacterIsLeftAlone()
