@@ -13,6 +13,7 @@
 
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -144,12 +145,14 @@ QString CFlightPlan::loadFpl()
     const QString path = QFileDialog::getOpenFileName(nullptr, tr("Ouvrir un plan de vol existant"),
                                                       platformPath(folder), tr("Fichier plan de vol (*.fpl)"));
     QFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::ReadOnly)) {
+    // A pipe would be waited for, and a device need not end.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
         return {};
     }
     const PlanFile plan = readPlan(file, [this] { return newLine(); });
     // What was read ahead of a failure would pass for a shorter plan, and its next save would replace the whole one.
-    const bool complete = file.error() == QFileDevice::NoError;
+    const bool cut = plan.tooLong && !plan.lines.isEmpty();
+    const bool complete = file.error() == QFileDevice::NoError && !cut;
     file.close();
     if (!complete) {
         return {};

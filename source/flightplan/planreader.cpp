@@ -6,6 +6,7 @@
 namespace {
 
 constexpr int tagLength = 6;
+constexpr int longestLine = 1024 * 1024; // characters; the longest value of a plan is a name
 
 using TakeValue = bool (*)(CFpLine& line, const QString& value);
 
@@ -69,35 +70,69 @@ bool isIgnored(const QString& tag)
     return false;
 }
 
+/// The lines of a plan until one is none of a plan: a file without line ends is as long as it likes to be.
+class PlanLines
+{
+public:
+    explicit PlanLines(QIODevice& device) : stream(&device) {}
+
+    /// The next one, trimmed. False when no line comes, which can be ahead of the stream's end: a file that holds less
+    /// than its size tells, or fails under the reader, never comes to that end.
+    bool next(QString& line)
+    {
+        if (tooLong || !stream.readLineInto(&read, longestLine + 1)) {
+            line.clear();
+            return false;
+        }
+        tooLong = read.size() > longestLine;
+        line = read.trimmed();
+        return !tooLong;
+    }
+
+    QString next()
+    {
+        QString line;
+        next(line);
+        return line;
+    }
+
+    bool metTooLong() const
+    {
+        return tooLong;
+    }
+
+private:
+    QTextStream stream;
+    QString read;
+    bool tooLong = false;
+};
+
 } // namespace
 
 PlanFile readPlan(QIODevice& device, const std::function<CFpLinePtr()>& newLine)
 {
     PlanFile plan;
-    QTextStream stream(&device);
-    const auto nextLine = [&stream] { return stream.readLine().trimmed(); };
-    // Until no line comes, not until the stream's end: a file that holds less than its size tells, or fails under the
-    // reader, never comes to that end.
-    QString read;
-    while (stream.readLineInto(&read)) {
-        const QString line = read.trimmed();
+    PlanLines lines(device);
+    QString line;
+    while (lines.next(line)) {
         const QString tag = line.left(tagLength);
         if (tag == QLatin1String("<wpnt>")) {
             plan.lines += newLine();
-            plan.lines.last()->fpType = nextLine();
+            plan.lines.last()->fpType = lines.next();
         } else if (tag == QLatin1String("<vers>")) {
             // The tag's own line, which is no number: every loaded plan starts again at 0.
             plan.version = line.toInt();
             plan.versionSeen = true;
-            nextLine();
+            lines.next();
         } else if (const TakeValue take = fieldOf(tag)) {
-            const QString value = nextLine();
+            const QString value = lines.next();
             if (plan.lines.isEmpty() || !take(*plan.lines.last(), value)) {
                 ++plan.skipped;
             }
         } else if (isIgnored(tag)) {
-            nextLine();
+            lines.next();
         }
     }
+    plan.tooLong = lines.metTooLong();
     return plan;
 }

@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 namespace {
 
 const QString openTitle = QStringLiteral("Ouvrir un plan de vol existant");
@@ -248,6 +250,31 @@ private slots:
         QCOMPARE(on.grid.rowCount(), 2);
         QCOMPARE(on.plan.fplVersion, 3);
         QCOMPARE(on.plan.userWptCount, 0);
+    }
+
+    void aFileWithoutLineEndsIsUnreadable()
+    {
+        PlanOnSandbox on;
+        on.plan.lines = airportAndNavaid();
+        on.sandbox.writeFile("Flightplan/A.FPL", airportAndNavaidText);
+        QVERIFY(QFile::resize(on.sandbox.path("Flightplan/A.FPL"), 1024 * 1024 * 1024)); // of zeros, without a page
+        BoxResponder boxes;                                                              // the dialog alone
+        QCOMPARE(load(on, boxes, "Flightplan/A.FPL"), QString());
+        QCOMPARE(on.plan.lines.size(), 2);
+        QCOMPARE(on.plan.userWptCount, 0);
+    }
+
+    void whatIsNoFileIsUnreadable()
+    {
+        PlanOnSandbox on;
+        const QString path = on.sandbox.path("Flightplan/A.FPL");
+        QVERIFY(QFile::link("/dev/urandom", path)); // lines without end
+        BoxResponder boxes;                         // the dialogs alone
+        QCOMPARE(load(on, boxes, "Flightplan/A.FPL"), QString());
+        QVERIFY(QFile::remove(path));
+        QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        QCOMPARE(load(on, boxes, "Flightplan/A.FPL"), QString());
+        QVERIFY(on.plan.lines.isEmpty());
     }
 
     void damagedFieldsAreSkippedWithOneMessage()

@@ -242,6 +242,34 @@ private slots:
         }
     }
 
+    void aLineLongerThanAnyOfAPlanEndsTheReading_data()
+    {
+        QTest::addColumn<QByteArray>("start");
+        QTest::newRow("a tag") << QByteArray("<wpnt>\nuswp\n");
+        QTest::newRow("a point's word") << QByteArray("<wpnt>\n");
+        QTest::newRow("a value") << QByteArray("<wpnt>\nuswp\n<name>\n");
+        QTest::newRow("a value that is left") << QByteArray("<wpnt>\nuswp\n<desc>\n");
+    }
+
+    void aLineLongerThanAnyOfAPlanEndsTheReading()
+    {
+        QFETCH(QByteArray, start);
+        constexpr int longest = 1024 * 1024;
+        const PlanFile longestPlan = read(start + QByteArray(longest, 'N') + "\n<wpnt>\nuswp\n");
+        QVERIFY(!longestPlan.tooLong);
+        QCOMPARE(longestPlan.lines.size(), 2);
+        const PlanFile longer = read(start + QByteArray(longest + 1, 'N') + "\n<wpnt>\nuswp\n");
+        QVERIFY(longer.tooLong);
+        QCOMPARE(longer.lines.size(), 1); // nothing behind it is read
+    }
+
+    void aDeviceThatNeverEndsALineIsRefused()
+    {
+        QFile zeros("/dev/zero");
+        QVERIFY(zeros.open(QIODevice::ReadOnly));
+        QVERIFY(readPlan(zeros, cruisingLine).tooLong);
+    }
+
     void emptyLinesDoNotEndThePlan()
     {
         const PlanFile plan = read("\n\n<wpnt>\nuswp\n\n   \n\n<name>\n\n<iden>\nBAMES\n\n<wpnt>\nsnav\n");
