@@ -7,6 +7,8 @@
 #include <QMessageBox>
 #include <QSaveFile>
 
+#include <cerrno>
+
 namespace {
 
 bool putBytes(QFile& file, const QByteArray& bytes)
@@ -30,6 +32,25 @@ WriteEnd writeInPlace(const QString& path, const QByteArray& bytes)
     return WriteEnd::NotWhole;
 }
 
+// QSaveFile keeps no code of what has failed, only the system's words for it.
+bool isOutOfRoom(const QSaveFile& file)
+{
+#ifdef Q_OS_UNIX
+    return file.errorString() == qt_error_string(ENOSPC) || file.errorString() == qt_error_string(EDQUOT);
+#else
+    Q_UNUSED(file)
+    return false; // where a disk has no count of files that could run out
+#endif
+}
+
+/// Whether the file to the side, whose name goes on where this one ends, can have no name: the systems take 255 bytes.
+bool leavesNoNameBeside(const QString& path)
+{
+    constexpr int longest = 255;
+    constexpr int furtherBytes = 7; // a dot and six letters
+    return QFile::encodeName(QFileInfo(path).fileName()).size() + furtherBytes > longest;
+}
+
 WriteEnd replace(const QString& path, const QByteArray& bytes)
 {
     const QFileInfo present(path);
@@ -38,10 +59,15 @@ WriteEnd replace(const QString& path, const QByteArray& bytes)
     }
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly)) {
-        return writeInPlace(path, bytes);
+        const WriteEnd inPlace = writeInPlace(path, bytes);
+        return inPlace == WriteEnd::NotOpened && isOutOfRoom(file) ? WriteEnd::NotWhole : inPlace;
     }
     // Flushed by hand: what fails in the flush of `commit` itself goes unnoticed there, and an empty file takes over.
-    return file.write(bytes) == bytes.size() && file.flush() && file.commit() ? WriteEnd::Whole : WriteEnd::NotWhole;
+    if (file.write(bytes) == bytes.size() && file.flush() && file.commit()) {
+        return WriteEnd::Whole;
+    }
+    // The file to the side gets its name only when it takes the old one's place.
+    return leavesNoNameBeside(path) ? writeInPlace(path, bytes) : WriteEnd::NotWhole;
 }
 
 } // namespace

@@ -7,8 +7,8 @@
 enum class WriteEnd
 {
     Whole,     ///< the new content stands
-    NotOpened, ///< nothing can be written under this name: no such folder, a folder in its place, no right to write
-    NotWhole,  ///< there is no room for the whole content, as on a full disk; the user has been told
+    NotOpened, ///< nothing can be written under this name: no such folder, a folder in its place, no right, too long
+    NotWhole,  ///< no room for the whole content or for one more file, as on a full disk; the user has been told
 };
 
 /// Makes `bytes` the content of the file at `path`, which may hold backslashes. They are written to the side and take

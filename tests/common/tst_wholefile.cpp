@@ -176,6 +176,41 @@ private slots:
         QCOMPARE(on.names(), QStringList{"A"});
     }
 
+    void aDiskThatTakesNoFurtherFileMakesNoNewOne()
+    {
+        SKIP_WITHOUT_MOUNTS();
+        Disk on;
+        on.disk->takeNoFurtherFile();
+        BoxResponder boxes;
+        expectFull(boxes, on.path("B"));
+        QCOMPARE(writeWholeFile(on.path("B"), "few"), WriteEnd::NotWhole);
+        QVERIFY(boxes.allUsed());
+        QCOMPARE(writeWholeFile(on.path("A"), after), WriteEnd::Whole); // in its place
+        QCOMPARE(on.get("A"), after);
+        QCOMPARE(on.names(), QStringList{"A"});
+    }
+
+    void aNameThatIsTooLongIsNotTold()
+    {
+        QTemporaryDir folder;
+        BoxResponder boxes; // none comes
+        QCOMPARE(writeWholeFile(folder.filePath(QString(300, 'N')), after), WriteEnd::NotOpened);
+        QVERIFY(QDir(folder.path()).entryList(QDir::Files).isEmpty());
+    }
+
+    void theLongestNameIsWrittenAlsoOverTheOldFile()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QString(255, 'N'));
+        BoxResponder boxes; // none comes
+        for (const QByteArray& content : {before, after}) {
+            QCOMPARE(writeWholeFile(path, content), WriteEnd::Whole);
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QCOMPARE(file.readAll(), content);
+        }
+    }
+
     void aReadOnlyDiskIsNotTold()
     {
         SKIP_WITHOUT_MOUNTS();

@@ -108,6 +108,13 @@ void SmallDisk::makeRoom()
     check(QFile::remove(QDir(folder).filePath(filler)), "making room");
 }
 
+void SmallDisk::takeNoFurtherFile()
+{
+    const int entries = QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size();
+    const QByteArray files = QByteArray::number(entries + 1); // and the folder itself
+    check(mountAt(folder, "tmpfs", MS_REMOUNT, "nr_inodes=" + files), "counting the files");
+}
+
 // Of the mount and not of the disk below it: a writable file is a mount of its own on the same disk.
 
 void SmallDisk::protect()

@@ -38,6 +38,8 @@ public:
     /// Takes all room that is left, and gives it back.
     void fill();
     void makeRoom();
+    /// From here on no file can be added, however much room there is.
+    void takeNoFurtherFile();
     /// From here on nothing can be written, as on a disk that the system holds read-only; `unprotect` ends that. No
     /// file may be open for writing.
     void protect();
