@@ -6,6 +6,13 @@
   /** Steps in degrees; the finest that leaves at least `leastPixels` between two meridians is drawn. */
   const steps = [1 / 60, 1 / 30, 1 / 12, 1 / 6, 0.5, 1, 2, 5, 10, 30];
   const leastPixels = 110;
+  /**
+   * From this latitude on the projection stretches the way between parallels so far that a view may lie between two of
+   * them: there they have a finer step, a part of the other.
+   */
+  const polar = 60;
+  /** The projection ends a little farther. */
+  const lastParallel = 85;
   /** The ink is that of the names on the water; lines are drawn with so much of it. */
   const lineStrength = 0.32;
 
@@ -15,6 +22,19 @@
 
   function stepFor(scale) {
     return steps.find(step => step / 360 * scale >= leastPixels) || steps[steps.length - 1];
+  }
+
+  const isWhole = value => Math.abs(value - Math.round(value)) < 1e-6;
+
+  /**
+   * The step of the parallels about a latitude: the same wherever the view lies, for the map is painted in squares.
+   */
+  function parallelStepAt(latitude, scale) {
+    const step = stepFor(scale);
+    if (Math.abs(latitude) < polar)
+      return step;
+    const stretched = scale / Math.cos(latitude * Math.PI / 180);
+    return steps.find(each => isWhole(step / each) && each / 360 * stretched >= leastPixels) || step;
   }
 
   /** Degrees, and minutes where the step has any: 2°E, 48°30'N. */
@@ -44,13 +64,17 @@
 
   /** @return {Array<{at: number, text: string}>} pixels from the area's upper edge */
   function parallels(area, scale) {
-    const step = stepFor(scale);
-    const limit = Math.floor(85 / step);
-    const first = Math.ceil(engine.latitudeOf((area.top + area.height) / scale) / step);
-    const last = Math.min(limit, Math.floor(engine.latitudeOf(area.top / scale) / step));
+    const north = Math.min(lastParallel, engine.latitudeOf(area.top / scale));
+    const south = Math.max(-lastParallel, engine.latitudeOf((area.top + area.height) / scale));
+    const finest = parallelStepAt(Math.max(Math.abs(north), Math.abs(south)), scale);
     const lines = [];
-    for (let i = Math.max(-limit, first); i <= last; ++i)
-      lines.push({ at: half(engine.unitY(i * step), scale, area.top), text: label(i * step, 'N', 'S', step < 1) });
+    steps.filter(step => step >= finest && step <= stepFor(scale)).forEach(step => {
+      for (let i = Math.ceil(south / step); i <= Math.floor(north / step); ++i) {
+        const latitude = i * step;
+        if (parallelStepAt(latitude, scale) === step)
+          lines.push({ at: half(engine.unitY(latitude), scale, area.top), text: label(latitude, 'N', 'S', step < 1) });
+      }
+    });
     return lines;
   }
 
