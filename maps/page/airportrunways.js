@@ -1,11 +1,13 @@
-/** The runways in an airport's symbol, once the program has told them: strips in their true directions. */
+/** The runways in an airport's symbol, once the program has told them: a strip for each of their true directions. */
 (function () {
   'use strict';
   const { circle, polygon, rounded } = page.shapes;
 
   /** The middle of a runway lies at most so many degrees of latitude from its airport. */
   const farthest = 0.05;
-  /** Pixels from the symbol's middle to the farthest end of a strip, half the width of a strip, the ring's radius. */
+  /** Runways whose directions differ by so many degrees at most are one strip: more would be a blot in the small ring. */
+  const sameDirection = 10;
+  /** Pixels from the symbol's middle to the end of the longest strip, half the width of a strip, the ring's radius. */
   const reach = 6.4;
   const halfWidth = 0.35;
   const ring = 8;
@@ -32,32 +34,48 @@
     return nearest;
   }
 
-  /** @type {(lists: RunwayEnd[][]) => RunwayEnd[]} */
-  const flat = lists => lists.reduce((all, list) => all.concat(list), []);
+  /**
+   * The way from a runway's end to its other end.
+   * @type {(runway: RunwayEnd[]) => RunwayWay}
+   */
+  function wayOf([from, to]) {
+    const east = to.east - from.east;
+    const south = to.south - from.south;
+    return { east: east, south: south, length: Math.hypot(east, south) };
+  }
 
-  /** A strip as a box so narrow that the pen fills it. @type {(ends: RunwayEnd[], scale: number) => string} */
-  function strip(ends, scale) {
-    const [a, b] = ends.map(end => [end.east * scale, end.south * scale]);
-    const length = Math.hypot(b[0] - a[0], b[1] - a[1]) || 1;
-    const aside = [-(b[1] - a[1]) / length * halfWidth, (b[0] - a[0]) / length * halfWidth];
-    /** @type {(end: number[], side: number) => number[]} */
-    const corner = (end, side) => [rounded(end[0] + side * aside[0]), rounded(end[1] + side * aside[1])];
-    return polygon(corner(a, 1), corner(b, 1), corner(b, -1), corner(a, -1));
+  /** The sine of the angle between two directions does not ask from which end either runs. */
+  const leastSine = Math.sin(sameDirection * Math.PI / 180);
+  /** @type {(a: RunwayWay, b: RunwayWay) => boolean} */
+  const areParallel = (a, b) => Math.abs(a.east * b.south - a.south * b.east) <= leastSine * a.length * b.length;
+
+  /**
+   * A strip through the symbol's middle, as a box so narrow that the pen fills it.
+   * @type {(way: RunwayWay, half: number) => string}
+   */
+  function strip(way, half) {
+    const along = [way.east / way.length, way.south / way.length];
+    /** @type {(end: number, side: number) => number[]} */
+    const corner = (end, side) => [
+      rounded(end * half * along[0] - side * halfWidth * along[1]),
+      rounded(end * half * along[1] + side * halfWidth * along[0]),
+    ];
+    return polygon(corner(-1, 1), corner(1, 1), corner(1, -1), corner(-1, -1));
   }
 
   /**
-   * The runways as they lie to each other, around the symbol's middle and as large as fits.
+   * The directions of the runways, each as long as the longest of its runways, around the symbol's middle.
    * @type {(runways: RunwayEnd[][]) => string}
    */
   function pathOf(runways) {
-    const ends = flat(runways);
-    /** @param {'east' | 'south'} name */
-    const mean = name => ends.reduce((sum, end) => sum + end[name], 0) / ends.length;
-    const middle = { east: mean('east'), south: mean('south') };
-    const moved = runways.map(pair =>
-      pair.map(end => ({ east: end.east - middle.east, south: end.south - middle.south })));
-    const most = Math.max.apply(null, flat(moved).map(end => Math.hypot(end.east, end.south)));
-    return [circle(0, 0, ring)].concat(moved.map(pair => strip(pair, most > 0 ? reach / most : 0))).join(' ');
+    const ways = runways.map(wayOf).filter(way => way.length > 0).sort((a, b) => b.length - a.length);
+    /** @type {RunwayWay[]} */
+    const apart = [];
+    ways.forEach(way => {
+      if (!apart.some(other => areParallel(way, other)))
+        apart.push(way);
+    });
+    return [circle(0, 0, ring)].concat(apart.map(way => strip(way, reach * way.length / apart[0].length))).join(' ');
   }
 
   /** Notes a runway of the airport next to it; the same one told again changes nothing. */

@@ -43,6 +43,11 @@ interface RunwayEnd {
   south: number;
 }
 
+/** From one end of a runway to the other, in the same measure. */
+interface RunwayWay extends RunwayEnd {
+  length: number;
+}
+
 /** Shows and hides the markers of a list. */
 interface MarkerManager {
   addMarkers(list: ChartMarker[]): void;

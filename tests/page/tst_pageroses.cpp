@@ -9,6 +9,7 @@ class TestPageRoses : public ChartTest
 
 private slots:
     void runwaysShowInTheSymbolOfTheirAirport();
+    void runwaysOfOneDirectionAreOneStrip();
     void aRunwayFarFromAllAirportsChangesNone();
     void aVorOnAnAirportIsDrawnAroundIt();
     void aRoseStandsAroundAVorFromNear();
@@ -35,6 +36,23 @@ void TestPageRoses::runwaysShowInTheSymbolOfTheirAirport()
     QCOMPARE(pictureAround(46.4, 2.3, 10), other);
     // Told again.
     QVERIFY(!changes(runway, 46.7, 2.3));
+}
+
+void TestPageRoses::runwaysOfOneDirectionAreOneStrip()
+{
+    window->run("addAPTMarker(new google.maps.LatLng(46.70000, 2.30000),\"LFXX\",1,\"x\");pushAPT();");
+    const auto draw = [this](const char* from, const char* to) {
+        window->run(
+            QString("drawRwy(new google.maps.LatLng(%1),new google.maps.LatLng(%2));clearRunway();").arg(from, to));
+        return window->run("listApt[0].path").toString();
+    };
+    // Eastwards through the airport: the strip and the ring around it.
+    const QString single = draw("46.70000, 2.27000", "46.70000, 2.33000");
+    QCOMPARE(single.count('Z'), 2);
+    // Others beside it, one of them the other way and one a little turned.
+    draw("46.71000, 2.32000", "46.71000, 2.28000");
+    QCOMPARE(draw("46.69000, 2.28000", "46.69300, 2.32000"), single);
+    QCOMPARE(draw("46.68000, 2.30000", "46.71000, 2.31000").count('Z'), 3);
 }
 
 void TestPageRoses::aRunwayFarFromAllAirportsChangesNone()
