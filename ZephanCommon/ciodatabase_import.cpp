@@ -163,8 +163,7 @@ void CIODataBase::deleteAll(const QSqlDatabase& db, const QStringList& fields)
     QSqlQuery query(db);
     if (!key.isEmpty()) {
         const QString statement = QStringLiteral("DELETE FROM %1 WHERE %2=\"%3\"").arg(table, column, key);
-        const bool sound = isColumnName(column) && staysQuoted(key, QLatin1Char('"'));
-        report(runKeyed(query, statement, sound), query);
+        report(runDeletion(query, statement, {table, column, key}), query);
         return;
     }
     const QString question =

@@ -102,9 +102,18 @@ bool lookUp(Lookup lookup, const QString& key, bool exact, QSqlQuery& query)
     return false;
 }
 
-void removeRows(const char* statement, const QString& key, QSqlQuery& query)
+/// The column that a deletion compares with its key.
+struct KeyColumn
 {
-    if (!runFor(statement, key, query)) {
+    const char* table;
+    const char* column;
+};
+
+void removeRows(const KeyColumn& place, const QString& key, QSqlQuery& query)
+{
+    const KeyedRows rows{QLatin1String(place.table), QLatin1String(place.column), key};
+    const QString statement = QStringLiteral(R"(DELETE FROM %1 WHERE %2 = "%3")").arg(rows.table, rows.column, key);
+    if (!runDeletion(query, statement, rows)) {
         SqlMgr::showQueryError(query);
     }
 }
@@ -212,87 +221,87 @@ bool SqlMgr::getBDRY(const QString& key, bool exact, QSqlQuery& query)
 
 void SqlMgr::delAPT(const QString& key, QSqlQuery& query)
 {
-    removeRows(R"(DELETE FROM APT WHERE ukey = "%1")", key, query);
+    removeRows({"APT", "ukey"}, key, query);
 }
 
 void SqlMgr::delNAV(const QString& key, QSqlQuery& query)
 {
-    removeRows(R"(DELETE FROM NAV WHERE ukey = "%1")", key, query);
+    removeRows({"NAV", "ukey"}, key, query);
 }
 
 void SqlMgr::delWPT(const QString& key, QSqlQuery& query)
 {
-    removeRows(R"(DELETE FROM WPT WHERE ukey = "%1")", key, query);
+    removeRows({"WPT", "ukey"}, key, query);
 }
 
 void SqlMgr::delILS(const QString& key, QSqlQuery& query)
 {
-    removeRows(R"(DELETE FROM ILS WHERE iapt = "%1")", key, query);
+    removeRows({"ILS", "iapt"}, key, query);
 }
 
 void SqlMgr::delCOM(const QString& key, QSqlQuery& query)
 {
-    removeRows(R"(DELETE FROM COM WHERE capt = "%1")", key, query);
+    removeRows({"COM", "capt"}, key, query);
 }
 
 void SqlMgr::delRWY(const QString& key, QSqlQuery& query)
 {
-    removeRows(R"(DELETE FROM RWY WHERE rapt = "%1")", key, query);
+    removeRows({"RWY", "rapt"}, key, query);
 }
 
 void SqlMgr::delPave(const QString& key, QSqlQuery& query)
 {
-    removeRows(R"(DELETE FROM PAVE WHERE akey = "%1")", key, query);
+    removeRows({"PAVE", "akey"}, key, query);
 }
 
 void SqlMgr::delLight(const QString& key, QSqlQuery& query)
 {
-    removeRows(R"(DELETE FROM LIGHT WHERE akey = "%1")", key, query);
+    removeRows({"LIGHT", "akey"}, key, query);
 }
 
 void SqlMgr::delMOD(const QString& key, QSqlQuery& query)
 {
-    removeRows(R"(DELETE FROM MOD WHERE name = "%1")", key, query);
+    removeRows({"MOD", "name"}, key, query);
 }
 
 void SqlMgr::delTEXTURE(const QString& key, QSqlQuery& query)
 {
-    removeRows(R"(DELETE FROM TEXTURE WHERE xname = "%1")", key, query);
+    removeRows({"TEXTURE", "xname"}, key, query);
 }
 
 void SqlMgr::delOBJmday(const QString& key, QSqlQuery& query)
 {
-    removeRows(R"(DELETE FROM OBJ WHERE mday = "%1")", key, query);
+    removeRows({"OBJ", "mday"}, key, query);
 }
 
 void SqlMgr::delOBJscn(const QString& key, QSqlQuery& query)
 {
-    removeRows(R"(DELETE FROM OBJ WHERE scn = "%1")", key, query);
+    removeRows({"OBJ", "scn"}, key, query);
 }
 
 void SqlMgr::delFNM(const QString& key, QSqlQuery& query)
 {
-    removeRows(R"(DELETE FROM FNM WHERE scene = "%1")", key, query);
+    removeRows({"FNM", "scene"}, key, query);
 }
 
 void SqlMgr::delATSROUTE(const QString& key, QSqlQuery& query)
 {
-    removeRows(R"(DELETE FROM ATSROUTE WHERE aaid = "%1")", key, query);
+    removeRows({"ATSROUTE", "aaid"}, key, query);
 }
 
 void SqlMgr::delSIDSTARname(const QString& key, QSqlQuery& query)
 {
-    removeRows(R"(DELETE FROM SIDSTAR WHERE strm = "%1")", key, query);
+    removeRows({"SIDSTAR", "strm"}, key, query);
 }
 
 void SqlMgr::delSIDSTARapt(const QString& key, QSqlQuery& query)
 {
-    removeRows(R"(DELETE FROM SIDSTAR WHERE sapt = "%1")", key, query);
+    removeRows({"SIDSTAR", "sapt"}, key, query);
 }
 
 void SqlMgr::delBDRY(const QString& key, QSqlQuery& query)
 {
-    removeRows(R"(DELETE FROM BDRY WHERE bkey = "%1")", key, query);
+    removeRows({"BDRY", "bkey"}, key, query);
 }
 
 void SqlMgr::showQueryError(const QSqlQuery& query)

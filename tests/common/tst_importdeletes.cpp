@@ -26,6 +26,10 @@ private slots:
     void aDoubleQuoteInAKeyBreaksTheStatement();
     void aKeyThatGoesOnAsSqlIsRefused_data();
     void aKeyThatGoesOnAsSqlIsRefused();
+    void aKeyNamedLikeAnotherColumnTakesNoOtherRow();
+    void aKeyNamedLikeAColumnIsDeletedWhereOnlyItsRowGoes();
+    void aColumnBehindItsTablesNameIsAColumn();
+    void aColumnWithASqlWordForItsNameIsAColumn();
     void doubledQuotesInAKeyStandForOne();
     void aWrongColumnIsTold();
     void anAcceptedWholeTableMeetsTheStrayParenthesis();
@@ -133,6 +137,14 @@ void TestImportDeletes::aKeyThatGoesOnAsSqlIsRefused_data()
         "GEN;NAV;-;(WITH RECURSIVE c(x) AS (SELECT 1 UNION ALL SELECT x+1 FROM c) SELECT max(x) FROM c) OR "
         "ukey,A1");
     QTest::newRow("a quote left open for a column") << QByteArray(R"(GEN;NAV;-;";=1 OR 1 --)");
+    QTest::newRow("a text for a column") << QByteArray(R"(GEN;NAV;-;"NONE";NONE)");
+    QTest::newRow("a text with a blank for a column") << QByteArray(R"(GEN;NAV;-;"no ne";no ne)");
+    QTest::newRow("the day for a column")
+        << "GEN;NAV;-;current_date;" + QDateTime::currentDateTimeUtc().date().toString(Qt::ISODate).toLatin1();
+    QTest::newRow("the column's name for a key") << QByteArray("GEN;NAV;-;ukey;ukey");
+    QTest::newRow("the column's name in another case") << QByteArray("GEN;NAV;-;[ukey];UKEY");
+    QTest::newRow("the column's name behind its table's") << QByteArray("GEN;NAV;-;NAV.ukey;ukey");
+    QTest::newRow("the number of each row") << QByteArray("GEN;NAV;-;rowid;oid");
 }
 
 void TestImportDeletes::aKeyThatGoesOnAsSqlIsRefused()
@@ -144,6 +156,45 @@ void TestImportDeletes::aKeyThatGoesOnAsSqlIsRefused()
     QVERIFY(world.importToTheEnd(line.replace(',', ';') + '\n' + navaidLine("B1") + '\n'));
     QVERIFY(world.sqlErrors().value(0).startsWith("DELETE FROM NAV WHERE "));
     QCOMPARE(world.column(dbfile::gen, navKeys), QString("B1 RBT"));
+}
+
+// SQLite compares each row with the column of that name: those go that happen to agree.
+void TestImportDeletes::aKeyNamedLikeAnotherColumnTakesNoOtherRow()
+{
+    UpdateWorld world;
+    world.sandbox.addNavaid({{"ukey", "name"}, {"name", "A"}});
+    world.sandbox.addNavaid({{"ukey", "B"}, {"name", "B"}});
+    world.expectSqlError();
+    QVERIFY(world.importToTheEnd("GEN;NAV;-;ukey;name\n"));
+    QCOMPARE(world.column(dbfile::gen, navKeys), QString("B name"));
+    QCOMPARE(world.sqlErrors(), QStringList{"DELETE FROM NAV WHERE ukey=\"name\" "});
+}
+
+void TestImportDeletes::aKeyNamedLikeAColumnIsDeletedWhereOnlyItsRowGoes()
+{
+    UpdateWorld world;
+    world.sandbox.addNavaid({{"ukey", "ukey"}});
+    QVERIFY(world.importToTheEnd("GEN;NAV;-;ukey;name\nGEN;NAV;-;ukey;ukey\n"));
+    QCOMPARE(world.column(dbfile::gen, navKeys), QString());
+}
+
+void TestImportDeletes::aColumnBehindItsTablesNameIsAColumn()
+{
+    UpdateWorld world;
+    world.sandbox.addNavaid({{"ukey", "A1"}});
+    world.sandbox.addNavaid({{"ukey", "B1"}});
+    QVERIFY(world.importToTheEnd("GEN;NAV;-;NAV.ukey;A1\n"));
+    QCOMPARE(world.column(dbfile::gen, navKeys), QString("B1"));
+}
+
+void TestImportDeletes::aColumnWithASqlWordForItsNameIsAColumn()
+{
+    UpdateWorld world;
+    world.sandbox.insertRow(dbfile::m3d, "SCN", {{"key", "1"}});
+    world.sandbox.insertRow(dbfile::obj, "OBJ", {{"desc", "x"}});
+    QVERIFY(world.importToTheEnd("M3D;SCN;-;key;1\nOBJ;OBJ;-;desc;x\n"));
+    QCOMPARE(world.column(dbfile::m3d, "SELECT key FROM SCN"), QString());
+    QCOMPARE(world.column(dbfile::obj, "SELECT desc FROM OBJ"), QString());
 }
 
 void TestImportDeletes::doubledQuotesInAKeyStandForOne()

@@ -181,6 +181,72 @@ private slots:
         QTEST(statementOf(responder.seen().value(0)), "statement");
     }
 
+    void aDeletionTakesNoColumnForItsKey_data()
+    {
+        QTest::addColumn<DeletionMethod>("method");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QString>("column");
+        QTest::newRow("delAPT") << deletion(&SqlMgr::delAPT) << dbfile::gen << "APT"
+                                << "ukey";
+        QTest::newRow("delNAV") << deletion(&SqlMgr::delNAV) << dbfile::gen << "NAV"
+                                << "ukey";
+        QTest::newRow("delWPT") << deletion(&SqlMgr::delWPT) << dbfile::wpt << "WPT"
+                                << "ukey";
+        QTest::newRow("delILS") << deletion(&SqlMgr::delILS) << dbfile::gen << "ILS"
+                                << "iapt";
+        QTest::newRow("delCOM") << deletion(&SqlMgr::delCOM) << dbfile::gen << "COM"
+                                << "capt";
+        QTest::newRow("delRWY") << deletion(&SqlMgr::delRWY) << dbfile::gen << "RWY"
+                                << "rapt";
+        QTest::newRow("delPave") << deletion(&SqlMgr::delPave) << dbfile::txy << "Pave"
+                                 << "aKey";
+        QTest::newRow("delLight") << deletion(&SqlMgr::delLight) << dbfile::txy << "Light"
+                                  << "aKey";
+        QTest::newRow("delMOD") << deletion(&SqlMgr::delMOD) << dbfile::m3d << "MOD"
+                                << "name";
+        QTest::newRow("delTEXTURE") << deletion(&SqlMgr::delTEXTURE) << dbfile::m3d << "TEXTURE"
+                                    << "xname";
+        QTest::newRow("delOBJmday") << deletion(&SqlMgr::delOBJmday) << dbfile::obj << "OBJ"
+                                    << "mday";
+        QTest::newRow("delOBJscn") << deletion(&SqlMgr::delOBJscn) << dbfile::obj << "OBJ"
+                                   << "scn";
+        QTest::newRow("delFNM") << deletion(&SqlMgr::delFNM) << dbfile::obj << "FNM"
+                                << "scene";
+        QTest::newRow("delATSROUTE") << deletion(&SqlMgr::delATSROUTE) << dbfile::route << "ATSROUTE"
+                                     << "aaid";
+        QTest::newRow("delSIDSTARname") << deletion(&SqlMgr::delSIDSTARname) << dbfile::route << "SIDSTAR"
+                                        << "strm";
+        QTest::newRow("delSIDSTARapt") << deletion(&SqlMgr::delSIDSTARapt) << dbfile::route << "SIDSTAR"
+                                       << "sapt";
+        QTest::newRow("delBDRY") << deletion(&SqlMgr::delBDRY) << dbfile::route << "BDRY"
+                                 << "bkey";
+    }
+
+    void aDeletionTakesNoColumnForItsKey()
+    {
+        Sandbox sandbox;
+        QFETCH(DeletionMethod, method);
+        QFETCH(QString, file);
+        QFETCH(QString, table);
+        QFETCH(QString, column);
+        for (const char* key : {"12", "13", "14"})
+            sandbox.insertRow(file, table, {{column, key}});
+        const QString keys = QString("SELECT group_concat(%1, ' ') FROM %2").arg(column, table);
+        SqlMgr sqlMgr;
+        QSqlQuery query = queryOn(sqlMgr, sandbox, file);
+        BoxResponder responder;
+        method(sqlMgr, "13", query);
+        QCOMPARE(sandbox.sqlValue(file, keys).toString(), QString("12 14"));
+        responder.expectAnyMessage();
+        method(sqlMgr, column, query);
+        responder.expectAnyMessage();
+        method(sqlMgr, column.toUpper(), query);
+        QVERIFY(responder.allUsed());
+        QCOMPARE(statementOf(responder.seen().value(1)).section(" = ", 1), '"' + column.toUpper() + "\" ");
+        QCOMPARE(sandbox.sqlValue(file, keys).toString(), QString("12 14"));
+    }
+
     void selectAllReadsATable()
     {
         Sandbox sandbox;

@@ -37,6 +37,8 @@ private slots:
     void theBoxesAreInformationWithoutAParent();
     void aRefusedDeletionIsReportedAndTheRestIsDone_data();
     void aRefusedDeletionIsReportedAndTheRestIsDone();
+    void aKeyNamedLikeItsColumnTakesNoOtherRow_data();
+    void aKeyNamedLikeItsColumnTakesNoOtherRow();
     void withoutDatabasesTheLookUpIsReported();
 };
 
@@ -288,6 +290,32 @@ void TestNavdataDeletions::aRefusedDeletionIsReportedAndTheRestIsDone()
     QTEST(boxes->seen().value(2).title, "boxTitle");
     QCOMPARE(session->page().calls(), QStringList{"delNavaid()"});
     QCOMPARE(rows("NAV"), 1);
+}
+
+void TestNavdataDeletions::aKeyNamedLikeItsColumnTakesNoOtherRow_data()
+{
+    QTest::addColumn<bool>("navaid");
+    QTest::addColumn<QString>("statement");
+    QTest::newRow("navaid") << true << "DELETE FROM NAV WHERE ukey = \"ukey\" ";
+    QTest::newRow("waypoint") << false << "DELETE FROM WPT WHERE ukey = \"ukey\" ";
+}
+
+void TestNavdataDeletions::aKeyNamedLikeItsColumnTakesNoOtherRow()
+{
+    QFETCH(bool, navaid);
+    QFETCH(QString, statement);
+    sandbox->addNavaid({{"ukey", "ukey"}, {"iden", "EVIL"}});
+    sandbox->addWaypoint({{"ukey", "ukey"}, {"name", "EVIL"}});
+    boxes->expectMessage("", navaidDeletion, erase);
+    boxes->expectMessage("SQL Error", "One of the query failed to execute.Error detail: " + statement);
+    boxes->expectAnyMessage(); // the words of success, which the deletion has always had
+    if (navaid)
+        session->window().sDelNavFromDB("EVIL-ukey");
+    else
+        session->window().sDelWptFromDB("EVIL-ukey");
+    QVERIFY(boxes->allUsed());
+    QCOMPARE(rows("NAV"), 2);
+    QCOMPARE(rows("WPT"), 2);
 }
 
 void TestNavdataDeletions::withoutDatabasesTheLookUpIsReported()

@@ -41,14 +41,24 @@ private slots:
         QVERIFY(rows->stored().value(0).startsWith("0;%2%110;"));
     }
 
+    void aNameOfAColumnReplacesItsProcedureAlone()
+    {
+        rows->addProcedure("strm", 2, {"BAMES", "PGS"});
+        rows->addProcedure("OTHER", 1, {"PGS"});
+        storePlan(*win, *boxes, sid, "strm");
+        QCOMPARE(rows->names(), QString("OTHER strm"));
+        QCOMPARE(rows->stored().size(), 2);
+    }
+
     void aDeletionTakesANameBetweenDoubleQuotes_data()
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<bool>("isRefused");
         QTest::addColumn<QString>("left");
-        // Between double quotes the name of a column is the column.
-        QTest::newRow("a column that holds something else") << "tile" << false << "OTHER tile";
-        QTest::newRow("the column of the names") << "strm" << false << "";
+        // Between double quotes the name of a column is the column: the rows would not be those of the procedure.
+        QTest::newRow("a column that holds something else") << "tile" << true << "OTHER tile";
+        QTest::newRow("the column of the names") << "strm" << true << "OTHER strm";
+        QTest::newRow("the column of the names in capitals") << "STRM" << true << "OTHER STRM";
         QTest::newRow("a double quote") << "a\"B" << true << "OTHER a\"B";
     }
     void aDeletionTakesANameBetweenDoubleQuotes()
