@@ -41,6 +41,26 @@ void showImported(const QFile& file)
                              CIODataBase::tr("Importation terminée\n %1").arg(file.fileName()));
 }
 
+/// Whether a name out of an update file is that of a file in this folder or below it.
+bool isFileBelow(const QDir& folder, const QString& name)
+{
+    const QStringList steps = QDir::fromNativeSeparators(name).split(QLatin1Char('/'));
+    return !steps.contains(QLatin1String("..")) && QFileInfo(folder.path() + QLatin1Char('/') + name).isFile();
+}
+
+/// The connection to the database of map data that an update file names; an invalid one, after the box, when there is
+/// no such file. SQLite would make an empty database of any name, and the next start would take it for the simulator's.
+QSqlDatabase mapData(const CGlobalVar& navVar)
+{
+    const QString& name = navVar.dbOSM;
+    if (!QSqlDatabase::database(name, false).isOpen() && !isFileBelow(navVar.dirOSM, name)) {
+        SqlMgr::showNotOpened(name, navVar.dirOSM.path());
+        return QSqlDatabase();
+    }
+    navVar.sqlMgr->addDB(name, navVar.dirOSM.path());
+    return QSqlDatabase::database(name, true);
+}
+
 /// Reports a statement that has run.
 void report(bool done, const QSqlQuery& query)
 {
@@ -182,9 +202,12 @@ bool CIODataBase::importOsm(QFile& file, CGlobalVar& navVar)
 {
     navVar.dbOSM = QString::fromUtf8(readUpdateLine(file).trimmed());
     qDebug() << navVar.dbOSM << QFileInfo(file).absoluteFilePath();
-    navVar.sqlMgr->addDB(navVar.dbOSM, navVar.dirOSM.path());
-    QSqlQuery query(QSqlDatabase::database(navVar.dbOSM, true));
-    OneWait patience(QSqlDatabase::database(navVar.dbOSM, true));
+    const QSqlDatabase database = mapData(navVar);
+    if (!databaseIsInPlace(navVar.dbOSM)) {
+        return false;
+    }
+    QSqlQuery query(database);
+    OneWait patience(database);
     while (!file.atEnd()) {
         const QByteArray line = readUpdateLine(file);
         if (line.isEmpty()) {

@@ -42,10 +42,7 @@ void SqlMgr::addDB(const QString& name, const QString& path)
     lastConnection.setDatabaseName(file);
     lastConnection.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(databaseWait));
     if (!lastConnection.open()) {
-        QMessageBox::critical(nullptr, tr("Ouverture de la base de données impossible."),
-                              tr("Impossible d\"établir la connexion avec %1.").arg(boxText(name)), QMessageBox::Ok,
-                              QMessageBox::NoButton);
-        qDebug() << "Database not found" << name << path;
+        showNotOpened(name, path);
         return;
     }
     noteDatabaseFile(name, file);
@@ -54,6 +51,14 @@ void SqlMgr::addDB(const QString& name, const QString& path)
     query.exec(QStringLiteral("PRAGMA synchronous = OFF"));
     query.exec(QStringLiteral("PRAGMA journal_mode = MEMORY"));
     qDebug() << "is open" << name << path;
+}
+
+void SqlMgr::showNotOpened(const QString& name, const QString& path)
+{
+    QMessageBox::critical(nullptr, tr("Ouverture de la base de données impossible."),
+                          tr("Impossible d\"établir la connexion avec %1.").arg(boxText(name)), QMessageBox::Ok,
+                          QMessageBox::NoButton);
+    qDebug() << "Database not found" << name << path;
 }
 
 bool SqlMgr::checkDBVersion(const QDir& dir, const QString& name, int version)

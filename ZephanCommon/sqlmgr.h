@@ -21,6 +21,8 @@ public:
     /// Makes sure that a connection `name` exists on the file `name` in folder `path`. A failure shows a box; the
     /// failed connection stays registered.
     void addDB(const QString& name, const QString& path);
+    /// The box and the log line for a file that is no database to open.
+    static void showNotOpened(const QString& name, const QString& path);
     /// True when the file opens and has the schema version. Another version ends the process after a box.
     bool checkDBVersion(const QDir& dir, const QString& name, int version);
 

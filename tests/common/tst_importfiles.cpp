@@ -5,10 +5,15 @@
 #include <QFileDialog>
 #include <QtTest>
 
+#include <cstdio>
+
 namespace {
 
 const QString dialogTitle = QStringLiteral("Ouvrir un fichier d'import");
 const QString osmFile = QStringLiteral("OSM_FR.db");
+const QString notOpenTitle = QStringLiteral("Ouverture de la base de données impossible.");
+const QString movedText = QStringLiteral("Le fichier de la base OSM_FR.db a été remplacé ou effacé depuis son "
+                                         "ouverture.\nRien n'est modifié : redémarrez Zephan Trajector.");
 const QString idents = QStringLiteral("SELECT Ident FROM OSM_OBJ ORDER BY Ident");
 
 /// A database as the simulator's OpenStreetMap tool makes it, as far as an import touches it.
@@ -41,6 +46,12 @@ private slots:
     void osmWritesToTheLog();
     void osmAtTheEndOfTheFile();
     void osmWithADatabaseThatCannotBeOpened();
+    void osmMakesNoDatabase_data();
+    void osmMakesNoDatabase();
+    void osmLeadsNotOutOfItsFolder();
+    void osmTakesAFileBelowItsFolder();
+    void osmWritesNoReplacedFile();
+    void osmMakesNoDeletedFileAnew();
     void theOsmConnectionStaysForTheNextFile();
 };
 
@@ -208,6 +219,75 @@ void TestImportFiles::osmWithADatabaseThatCannotBeOpened()
                               "Impossible d\"établir la connexion avec nowhere/OSM.db.");
     QVERIFY(world.importToTheEnd("OSM\nnowhere/OSM.db\nway/1\nway/2\n"));
     QCOMPARE(world.log.startingWith("CIODataBase::importDB Error").size(), 2);
+}
+
+void TestImportFiles::osmMakesNoDatabase_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("as the simulator's databases are called") << "OBJZ.db";
+    QTest::newRow("outside the folder") << "../brandnew.txt";
+}
+
+void TestImportFiles::osmMakesNoDatabase()
+{
+    QFETCH(QString, name);
+    UpdateWorld world;
+    const QByteArray lines = "OSM\n" + name.toUtf8() + "\nway/1\n";
+    for (int i = 0; i < 2; ++i) { // the second time as the first: nothing of it stays registered
+        world.boxes.expectMessage(notOpenTitle, "Impossible d\"établir la connexion avec " + name + '.');
+        QVERIFY(world.importToTheEnd(lines));
+        QVERIFY(world.boxes.allUsed());
+    }
+    QVERIFY(!QFileInfo::exists(world.variables->dirOSM.path() + '/' + name));
+    QCOMPARE(world.log.startingWith("CIODataBase::importDB Error").size(), 2);
+    QCOMPARE(world.log.startingWith("Database not found \"" + name + '"').size(), 2);
+}
+
+void TestImportFiles::osmLeadsNotOutOfItsFolder()
+{
+    UpdateWorld world;
+    makeOsmDatabase(world, {"way/1"});
+    world.variables->dirOSM.setPath(world.sandbox.path("Flightplan"));
+    QVERIFY(QDir().mkpath(world.sandbox.path("Flightplan")));
+    world.boxes.expectMessage(notOpenTitle, "Impossible d\"établir la connexion avec ../SQL/OSM_FR.db.");
+    QVERIFY(world.importToTheEnd("OSM\n../SQL/OSM_FR.db\nway/1\n"));
+    QCOMPARE(world.column(osmFile, idents), QString("way/1"));
+}
+
+void TestImportFiles::osmTakesAFileBelowItsFolder()
+{
+    UpdateWorld world;
+    makeOsmDatabase(world, {"way/1", "way/2"});
+    world.variables->dirOSM.setPath(world.sandbox.root());
+    QVERIFY(world.importToTheEnd("OSM\nSQL/OSM_FR.db\nway/1\n"));
+    QCOMPARE(world.column(osmFile, idents), QString("way/2"));
+}
+
+void TestImportFiles::osmWritesNoReplacedFile()
+{
+    UpdateWorld world;
+    makeOsmDatabase(world, {"way/1", "way/2"});
+    const QString path = world.sandbox.path("SQL/OSM_FR.db");
+    QVERIFY(QFile::copy(path, path + ".new"));
+    QVERIFY(world.importToTheEnd("OSM\nOSM_FR.db\nway/1\n"));
+    QCOMPARE(rename(QFile::encodeName(path + ".new").constData(), QFile::encodeName(path).constData()), 0);
+    const QByteArray fresh = world.sandbox.readFile("SQL/OSM_FR.db");
+    world.boxes.expectMessage("Base de données déplacée", movedText);
+    QVERIFY(!world.import(world.write("OSM\nOSM_FR.db\nway/2\n")));
+    QVERIFY(world.boxes.allUsed());
+    QCOMPARE(world.sandbox.readFile("SQL/OSM_FR.db"), fresh);
+    QCOMPARE(world.log.startingWith("\"DELETE FROM OSM_OBJ").size(), 1);
+}
+
+void TestImportFiles::osmMakesNoDeletedFileAnew()
+{
+    UpdateWorld world;
+    makeOsmDatabase(world, {"way/1", "way/2"});
+    QVERIFY(world.importToTheEnd("OSM\nOSM_FR.db\nway/1\n"));
+    world.sandbox.removeFile("SQL/OSM_FR.db");
+    world.boxes.expectMessage("Base de données déplacée", movedText);
+    QVERIFY(!world.import(world.write("OSM\nOSM_FR.db\nway/2\n")));
+    QVERIFY(!world.sandbox.hasFile("SQL/OSM_FR.db"));
 }
 
 void TestImportFiles::theOsmConnectionStaysForTheNextFile()
