@@ -1,5 +1,6 @@
-// An update file, imported into real databases: it stops where it must and nowhere else, and every row that it wrote
-// is exported and imported again without a difference.
+// An update file, imported into real databases: it stops where it must and nowhere else, a line that deletes takes the
+// rows with its key and no others, every row that the file wrote is exported and imported again without a difference,
+// and no file appears beside the map data's.
 
 #include "answeredboxes.h"
 #include "ciodatabase.h"
@@ -12,6 +13,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
@@ -34,11 +36,22 @@ struct Simulator
         variables.dirZephan.setPath(sandbox.root());
         variables.init();
         variables.dirOSM.setPath(sandbox.path(QStringLiteral("OSM")));
-        MUST(QDir().mkpath(variables.dirOSM.path()));
+        sandbox.sql(mapDataFile, QStringLiteral("CREATE TABLE OSM_OBJ (Ident TEXT, kind INTEGER)"));
+        sandbox.insertRow(mapDataFile, QStringLiteral("OSM_OBJ"), {{QStringLiteral("Ident"), QStringLiteral("way 1")}});
+        mapData = sandbox.readFile(QStringLiteral("SQL/") + mapDataFile);
+        sandbox.removeFile(QStringLiteral("SQL/") + mapDataFile);
+        putMapData();
         QDir::setCurrent(startFolder); // the fuzzer finds its inputs from there
     }
 
+    void putMapData() const
+    {
+        sandbox.writeFile(QStringLiteral("OSM/") + mapDataFile, mapData);
+    }
+
     const QString startFolder = QDir::currentPath();
+    const QString mapDataFile = QStringLiteral("OSM.db");
+    QByteArray mapData;
     Sandbox sandbox;
     Variables variables;
 };
@@ -69,11 +82,15 @@ QByteArrayList linesOf(const QByteArray& bytes)
     return lines;
 }
 
+QByteArrayList fieldsOf(const QByteArray& line)
+{
+    return QByteArray(line.trimmed().constData()).split(';');
+}
+
 /// What becomes of a file, told from its lines alone.
 struct Fate
 {
     bool refused = false;
-    bool leavesTheFolder = false;           ///< the map data's database is named by the file, and may lie anywhere
     QVector<const UpdateStatement*> tables; ///< those that a line names
 };
 
@@ -91,10 +108,9 @@ Fate fateOf(const QByteArray& bytes)
 {
     Fate fate;
     const QByteArrayList lines = linesOf(bytes);
-    for (int i = 0; i < lines.size(); ++i) {
-        const QByteArrayList fields = QByteArray(lines.at(i).trimmed().constData()).split(';');
+    for (const QByteArray& line : lines) {
+        const QByteArrayList fields = fieldsOf(line);
         if (fields.first() == "OSM") {
-            fate.leavesTheFolder = i + 1 < lines.size() && lines.at(i + 1).contains('/');
             return fate;
         }
         const UpdateStatement* table = tableOf(fields);
@@ -160,9 +176,9 @@ private:
                 QSqlDatabase::removeDatabase(name);
             }
         }
-        for (const QString& file : variables.dirOSM.entryList(QDir::Files | QDir::Hidden)) {
-            variables.dirOSM.remove(file);
-        }
+        MUST(variables.dirOSM.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot) ==
+             QStringList(simulator().mapDataFile));
+        simulator().putMapData();
         variables.dbOSM.clear();
     }
 
@@ -181,6 +197,56 @@ QSqlQuery rowsOf(const UpdateStatement& table)
     QSqlQuery query(databaseOf(table));
     MUST(query.exec(QStringLiteral("SELECT * FROM \"%1\"").arg(table.table)));
     return query;
+}
+
+/// A line that deletes by a key.
+struct Deletion
+{
+    const UpdateStatement* table;
+    QString column;
+    QString key;
+};
+
+/// How many rows of the table stay whatever the line: those that do not have the key in the column, all of them where
+/// it has no such column.
+int rowsToKeep(const Deletion& deletion)
+{
+    const QString table = deletion.table->table;
+    QSqlQuery query(databaseOf(*deletion.table));
+    const QString behindTable = table + QLatin1Char('.') + deletion.column.section(QLatin1Char('.'), -1);
+    static const QRegularExpression name(QStringLiteral(R"(^["`\[]?[\w.]+["`\]]?$)")); // and no expression
+    if (name.match(deletion.column).hasMatch() &&
+        query.prepare(QStringLiteral("SELECT count(*) FROM %1 WHERE %2 IS NOT ?").arg(table, behindTable))) {
+        query.addBindValue(deletion.key);
+        MUST(query.exec());
+    } else {
+        MUST(query.exec(QStringLiteral("SELECT count(*) FROM ") + table));
+    }
+    MUST(query.next());
+    return query.value(0).toInt();
+}
+
+/// Takes a file line by line: of a line that deletes, rows without its key stand as they did.
+void checkDeletions(const QByteArray& bytes, const Fate& fate, TakenBack& world)
+{
+    const QByteArrayList lines = linesOf(bytes);
+    if (fate.tables.isEmpty() || !bytes.contains(";-;")) {
+        return;
+    }
+    world.startAnew();
+    for (const QByteArray& line : lines) {
+        const QByteArrayList fields = fieldsOf(line);
+        const UpdateStatement* table = tableOf(fields);
+        if (table == nullptr) {
+            return;
+        }
+        const auto text = [&fields](int number) { return QString::fromLatin1(fields.value(number)).trimmed(); };
+        const Deletion deletion{table, text(3), text(4).replace(QLatin1String("\"\""), QLatin1String("\""))};
+        const bool deletes = fields.value(2) == "-" && !deletion.key.isEmpty();
+        const int kept = deletes ? rowsToKeep(deletion) : 0;
+        importFile(QStringLiteral("line.CSV"), line);
+        MUST(!deletes || rowsToKeep(deletion) == kept);
+    }
 }
 
 /// The rows of the tables without blobs, as the lines that write them.
@@ -233,9 +299,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     startApplication();
     const QByteArray bytes = inputBytes(data, size);
     const Fate fate = fateOf(bytes);
-    if (fate.leavesTheFolder) {
-        return -1;
-    }
     TakenBack world(fate);
     answerBoxes(bytes.size() % 2 == 0);
     MUST(importFile(QStringLiteral("update.CSV"), bytes) == !fate.refused);
@@ -244,5 +307,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     MUST(toTheEnd == !fate.refused);
     checkBlobs(fate);
     checkRoundTrip(fate, world);
+    checkDeletions(bytes, fate, world);
     return 0;
 }
