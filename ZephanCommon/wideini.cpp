@@ -53,7 +53,7 @@ QByteArray settingsBytes(const QByteArray& ini)
 
 bool isSettingsFile(const QString& path)
 {
-    constexpr qint64 mostBytes = 4 * 1024 * 1024;
+    constexpr qint64 mostBytes = 4LL * 1024 * 1024;
     const QFileInfo file(path);
     return file.isFile() && file.size() <= mostBytes;
 }

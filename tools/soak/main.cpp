@@ -2,6 +2,7 @@
 // it after each of them. A seed gives the same commands each time: "--until K" goes again to a command that went wrong.
 #include "demoroot.h"
 #include "soak.h"
+#include "watchdog.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -10,6 +11,7 @@
 #include <QTemporaryDir>
 
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -71,10 +73,12 @@ int main(int argc, char* argv[])
     if (!error.isEmpty()) {
         return complain(error);
     }
+    auto dog = std::make_unique<Watchdog>("the start");
     SoakWorld world(root, options.seed);
     if (!world.load() || !world.failure().isEmpty()) {
         return complain("the map page did not load. " + world.failure());
     }
+    dog.reset();
     const bool whole = Soak(world, options).run();
     return whole ? 0 : 1;
 }

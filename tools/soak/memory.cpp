@@ -40,9 +40,6 @@ MemorySample sampleMemory(int commands, double seconds)
 
 double growthPerThousand(const QVector<MemorySample>& samples)
 {
-    if (samples.size() < 3) {
-        return 0.0;
-    }
     // The straight line with the least squares.
     double meanCommands = 0.0;
     double meanMegabytes = 0.0;

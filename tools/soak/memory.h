@@ -13,5 +13,8 @@ struct MemorySample
 /// Empties what is only kept for speed, and looks.
 MemorySample sampleMemory(int commands, double seconds);
 
-/// How the memory grows from the samples' trend, in kilobytes for a thousand commands. 0 for fewer than three samples.
+constexpr int fewestSamples = 3; ///< that make a trend
+
+/// How the memory grows from the samples' trend, in kilobytes for a thousand commands. `samples` are `fewestSamples` or
+/// more.
 double growthPerThousand(const QVector<MemorySample>& samples);

@@ -2,7 +2,6 @@
 #include "soak.h"
 
 #include "checks.h"
-#include "watchdog.h"
 
 #include <QCoreApplication>
 #include <QTimer>
@@ -11,8 +10,9 @@
 
 namespace {
 
-constexpr int pause = 5;         // milliseconds between a command and its check: the window draws and the page rests
-constexpr int sampleEvery = 100; // commands
+constexpr int pause = 5;          // milliseconds between a command and its check: the window draws and the page rests
+constexpr int sampleEvery = 100;  // commands
+constexpr int samplePause = 5000; // milliseconds after which there is a sample however few commands there were
 constexpr int keptLines = 40;
 
 void print(const QString& line)
@@ -44,8 +44,10 @@ Soak::Soak(SoakWorld& soakedWorld, const SoakOptions& soakOptions)
 bool Soak::run()
 {
     clock.start();
+    sampleClock.start();
     QTimer::singleShot(0, this, &Soak::step);
     QCoreApplication::exec();
+    dog.reset();
     const bool whole = world.failure().isEmpty();
     if (!whole) {
         if (options.quiet) {
@@ -94,7 +96,10 @@ void Soak::step()
     ++counts[command.name];
     commandClock.start();
     world.takeKeyboard();
-    const Watchdog dog(QString("command %1, %2, of seed %3").arg(number).arg(command.name).arg(options.seed));
+    // Until the next one: over the window's own work behind the command and over the checks as well.
+    dog.reset(); // its end first, or the two would bite side by side
+    dog = std::make_unique<Watchdog>(
+        QString("command %1, %2, of seed %3").arg(number).arg(command.name).arg(options.seed));
     command.run(world);
     QTimer::singleShot(pause, this, &Soak::check);
 }
@@ -104,7 +109,7 @@ void Soak::check()
     checkAll(world);
     spent[present] += static_cast<double>(commandClock.nsecsElapsed()) / 1e6;
     log(QString("%1 %2 %3 %4").arg(number, 7).arg(QLatin1String(present), -28).arg(digest(world), world.takeNotes()));
-    if (number % sampleEvery == 0) {
+    if (number % sampleEvery == 0 || sampleClock.hasExpired(samplePause)) {
         lookAtMemory();
     }
     if (!world.failure().isEmpty() || isOver()) {
@@ -134,6 +139,7 @@ void Soak::log(const QString& line)
 void Soak::lookAtMemory()
 {
     samples << sampleMemory(number, static_cast<double>(clock.elapsed()) / 1000.0);
+    sampleClock.start();
 }
 
 void Soak::printTable() const
@@ -170,6 +176,13 @@ bool Soak::judgeMemory()
         if (sample.commands > number * options.warmUp) {
             judged << sample;
         }
+    }
+    if (judged.size() < fewestSamples) {
+        print(QString("memory NOT judged: %1 samples after the first %2 %, of %3 that it takes")
+                  .arg(judged.size())
+                  .arg(options.warmUp * 100)
+                  .arg(fewestSamples));
+        return options.mostGrowth <= 0.0; // who wants it judged is not told that it holds
     }
     const double growth = growthPerThousand(judged);
     print(QString("growth after the first %1 %: %2 kB for a thousand commands")

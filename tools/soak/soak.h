@@ -3,12 +3,15 @@
 #include "command.h"
 #include "memory.h"
 #include "soakworld.h"
+#include "watchdog.h"
 
 #include <QElapsedTimer>
 #include <QMap>
 #include <QObject>
 #include <QStringList>
 #include <QVector>
+
+#include <memory>
 
 struct SoakOptions
 {
@@ -30,7 +33,8 @@ class Soak : public QObject
 public:
     Soak(SoakWorld& soakedWorld, const SoakOptions& soakOptions);
 
-    /// Runs until the time is over, the last command is through or something is wrong. False in the last case.
+    /// Runs until the time is over, the last command is through or something is wrong. False in the last case, and
+    /// where the memory was to be judged and there were too few samples.
     bool run();
 
 private slots:
@@ -55,5 +59,7 @@ private:
     QElapsedTimer commandClock;
     QStringList lastLines;
     QVector<MemorySample> samples;
+    QElapsedTimer sampleClock; ///< since the last sample
     QElapsedTimer clock;
+    std::unique_ptr<Watchdog> dog; ///< over the present command, its check and what the event loop does behind it
 };
