@@ -30,15 +30,15 @@
   /** The heights in the cells: what the base map writes and lines are given way to, but hide no label. */
   const nameLevel = 1;
   const lineLevel = 2;
-  const symbolLevel = 3;
+  const pinLevel = 3;
+  const symbolLevel = 4;
   const level = height => Math.max(symbolLevel, Math.min(highest, Math.floor(height) + symbolLevel));
   const labelLevel = highest + 1;
   /** `coverAt` from here on: a line, then a symbol or a label. */
   engine.lineCover = lineLevel;
 
-  /** How much a label would cover, by the greatest height below it: the fewer the better. */
-  const worstRank = 4;
-  const rankOf = height => Math.min(height, symbolLevel);
+  /** What a label would cover, by the greatest height below it: the lower the better. What may be dragged is the worst. */
+  const rankOf = height => (height === pinLevel ? highest : height);
 
   /** Of what may be dragged, the part of its symbol's reach that is not mostly air. */
   const pinBody = 0.65;
@@ -218,7 +218,7 @@
       const frame = this.frame;
       for (let world = frame.firstWorld; world <= frame.lastWorld; ++world)
         this.pins.forEach(pin =>
-          this.room.putSymbol((pin.x + world) * frame.scale, pin.y * frame.scale, pin.radius * pinBody, symbolLevel));
+          this.room.putSymbol((pin.x + world) * frame.scale, pin.y * frame.scale, pin.radius * pinBody, pinLevel));
     }
 
     /**
@@ -226,7 +226,7 @@
      * @param {number} zoom that of the box, in pixels of the whole world
      */
     coverAt(zoom, x, y, width, height) {
-      return this.room && zoom === this.zoom ? this.room.heightIn(x, y, width, height, symbolLevel) : 0;
+      return this.room && zoom === this.zoom ? this.room.heightIn(x, y, width, height, pinLevel) : 0;
     }
 
     putSymbols(each) {
@@ -282,7 +282,7 @@
 
     /**
      * Rather beside everything than on a name of the base map, on this rather than on a line, and on a symbol of less
-     * height rather than nowhere; if need be with the first line alone. A place is the number of a side, and with the
+     * height, the lowest that there is, rather than nowhere; if need be with the first line alone. A place is the number of a side, and with the
      * first line that of the sides more.
      */
     placePoint(point, x, y, height, former) {
@@ -296,7 +296,7 @@
       }
       const places = engine.firstLine(text) ? 2 * sides.length : sides.length;
       let best = -1;
-      let rank = worstRank;
+      let rank = Infinity;
       for (let i = 0; i < places && rank > 0; ++i) {
         const covered = this.coveredAt(point, x, y, text, i, height);
         if (covered < height && rankOf(covered) < rank) {

@@ -102,8 +102,7 @@ var WPTVfrMgr = null;
      * away to be drawn when they come, and wait here until they are.
      */
     fill() {
-      const isSeen = [chosen, edited].some(marker => !!marker && marker.badge === this.badge)
-        || this.shown.some(marker => looks.draws(marker.symbol));
+      const isSeen = this.drawsAny();
       if (isSeen) {
         for (; this.filled < this.shown.length; ++this.filled) {
           const marker = this.shown[this.filled];
@@ -111,6 +110,12 @@ var WPTVfrMgr = null;
         }
       }
       this.layer.setMap(isSeen ? map : null);
+    }
+
+    /** Whether the zoom lets any of the markers be seen. */
+    drawsAny() {
+      return [chosen, edited].some(marker => !!marker && marker.badge === this.badge)
+        || this.shown.some(marker => looks.draws(marker.symbol));
     }
 
     /** What is drawn, or told, by the markers that this layer shows. */

@@ -28,8 +28,8 @@
   /** Just below the points of the plan: the chart's other labels keep away from the texts. */
   const coverHeight = 62;
 
-  /** Degrees of latitude in the view from which on the chart's symbols are too many to be spared. */
-  const mostSpared = 12;
+  /** So many markers around the view are looked at: the texts spare the chart's symbols, airports and VORs first. */
+  const mostSpared = 3000;
 
   /** So many legs have their arrow or text at a time. */
   const mostShown = 150;
@@ -187,19 +187,23 @@
       }
     }
 
-    /** The symbols of the chart in the view; of a whole country's none. */
+    /** The symbols of the chart in the view; of too many those of the first layers. */
     spareSymbols() {
       this.symbols = new page.Room();
       const size = this.size();
       const reach = 2 * size.y / this.pixelsPerMile(this.laidOut.lat()) / milesPerDegree;
-      if (reach > mostSpared)
-        return;
-      page.layers.map(layer => layer.manager()).forEach(manager => manager.markers().forEach(marker => {
-        if (Math.abs(marker.position.lat() - this.laidOut.lat()) > reach || !manager.draws(marker))
-          return;
-        const at = this.projection.fromLatLngToDivPixel(marker.position);
-        this.symbols.take(page.hasRose(marker) ? page.discsAround(at, roseReach) : [at]);
-      }));
+      const centre = this.laidOut;
+      /** @param {ChartMarker} marker */
+      const isNear = marker => Math.abs(marker.position.lat() - centre.lat()) <= reach;
+      let left = mostSpared;
+      page.layers.map(layer => layer.manager()).filter(manager => manager.drawsAny()).forEach(manager => {
+        const near = left > 0 ? manager.markers().filter(isNear).slice(0, left) : [];
+        left -= near.length;
+        near.filter(marker => manager.draws(marker)).forEach(marker => {
+          const at = this.projection.fromLatLngToDivPixel(marker.position);
+          this.symbols.take(page.hasRose(marker) ? page.discsAround(at, roseReach) : [at]);
+        });
+      });
     }
 
     /** @param {number} latitude */

@@ -57,6 +57,7 @@ interface MarkerManager {
   /** Those that are shown, the list itself. */
   markers(): ChartMarker[];
   draws(marker: ChartMarker): boolean;
+  drawsAny(): boolean;
   dress(): void;
 }
 

@@ -8,6 +8,7 @@ class TestPageLabels : public LabelTest
     Q_OBJECT
 
 private slots:
+    void onSymbolsALabelTakesTheLowest();
     void aLabelStandsRightOfItsSymbol();
     void twoMarkersOfOnePlaceHaveLabelsOnBothSides();
     void theLabelOfMoreImportanceHasTheRoom();
@@ -30,6 +31,21 @@ namespace {
 const char airportColour[] = "#1d3f8f";
 
 } // namespace
+
+void TestPageLabels::onSymbolsALabelTakesTheLowest()
+{
+    window->run("map.setZoom(8)");
+    addAirport("LFXX", 46.5, 2.5);
+    window->run(R"(pushAPT();
+        const at = (x, y) => new google.maps.LatLng(46.5 - y / 264.5, 2.5 + x / 182);
+        [[30, 0], [25, -20], [25, 20], [0, -22], [0, 22], [-25, -20], [-25, 20]].forEach(([x, y], i) =>
+            addVORMarker(at(x, y), 'V' + i + '-V' + i + '1FR', 1, 'x'));
+        addWPTMarker(at(-30, 0), 'W-WFR', 1, 'x');
+        addNavMgr(); VORMgr.addMarkers(listVOR); addWptMgr(); WPTRteMgr.addMarkers(listWptRte);)");
+    // On the left, where the waypoint is; a VOR stands on every other side.
+    const QStringList placed = labelsInView();
+    QVERIFY2(placed.contains("LFXX 1"), qPrintable(placed.join(", ")));
+}
 
 void TestPageLabels::aLabelStandsRightOfItsSymbol()
 {

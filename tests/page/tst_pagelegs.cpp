@@ -21,6 +21,7 @@ private slots:
     void aTextOnAMeridianGoesUp_data();
     void aTextOnAMeridianGoesUp();
     void aTextSparesTheSymbolsOfTheChart();
+    void aTextSparesVorsOfAWholeCountry();
     void aTextStandsOffTheStart();
     void theLabelsOfTheChartSpareTheTexts();
     void aTextStandsOffARose();
@@ -217,6 +218,19 @@ void TestPageLegs::aTextSparesTheSymbolsOfTheChart()
     window->run("VORMgr.clearMarkers()");
     draw({{46.5, 1.9}, {46.5, 3.1}});
     QVERIFY(pixels(QRect(360, 280, 80, 12), QColor(routeColour)) > 10);
+}
+
+void TestPageLegs::aTextSparesVorsOfAWholeCountry()
+{
+    // At zoom 6; the many waypoints, too far to be drawn, stand in no way.
+    window->run("map.setZoom(6);for (let i = 0; i <= 50; ++i)"
+                "addVORMarker(new google.maps.LatLng(46.68000, i * 0.1), 'V' + i + '-K', 17, '');"
+                "for (let i = 0; i < 5000; ++i)"
+                "addWPTMarker(new google.maps.LatLng(43 + i / 1000, 2.5), 'W' + i + '-K', 1, '');"
+                "addNavMgr();VORMgr.addMarkers(listVOR);addWptMgr();WPTRteMgr.addMarkers(listWptRte);");
+    draw({{46.5, 0.0}, {46.5, 5.0}});
+    QCOMPARE(texts().size(), 1);
+    QVERIFY(pixels(QRect(360, 306, 80, 14), QColor(routeColour)) > 10);
 }
 
 void TestPageLegs::aTextStandsOffTheStart()
