@@ -20,6 +20,8 @@
   let planned = new Set();
   /** What the plan has drawn and named, each by its marker or its own object. @type {PlanPoint[]} */
   let drawnPoints = [];
+  /** The same by place: each point of a long plan asks for those where it stands. @type {Map<number, PlanPoint[]>} */
+  let drawnByPlace = new Map();
   /** Of the last plan, and still those when it is drawn again. @type {Map<string, ChartMarker>} */
   let objects = new Map();
 
@@ -29,6 +31,15 @@
 
   /** @param {TrackPoint} point */
   const pointKey = point => `${keyOf(point.position)} ${point.name}`;
+
+  /** @type {(position: Place) => PlanPoint[]} what the plan has drawn there */
+  const drawnAt = position => drawnByPlace.get(keyOf(position)) || [];
+
+  /** @param {PlanPoint} point */
+  function noteDrawn(point) {
+    drawnPoints.push(point);
+    drawnByPlace.set(point.key, (drawnByPlace.get(point.key) || []).concat(point));
+  }
 
   /** The markers at the places of the points, by place. */
   function markersByPlace() {
@@ -89,7 +100,7 @@
 
   /** What is written beside a point of the plan. */
   page.planText = function (point) {
-    const drawn = drawnPoints.find(each => each.key === keyOf(point.position) && bears(each.marker, point.name));
+    const drawn = drawnAt(point.position).find(each => bears(each.marker, point.name));
     return drawn ? textOf(drawn.marker) : point.name;
   };
 
@@ -115,8 +126,7 @@
   };
 
   /** Whether a point of another track stands in the plan under the same name, which is written there already. */
-  page.planTells = point => drawnPoints.some(({ marker, key }) => key === keyOf(point.position)
-    && page.identOf(marker) === point.name);
+  page.planTells = point => drawnAt(point.position).some(({ marker }) => page.identOf(marker) === point.name);
 
   /** Whether a marker is that of a point of a track: its place and one of its names. */
   page.isPointOf = (marker, point) => keyOf(marker.position) === keyOf(point.position) && bears(marker, point.name);
@@ -131,7 +141,7 @@
       if (Math.abs(marker.position.lat() - point.position.lat()) < 1 / decimals && keyOf(marker.position) === key)
         there.push(marker);
     }));
-    const own = drawnPoints.find(each => each.key === key && each.marker.title === point.name);
+    const own = drawnAt(point.position).find(each => each.marker.title === point.name);
     return markerFor(point, there) || (own ? own.marker : null);
   };
 
@@ -151,6 +161,7 @@
     const drawn = new Set();
     planned = new Set();
     drawnPoints = [];
+    drawnByPlace = new Map();
     if (layer)
       layer.setMap(null);
     layer = points.length ? newLayer() : null;
@@ -163,7 +174,7 @@
       drawn.add(marker);
       if (known)
         planned.add(known);
-      drawnPoints.push({ marker: marker, key: keyOf(point.position) });
+      noteDrawn({ marker: marker, key: keyOf(point.position) });
       layer.add({ geometry: point.position, properties: { marker: marker } });
     });
     if (layer)

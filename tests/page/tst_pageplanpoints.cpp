@@ -19,6 +19,7 @@ private slots:
     void itsNameStandsBesideItFromNear();
     void anEmptiedPlanGivesTheMarkersBack();
     void aDeletedMarkerLeavesItsPointInThePlan();
+    void aPointOfALongPlanAsksForItsOwnPlaceAlone();
 };
 
 void TestPagePlanPoints::runwaysShowInAnAirportOfThePlan()
@@ -169,6 +170,20 @@ void TestPagePlanPoints::aDeletedMarkerLeavesItsPointInThePlan()
     window->run("page.closePopup();delNavaid();theLast == null;");
     QCOMPARE(ink(46.7, 2.3, navaidColour), 0);
     QVERIFY(ink(46.7, 2.3, routeColour, 6) > 5);
+}
+
+void TestPagePlanPoints::aPointOfALongPlanAsksForItsOwnPlaceAlone()
+{
+    // Each point is asked for with each drawing: a look at all the others would cost the square of them.
+    window->run(
+        "clearFP();for (var i = 0; i < 300; ++i) addPointToFp(new google.maps.LatLng(46 + i / 1000, 2), 'P' + i);"
+        "pushFP()");
+    window->run(
+        "var asked = 0, place = { lat: function () { ++asked; return 46.299; }, lng: function () { return 2; } }");
+    QCOMPARE(window->run("page.planText({ position: place, name: 'P299' })").toString(), QString("P299"));
+    QVERIFY(window->run("page.planTells({ position: place, name: 'P299' })").toBool());
+    const int asked = window->run("asked").toInt();
+    QVERIFY2(asked >= 2 && asked < 10, qPrintable(QString::number(asked)));
 }
 
 QTEST_MAIN(TestPagePlanPoints)
