@@ -226,15 +226,15 @@ int rowsToKeep(const Deletion& deletion)
     return query.value(0).toInt();
 }
 
-/// Takes a file line by line: of a line that deletes, rows without its key stand as they did.
+/// Takes a file up to each line that deletes: rows without its key stand as they did.
 void checkDeletions(const QByteArray& bytes, const Fate& fate, TakenBack& world)
 {
-    const QByteArrayList lines = linesOf(bytes);
     if (fate.tables.isEmpty() || !bytes.contains(";-;")) {
         return;
     }
     world.startAnew();
-    for (const QByteArray& line : lines) {
+    QByteArray linesAhead;
+    for (const QByteArray& line : linesOf(bytes)) {
         const QByteArrayList fields = fieldsOf(line);
         const UpdateStatement* table = tableOf(fields);
         if (table == nullptr) {
@@ -242,10 +242,15 @@ void checkDeletions(const QByteArray& bytes, const Fate& fate, TakenBack& world)
         }
         const auto text = [&fields](int number) { return QString::fromLatin1(fields.value(number)).trimmed(); };
         const Deletion deletion{table, text(3), text(4).replace(QLatin1String("\"\""), QLatin1String("\""))};
-        const bool deletes = fields.value(2) == "-" && !deletion.key.isEmpty();
-        const int kept = deletes ? rowsToKeep(deletion) : 0;
-        importFile(QStringLiteral("line.CSV"), line);
-        MUST(!deletes || rowsToKeep(deletion) == kept);
+        if (fields.value(2) != "-" || deletion.key.isEmpty()) {
+            linesAhead += line + '\n';
+            continue;
+        }
+        importFile(QStringLiteral("ahead.CSV"), linesAhead);
+        linesAhead.clear();
+        const int kept = rowsToKeep(deletion);
+        importFile(QStringLiteral("deletion.CSV"), line);
+        MUST(rowsToKeep(deletion) == kept);
     }
 }
 

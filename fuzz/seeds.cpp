@@ -169,6 +169,7 @@ void writeUpdates(const QDir& updates, const QString& corpus)
     }
     seeds.write(QStringLiteral("row_and_deletions"),
                 first + "\nGEN;APT;-;ukey;X\nGEN;NAV;-;ukey;;\nWPT;WPT;-;name;\"\nGEN;NAV;?\n");
+    seeds.write(QStringLiteral("row_and_open_deletion"), "GEN;NAV;+;1;A\nGEN;NAV;-;ukey;");
     seeds.write(QStringLiteral("map_data"), first + "\nOSM;;\nOSM.db\nway 1\nway 2\n");
     seeds.write(QStringLiteral("unknown_database"), "ROUTE;SIDSTAR;-;skey;1\n");
     seeds.write(QStringLiteral("unknown_table"), "GEN;WPT;-;ukey;;\n");
