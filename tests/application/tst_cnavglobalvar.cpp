@@ -179,11 +179,11 @@ private slots:
         Sandbox sandbox(Sandbox::Databases::None);
         sandbox.writeFile("Tools/Trajector/trajector.ini", "[view]\nroute=BE\n");
         QFile file(sandbox.path("Tools/Trajector/trajector.ini"));
-        QVERIFY(file.resize(4 * 1024 * 1024 + 1));
+        QVERIFY(file.resize(4LL * 1024 * 1024 + 1));
         QCOMPARE(settings().route, QString("FR"));
         leave();
-        QCOMPARE(file.size(), qint64(4 * 1024 * 1024 + 1));
-        QVERIFY(file.resize(4 * 1024 * 1024));
+        QCOMPARE(file.size(), 4LL * 1024 * 1024 + 1);
+        QVERIFY(file.resize(4LL * 1024 * 1024));
         QCOMPARE(settings().route, QString("BE"));
     }
 

@@ -126,7 +126,7 @@ private slots:
     {
         Sandbox sandbox(Sandbox::Databases::None);
         writeIni(sandbox, "GENDB=a\n");
-        QVERIFY(QFile::resize(sandbox.path("system/AeoZephan.ini"), 1024 * 1024 * 1024)); // of zeros, without a page
+        QVERIFY(QFile::resize(sandbox.path("system/AeoZephan.ini"), 1024LL * 1024 * 1024)); // of zeros, without a page
         Global global(sandbox);
         global.initDBPath();
         QCOMPARE(global.dirGEN.path(), sandbox.path("../../SQL"));

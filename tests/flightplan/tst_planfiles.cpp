@@ -257,8 +257,8 @@ private slots:
         PlanOnSandbox on;
         on.plan.lines = airportAndNavaid();
         on.sandbox.writeFile("Flightplan/A.FPL", airportAndNavaidText);
-        QVERIFY(QFile::resize(on.sandbox.path("Flightplan/A.FPL"), 1024 * 1024 * 1024)); // of zeros, without a page
-        BoxResponder boxes;                                                              // the dialog alone
+        QVERIFY(QFile::resize(on.sandbox.path("Flightplan/A.FPL"), 1024LL * 1024 * 1024)); // of zeros, without a page
+        BoxResponder boxes;                                                                // the dialog alone
         QCOMPARE(load(on, boxes, "Flightplan/A.FPL"), QString());
         QCOMPARE(on.plan.lines.size(), 2);
         QCOMPARE(on.plan.userWptCount, 0);

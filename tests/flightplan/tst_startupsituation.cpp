@@ -181,9 +181,9 @@ private slots:
         const Sandbox sandbox(Sandbox::Databases::None);
         sandbox.writeFile(iniFile, "startupSituation=Old.sit\n");
         QFile file(sandbox.path(iniFile));
-        QVERIFY(file.resize(4 * 1024 * 1024 + 1));
+        QVERIFY(file.resize(4LL * 1024 * 1024 + 1));
         QVERIFY(!setStartupSituation(file.fileName(), "A.SIT"));
-        QCOMPARE(file.size(), qint64(4 * 1024 * 1024 + 1));
+        QCOMPARE(file.size(), 4LL * 1024 * 1024 + 1);
         QVERIFY(file.remove());
         QCOMPARE(mkfifo(QFile::encodeName(file.fileName()).constData(), 0600), 0);
         QVERIFY(!setStartupSituation(file.fileName(), "A.SIT")); // waits for nobody
