@@ -23,7 +23,11 @@ build_program() {
     "$root/scripts/setup.sh"
     (cd "$root" && cmake --preset release -DBUILD_TESTING=ON)
     (cd "$root" && cmake --build --preset release -j "$(getconf _NPROCESSORS_ONLN)" \
-        --target ZephanTrajector makedemo tour flysim)
+        --target ZephanTrajector makedemo tour flysim) || {
+        echo 'run.sh: the build has failed; what did is above. If npm could not fetch the packages of the map, look' \
+            'after the network, then call again: it goes on where it stopped.' >&2
+        return 1
+    }
 }
 
 make_demonstration() {

@@ -89,7 +89,8 @@ install_with_apt() {
     # Old package lists may still do, so a failing update is only told.
     as_root "${apt[@]}" update </dev/null >/dev/null || say 'the package lists could not be brought up to date'
     as_root "${apt[@]}" install --no-install-recommends "$@" </dev/null >/dev/null || {
-        say "these packages could not be installed; install them and call again: $*"
+        say 'these packages could not be installed; call again after this, as root or with sudo:'
+        say "apt-get install --no-install-recommends $*"
         return 1
     }
 }
