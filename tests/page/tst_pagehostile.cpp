@@ -21,7 +21,9 @@ QString quoted(const QString& text)
     return result + "\"";
 }
 
-/// A server on this machine that whatever escapes from the page would reach. Its own page allows everything.
+/// A server on this machine that whatever escapes from the page would reach. Its own page allows everything; what is
+/// asked of it from there is counted and not found, so that the engine starts no thread for a worker whose page is
+/// gone a moment later.
 class OutsideServer : public QTcpServer
 {
 public:
@@ -32,11 +34,14 @@ public:
             QTcpSocket* socket = nextPendingConnection();
             ++connections;
             connect(socket, &QTcpSocket::readyRead, this, [this, socket] {
-                leaks += QString::fromLatin1(socket->readAll()).section('\n', 0, 0).contains("/leak") ? 1 : 0;
+                const bool isLeak = socket->readAll().split('\n').constFirst().contains("/leak");
+                leaks += isLeak ? 1 : 0;
                 const QByteArray html =
                     "<html><head><meta http-equiv='Content-Security-Policy' content=\"default-src * ws: "
                     "'unsafe-inline' 'unsafe-eval'\"></head><body></body></html>";
-                socket->write("HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nConnection: close\r\nContent-Length: " +
+                const QByteArray answer = isLeak ? "404 Not Found" : "200 OK";
+                socket->write("HTTP/1.1 " + answer +
+                              "\r\nContent-Type: text/html\r\nConnection: close\r\nContent-Length: " +
                               QByteArray::number(html.size()) + "\r\n\r\n" + html);
                 socket->disconnectFromHost();
             });
