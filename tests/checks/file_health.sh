@@ -2,7 +2,7 @@
 # The health of the files under version control: LF, no blank at the end of a line, a newline at the end of the file,
 # nothing over a megabyte. Files that .gitattributes exempts with "-text" or "binary" are judged by their size alone:
 # some test data are broken on purpose. Where it says "whitespace=-blank-at-eol", a line may end in blanks. Long sources
-# are only told.
+# are only told. A test's wait for a condition names its limit: Qt's own five seconds are short on a busy machine.
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
@@ -38,6 +38,7 @@ while IFS=$'\t' read -r kinds file; do
     [ -s "$file" ] || continue
     if [ "$(wc -c <"$file")" -gt $largest_bytes ]; then complain "$file: over $largest_bytes bytes"; fi
     if [[ $kinds != *-text* ]]; then check_text "$file"; fi
+    if [[ $file == tests/*.cpp ]] && grep -qE 'QTRY_(VERIFY|COMPARE)\(' "$file"; then complain "$file: a wait without a limit of its own"; fi
     case $file in
         *.cpp) tell_long_source "$file" 400 ;;
         *.h) tell_long_source "$file" 150 ;;

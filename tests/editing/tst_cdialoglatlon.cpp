@@ -410,7 +410,7 @@ void TestCDialogLatLon::theMouseChoosesAHemisphere()
     auto* box = widgetOf<QComboBox>(*dialog, "cbNS");
     QTest::mouseClick(box, Qt::LeftButton);
     QAbstractItemView* list = box->view();
-    QTRY_VERIFY(list->isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(list->isVisible(), 20000);
     // The list ignores a release that could belong to the press that opened it.
     QTest::qWait(QApplication::doubleClickInterval() + 50);
     const QPoint south = list->visualRect(box->model()->index(1, 0)).topLeft() + QPoint(5, 5);
@@ -418,7 +418,7 @@ void TestCDialogLatLon::theMouseChoosesAHemisphere()
                      Qt::NoModifier);
     QApplication::sendEvent(list->viewport(), &move);
     QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, south);
-    QTRY_COMPARE(textOf(*dialog, "cbNS"), QString("S"));
+    QTRY_COMPARE_WITH_TIMEOUT(textOf(*dialog, "cbNS"), QString("S"), 20000);
     QCOMPARE(dialog->lat, -180000.0);
 }
 

@@ -111,7 +111,7 @@ private slots:
         OpenPage page;
         QSignalSpy finished(&page, &QWebPage::loadFinished);
         page.mainFrame()->load(QUrl::fromLocalFile("/no/such/folder/gm_trajector_fr.html"));
-        QTRY_COMPARE(finished.count(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 20000);
         QCOMPARE(finished.at(0).at(0).toBool(), false);
         QCOMPARE(page.mainFrame()->toPlainText(), QString());
     }

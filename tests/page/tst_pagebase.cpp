@@ -419,7 +419,7 @@ void TestPageBase::thePageWorksInAViewWithoutSize()
     window->run("map.setCenter(new google.maps.LatLng(46.70000, 2.30000));map.setZoom(8)");
     window->run("addAPTMarker(new google.maps.LatLng(46.70000, 2.30000),\"LFXX\",1,\"x\");pushAPT();");
     window->view->resize(800, 600);
-    QTRY_COMPARE(window->run("innerWidth").toInt(), 800);
+    QTRY_COMPARE_WITH_TIMEOUT(window->run("innerWidth").toInt(), 800, 20000);
     window->settle();
     QCOMPARE(window->run("map.getCenter().lat()").toDouble(), 46.7);
     QVERIFY(window->pixelsAround(46.7, 2.3, 8, land) < 17 * 17);

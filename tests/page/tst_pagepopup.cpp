@@ -125,7 +125,8 @@ void TestPagePopup::aPopUpNearTheEdgeComesIntoView()
     const QPoint place = window->mouse->pointOf(47.57, 2.5);
     QVERIFY(place.y() > 0 && place.y() < 60);
     window->mouse->click(place);
-    QTRY_VERIFY(window->run("document.querySelector('.leaflet-popup').getBoundingClientRect().top").toDouble() >= 0);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        window->run("document.querySelector('.leaflet-popup').getBoundingClientRect().top").toDouble() >= 0, 20000);
     QVERIFY(!program->calls("doCenter").isEmpty());
 }
 

@@ -176,10 +176,10 @@ void TestPageService::aServiceThatIsSilentIsGivenUpAfterTheWait()
     QSignalSpy finished(window->view, &QWebView::loadFinished);
     window->view->load(pageWith(service.address("/map.js"), "", 0.3));
     QTRY_VERIFY_WITH_TIMEOUT(isEngine(), 20000);
-    QTRY_VERIFY(!finished.isEmpty() && finished.last().first().toBool());
+    QTRY_VERIFY_WITH_TIMEOUT(!finished.isEmpty() && finished.last().first().toBool(), 20000);
     QCOMPARE(service.asked, QStringList{"/map.js"});
     // The feed came again with the page that has the engine, and stands in it once.
-    QTRY_COMPARE(window->run("listVOR.length").toInt(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(window->run("listVOR.length").toInt(), 1, 20000);
     QCOMPARE(window->run("map.getCenter().lat()").toDouble(), 46.5);
     QVERIFY(!window->menuAt(46.2, 2.5).isEmpty());
 }

@@ -63,7 +63,7 @@ void TestPageView::theCentreSurvivesZoomAndResize()
         window->run(QString("map.setZoom(%1)").arg(zoom));
     for (const QSize& size : {QSize(431, 307), QSize(1024, 768), QSize(800, 600)}) {
         window->view->resize(size);
-        QTRY_COMPARE(window->run("innerWidth").toInt(), size.width());
+        QTRY_COMPARE_WITH_TIMEOUT(window->run("innerWidth").toInt(), size.width(), 20000);
         window->settle();
     }
     QCOMPARE(number("map.getCenter().lat()"), 48.12345);
@@ -112,16 +112,16 @@ void TestPageView::theWheelGoesToTheNextWholeZoom()
 {
     const QPoint middle(400, 300);
     window->mouse->wheel(middle, 120);
-    QTRY_COMPARE(number("map.getZoom()"), 7.0);
+    QTRY_COMPARE_WITH_TIMEOUT(number("map.getZoom()"), 7.0, 20000);
     window->mouse->wheel(middle, -120);
-    QTRY_COMPARE(number("map.getZoom()"), 6.0);
+    QTRY_COMPARE_WITH_TIMEOUT(number("map.getZoom()"), 6.0, 20000);
     QCOMPARE(program->calls("doZoom"), (QStringList{"doZoom 7", "doZoom 6"}));
     window->run("map.setZoom(6.5)");
     window->mouse->wheel(middle, 120);
-    QTRY_COMPARE(number("map.getZoom()"), 7.0);
+    QTRY_COMPARE_WITH_TIMEOUT(number("map.getZoom()"), 7.0, 20000);
     window->run("map.setZoom(6.5)");
     window->mouse->wheel(middle, -120);
-    QTRY_COMPARE(number("map.getZoom()"), 6.0);
+    QTRY_COMPARE_WITH_TIMEOUT(number("map.getZoom()"), 6.0, 20000);
 }
 
 void TestPageView::theWheelKeepsThePlaceUnderThePointer()
@@ -129,7 +129,7 @@ void TestPageView::theWheelKeepsThePlaceUnderThePointer()
     const QPoint place = window->mouse->pointOf(48, 4);
     program->clear();
     window->mouse->wheel(place, 120);
-    QTRY_COMPARE(number("map.getZoom()"), 7.0);
+    QTRY_COMPARE_WITH_TIMEOUT(number("map.getZoom()"), 7.0, 20000);
     const QPoint now = window->mouse->pointOf(48, 4);
     QVERIFY((now - place).manhattanLength() <= 2);
     QVERIFY(!program->calls("doCenter").isEmpty());
@@ -212,12 +212,12 @@ void TestPageView::aFailingPaintStopsNothingElse()
     QCOMPARE(number("map.getCenter().lng()"), -3.0);
     QCOMPARE(number("map.getZoom()"), 7.0);
     window->view->resize(431, 307);
-    QTRY_COMPARE(window->run("innerWidth").toInt(), 431);
+    QTRY_COMPARE_WITH_TIMEOUT(window->run("innerWidth").toInt(), 431, 20000);
     window->view->resize(800, 600);
-    QTRY_COMPARE(window->run("innerWidth").toInt(), 800);
+    QTRY_COMPARE_WITH_TIMEOUT(window->run("innerWidth").toInt(), 800, 20000);
     program->clear();
     window->mouse->wheel({400, 300}, 120);
-    QTRY_COMPARE(number("map.getZoom()"), 8.0);
+    QTRY_COMPARE_WITH_TIMEOUT(number("map.getZoom()"), 8.0, 20000);
     QCOMPARE(program->calls("doZoom"), QStringList{"doZoom 8"});
     window->mouse->drag({400, 300}, {200, 300});
     QVERIFY(number("map.getCenter().lng()") > -2.9);

@@ -26,7 +26,7 @@ public:
 
     /// Runs the event loop until the window's debug text holds "Chargement terminé", in the program's language,
     /// whatever stands behind it. False after `timeout` ms.
-    bool waitUntilLoaded(int timeout = 30000);
+    bool waitUntilLoaded(int timeout = 120000);
 
     /// All calls so far, or those of one function, as `addAPTMarker` or `map.setCenter`.
     QStringList calls();
