@@ -43,7 +43,7 @@ const QVector<ManualPicture>& manualPictures()
         {"box-delete", "box-delete-question", "", "", all},
         {"box-import", "box-import", "", "", all},
         {"box-imported", "box-imported", "", "", all},
-        {"trace", "trace-followed", "map", "", middleOfMap},
+        {"trace", "plan-left", "map", "", middleOfMap},
         {"status", "map-menu", "statusBar", "", rightOfStatus},
         {"box-too-short", "box-too-short", "", "", all},
     };

@@ -20,6 +20,7 @@ namespace {
 // Of the demonstration simulator's rows.
 const Place orly{48.7295, 2.35896};
 const Place runwayHead{48.7355, 2.36068}; // of its longest runway, where a flight starts
+const Place threshold06{48.72, 2.31692};  // the other end of that runway
 const Place rambouillet{48.6539, 1.99422};
 const Place balan{46.51611, 1.03333};
 
@@ -85,6 +86,7 @@ const QVector<Tour::Step>& Tour::steps()
         {"docks-back", &Tour::closeChart},
         {"trace", &Tour::traceFlight},
         {"trace-followed", &Tour::followFlight},
+        {"plan-left", &Tour::leavePlan},
         {"trace-ended", &Tour::endTrace},
         {"trail-cleared", &Tour::clearTrail},
         {"navaid-dialog", &Tour::openNewNavaid},
@@ -184,8 +186,8 @@ void Tour::showRunways()
 
 void Tour::dragStart()
 {
-    const QPoint from = session->page().pointOf(runwayHead.latitude, runwayHead.longitude);
-    session->page().drag(from, from + QPoint(40, 40));
+    session->page().drag(session->page().pointOf(runwayHead.latitude, runwayHead.longitude),
+                         session->page().pointOf(threshold06.latitude, threshold06.longitude));
 }
 
 void Tour::turnStart()

@@ -3,6 +3,7 @@
 #include "tourhands.h"
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include <memory>
@@ -73,6 +74,7 @@ private:
 
     void traceFlight();
     void followFlight();
+    void leavePlan();
     void endTrace();
 
     void clearTrail();
@@ -101,8 +103,9 @@ private:
     /// Clicks a switch of the tool bar, which is then to be as told.
     void clickToolBar(const QString& action, bool checked);
 
-    /// Starts the simulator's stand-in on the saved plan, and returns once it publishes.
-    void startFlight();
+    /// Starts the simulator's stand-in with the options that tell its way, and returns once it publishes.
+    void startFlight(const QStringList& way);
+    void endFlight();
     /// Fills the open dialog of the new waypoint, and ends it by its OK.
     void fillWaypoint(QDialog* dialog);
     /// Fills the position dialog that the waypoint's opened, and accepts it.

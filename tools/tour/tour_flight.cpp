@@ -31,6 +31,17 @@ bool fliesSouthOf(double latitude)
     return QTest::qWaitFor([&] { return record.latS < latitude * 3600.0; }, patience);
 }
 
+/// The last published place as flysim takes it: degrees, latitude and longitude.
+QString publishedPlace()
+{
+    SharedBlock block;
+    if (!block.attach() || block.map() == nullptr) {
+        return {};
+    }
+    const auto& record = *static_cast<const volatile AeoZephanNavRecord*>(block.map());
+    return QString("%1,%2").arg(record.latS / 3600.0, 0, 'f', 6).arg(record.lonS / 3600.0, 0, 'f', 6);
+}
+
 /// The saved plan. The working directory is the program's folder, two below the simulator's root.
 QString planPath()
 {
@@ -90,11 +101,11 @@ float distanceToPlan(double latitude, double longitude)
 
 } // namespace
 
-void Tour::startFlight()
+void Tour::startFlight(const QStringList& way)
 {
     simulator = std::make_unique<QProcess>();
     simulator->start(QCoreApplication::applicationDirPath() + "/flysim",
-                     {"--plan", planPath(), "--speed", "450", "--factor", "200"});
+                     way + QStringList{"--speed", "450", "--factor", "200"});
     // It tells its status once it has published: a block that an earlier simulator left says nothing.
     require(QTest::qWaitFor([this] { return simulator->canReadLine(); }, patience),
             "flysim does not fly: " + simulator->readAllStandardError());
@@ -102,7 +113,7 @@ void Tour::startFlight()
 
 void Tour::traceFlight()
 {
-    startFlight();
+    startFlight({"--plan", planPath()});
     clickButton("pbTraceAcft");
     require(fliesSouthOf(47.6), "the aircraft does not fly");
 }
@@ -125,11 +136,25 @@ void Tour::followFlight()
     require(astray < 1.0F, QString("the aircraft is %1 NM from the plan").arg(static_cast<double>(astray)));
 }
 
+void Tour::endFlight()
+{
+    simulator->terminate();
+    require(simulator->waitForFinished(patience) && simulator->exitCode() == 0, "flysim did not end cleanly");
+    simulator.reset();
+}
+
+/// On the plan the route lies over the trail.
+void Tour::leavePlan()
+{
+    endFlight();
+    startFlight({"--start", publishedPlace(), "--heading", "235"});
+    require(fliesSouthOf(45.3), "the aircraft does not leave the plan");
+    require(session->page().evaluate("page.hasTrail()").toBool(), "the aircraft leaves no trail");
+}
+
 void Tour::endTrace()
 {
     clickButton("pbCenterAcft");
     clickButton("pbTraceAcft");
-    simulator->terminate();
-    require(simulator->waitForFinished(patience) && simulator->exitCode() == 0, "flysim did not end cleanly");
-    simulator.reset();
+    endFlight();
 }
