@@ -63,6 +63,12 @@ private slots:
         QVERIFY2(line.size() < 65 * megabyte, qPrintable(QString::number(line.size())));
     }
 
+    void aLineOf64MiBIsTooLongByOneByte()
+    {
+        QVERIFY(isWholeLine(QByteArray(67108863, 'x')));
+        QVERIFY(!isWholeLine(QByteArray(67108864, 'x')));
+    }
+
     void aFileOfOneHugeLineIsRefusedWithWhatStandsBeforeItWritten()
     {
         UpdateWorld world;
