@@ -294,6 +294,10 @@ Do you want to go on?</translation>
         <source>Le plan de vol %1 est endommagé, champs ignorés : %2</source>
         <translation>The flight plan %1 is damaged, fields ignored: %2</translation>
     </message>
+    <message>
+        <source>Le fichier %1 est trop grand pour un plan de vol : il n&apos;est pas chargé</source>
+        <translation>The file %1 is too large for a flight plan: it is not loaded</translation>
+    </message>
 </context>
 <context>
     <name>CIODataBase</name>

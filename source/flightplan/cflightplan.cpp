@@ -150,16 +150,18 @@ QString CFlightPlan::loadFpl()
         return {};
     }
     const PlanFile plan = readPlan(file, [this] { return newLine(); });
-    // What was read ahead of a failure would pass for a shorter plan, and its next save would replace the whole one.
-    const bool cut = plan.tooLong && !plan.lines.isEmpty();
-    const bool complete = file.error() == QFileDevice::NoError && !cut;
+    // What was read ahead of a failure, or of too much, would pass for a shorter plan, and its next save would replace
+    // the whole one.
+    const bool complete = file.error() == QFileDevice::NoError;
     file.close();
     if (!complete) {
         return {};
     }
-    if (plan.lines.isEmpty()) {
-        QMessageBox::warning(nullptr, tr("Chargement plan de vol"),
-                             tr("Le fichier %1 n'est pas un plan de vol : il ne contient aucun point").arg(path));
+    if (plan.lines.isEmpty() || plan.tooLong) {
+        const QString text = plan.lines.isEmpty()
+                                 ? tr("Le fichier %1 n'est pas un plan de vol : il ne contient aucun point")
+                                 : tr("Le fichier %1 est trop grand pour un plan de vol : il n'est pas chargé");
+        QMessageBox::warning(nullptr, tr("Chargement plan de vol"), text.arg(path));
         return {};
     }
     if (plan.versionSeen) {

@@ -8,6 +8,11 @@ namespace {
 constexpr int tagLength = 6;
 constexpr int longestLine = 1024 * 1024; // characters; the longest value of a plan is a name
 
+// Far above what anybody flies, and about as much as the grid and the page show in some seconds: each point costs them
+// tens of kilobytes. The characters stand for the lines that are no points.
+constexpr int mostPoints = 20000;
+constexpr int mostCharacters = 32 * 1024 * 1024;
+
 using TakeValue = bool (*)(CFpLine& line, const QString& value);
 
 template <QString CFpLine::*field>
@@ -70,7 +75,7 @@ bool isIgnored(const QString& tag)
     return false;
 }
 
-/// The lines of a plan until one is none of a plan: a file without line ends is as long as it likes to be.
+/// The lines of a plan until they are none of a plan: a file, and a line without an end, is as long as it likes to be.
 class PlanLines
 {
 public:
@@ -84,7 +89,8 @@ public:
             line.clear();
             return false;
         }
-        tooLong = read.size() > longestLine;
+        taken += read.size() + 1;
+        tooLong = read.size() > longestLine || taken > mostCharacters;
         line = read.trimmed();
         return !tooLong;
     }
@@ -104,6 +110,7 @@ public:
 private:
     QTextStream stream;
     QString read;
+    int taken = 0; ///< characters; of at most one line more than the most
     bool tooLong = false;
 };
 
@@ -117,6 +124,10 @@ PlanFile readPlan(QIODevice& device, const std::function<CFpLinePtr()>& newLine)
     while (lines.next(line)) {
         const QString tag = line.left(tagLength);
         if (tag == QLatin1String("<wpnt>")) {
+            if (plan.lines.size() == mostPoints) {
+                plan.tooLong = true;
+                return plan;
+            }
             plan.lines += newLine();
             plan.lines.last()->fpType = lines.next();
         } else if (tag == QLatin1String("<vers>")) {

@@ -252,15 +252,32 @@ private slots:
         QCOMPARE(on.plan.userWptCount, 0);
     }
 
-    void aFileWithoutLineEndsIsUnreadable()
+    void aFileTooLargeForAPlanIsTold_data()
     {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<qint64>("size");
+        QTest::newRow("a line without an end") << QByteArray(airportAndNavaidText) << qint64{1024} * 1024 * 1024;
+        QTest::newRow("too many points") << QByteArray("<wpnt>\nuswp\n").repeated(20001) << qint64{0};
+    }
+
+    void aFileTooLargeForAPlanIsTold()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(qint64, size);
         PlanOnSandbox on;
         on.plan.lines = airportAndNavaid();
-        on.sandbox.writeFile("Flightplan/A.FPL", airportAndNavaidText);
-        QVERIFY(QFile::resize(on.sandbox.path("Flightplan/A.FPL"), 1024LL * 1024 * 1024)); // of zeros, without a page
-        BoxResponder boxes;                                                                // the dialog alone
-        QCOMPARE(load(on, boxes, "Flightplan/A.FPL"), QString());
+        on.plan.fplVersion = 7;
+        const QString path = on.sandbox.path("Flightplan/A.FPL");
+        on.sandbox.writeFile("Flightplan/A.FPL", bytes);
+        QVERIFY(size == 0 || QFile::resize(path, size)); // of zeros, without a page
+        BoxResponder boxes;
+        boxes.expectFiles(openTitle, {path});
+        boxes.expectMessage(
+            loadTitle, QString("Le fichier %1 est trop grand pour un plan de vol : il n'est pas chargé").arg(path));
+        QCOMPARE(on.plan.loadFpl(), QString());
+        QVERIFY(boxes.allUsed());
         QCOMPARE(on.plan.lines.size(), 2);
+        QCOMPARE(on.plan.fplVersion, 7);
         QCOMPARE(on.plan.userWptCount, 0);
     }
 

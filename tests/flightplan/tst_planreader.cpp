@@ -263,6 +263,28 @@ private slots:
         QCOMPARE(longer.lines.size(), 1); // nothing behind it is read
     }
 
+    void moreLinesThanAnyPlanHasEndTheReading_data()
+    {
+        QTest::addColumn<QByteArray>("line");
+        QTest::addColumn<int>("most");
+        QTest::newRow("points") << QByteArray("<wpnt>\nuswp\n") << 20000;
+        QTest::newRow("names of one point") << QByteArray("<name>\n" + QByteArray(1024 * 1024 - 8, 'N') + '\n') << 31;
+        QTest::newRow("lines that are none of a plan") << QByteArray(1023, 'x') + '\n' << 32 * 1024 - 1;
+    }
+
+    void moreLinesThanAnyPlanHasEndTheReading()
+    {
+        QFETCH(QByteArray, line);
+        QFETCH(int, most);
+        const QByteArray start = line.startsWith("<wpnt>") ? "" : "<wpnt>\nuswp\n";
+        const PlanFile largest = read(start + line.repeated(most));
+        QVERIFY(!largest.tooLong);
+        QCOMPARE(largest.lines.size(), start.isEmpty() ? most : 1);
+        const PlanFile larger = read(start + line.repeated(most + 1) + "<wpnt>\nuswp\n");
+        QVERIFY(larger.tooLong);
+        QCOMPARE(larger.lines.size(), start.isEmpty() ? most : 1); // nothing behind it is read
+    }
+
     void aDeviceThatNeverEndsALineIsRefused()
     {
         QFile zeros("/dev/zero");
