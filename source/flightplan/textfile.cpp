@@ -10,7 +10,9 @@ namespace {
 bool staysInFolder(const QString& name)
 {
     const QString leading = QDir::separator() == QLatin1Char('\\') ? QStringLiteral("/\\:") : QStringLiteral("/\\");
-    return std::none_of(name.begin(), name.end(), [&leading](QChar letter) { return leading.contains(letter); });
+    // To the system a name ends at its first zero byte: it would be another one.
+    return std::none_of(name.begin(), name.end(),
+                        [&leading](QChar letter) { return letter.isNull() || leading.contains(letter); });
 }
 
 } // namespace

@@ -10,5 +10,6 @@
 WriteEnd writeTextFile(const QString& path, const QStringList& pieces);
 
 /// The same in a folder, under a name that holds identifiers of the databases. A name that would lead out of the folder
-/// (one with a slash or a backslash, on Windows a colon too) is written nowhere, as if it could not be opened.
+/// (one with a slash or a backslash, on Windows a colon too), or that no file can have (one with a zero byte), is
+/// written nowhere, as if it could not be opened.
 WriteEnd writeTextFileIn(const QString& folder, const QString& name, const QStringList& pieces);

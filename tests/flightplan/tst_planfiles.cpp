@@ -113,6 +113,21 @@ private slots:
         QVERIFY(QDir(on.sandbox.path("Flightplan/A.FPL/inside")).exists());
     }
 
+    void aNameWithAZeroByteIsNoFiles()
+    {
+        PlanOnSandbox on;
+        on.sandbox.writeFile("Flightplan/A", "another's");
+        on.plan.lines = airportAndNavaid();
+        on.plan.startLine.latS = 11.0;
+        BoxResponder boxes; // none comes: the disk is not full
+        const QString name = QString("A") + QChar(0) + ".FPL";
+        QVERIFY(!on.plan.saveFpl(name));
+        QVERIFY(!on.plan.saveSit(name));
+        QVERIFY(boxes.seen().isEmpty());
+        QCOMPARE(on.sandbox.filesIn("Flightplan"), QStringList{"A"});
+        QCOMPARE(on.sandbox.readFile("Flightplan/A"), QByteArray("another's"));
+    }
+
     void emptyPlanWritesNoFile()
     {
         PlanOnSandbox on;
