@@ -81,7 +81,8 @@ void CIODataBase::importFiles(CGlobalVar* navVar)
                                                             tr("Fichier Zephan Export (*.CSV);;Tous (*.*)"));
     for (const QString& name : names) {
         QFile file(name);
-        if (file.open(QIODevice::ReadOnly)) {
+        // A pipe would be waited for, and a device need not end.
+        if (QFileInfo(name).isFile() && file.open(QIODevice::ReadOnly)) {
             importDB(file, navVar);
         }
     }

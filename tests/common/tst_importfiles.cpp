@@ -7,6 +7,8 @@
 
 #include <cstdio>
 
+#include <sys/stat.h>
+
 namespace {
 
 const QString dialogTitle = QStringLiteral("Ouvrir un fichier d'import");
@@ -36,6 +38,7 @@ private slots:
     void severalFilesAreImportedInTheirOrder();
     void aFileAfterAStoppedOneIsStillTaken();
     void aFileThatCannotBeOpenedIsSkippedWithoutAWord();
+    void whatIsNoFileIsSkippedWithoutAWord();
     void aNameWithABackslashIsTakenAsItIs();
     void osmRemovesNamedObjects();
     void osmInTheMiddleTakesOverTheRest();
@@ -118,6 +121,21 @@ void TestImportFiles::aFileThatCannotBeOpenedIsSkippedWithoutAWord()
     world.exchange.importFiles(world.variables.get());
     QCOMPARE(world.titles(), (QStringList{dialogTitle, "Importation", "Importation"}));
     QCOMPARE(world.column(dbfile::obj, "SELECT file FROM FNM ORDER BY rowid"), QString("first last"));
+}
+
+void TestImportFiles::whatIsNoFileIsSkippedWithoutAWord()
+{
+    UpdateWorld world;
+    const QString pipe = world.sandbox.path("pipe.CSV"); // nobody writes into it
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    const QString device = world.sandbox.path("device.CSV");
+    QVERIFY(QFile::link("/dev/zero", device)); // a line without an end
+    const QString last = world.write("OBJ;FNM;+;3;last;s;3\n", "last.CSV");
+    world.boxes.expectFiles(dialogTitle, {pipe, device, last});
+    world.expectImported(last);
+    world.exchange.importFiles(world.variables.get());
+    QCOMPARE(world.titles(), (QStringList{dialogTitle, "Importation"}));
+    QCOMPARE(world.column(dbfile::obj, "SELECT file FROM FNM"), QString("last"));
 }
 
 void TestImportFiles::aNameWithABackslashIsTakenAsItIs()
