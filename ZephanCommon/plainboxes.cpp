@@ -18,6 +18,15 @@ bool isWithNames(const QObject* object)
     return qobject_cast<const QInputDialog*>(object) != nullptr;
 }
 
+/// No box is that long by itself. A name of a million letters would be laid out for many seconds.
+void shorten(QLabel& label)
+{
+    constexpr int longest = 8000;
+    if (label.text().size() > longest) {
+        label.setText(label.text().left(longest) + QLatin1String("..."));
+    }
+}
+
 } // namespace
 
 PlainBoxes::PlainBoxes(QObject* parent) : QObject(parent)
@@ -31,6 +40,7 @@ bool PlainBoxes::eventFilter(QObject* object, QEvent* event)
     if (event->type() == QEvent::Polish && isWithNames(object)) {
         for (QLabel* label : object->findChildren<QLabel*>()) {
             label->setTextFormat(Qt::PlainText);
+            shorten(*label);
         }
     }
     return false;

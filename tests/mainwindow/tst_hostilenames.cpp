@@ -60,6 +60,7 @@ private slots:
     void aLineEndInANameCostsItsBatch();
     void theStatusBarShowsMarkupAsText();
     void aBoxShowsANameAsText();
+    void aBoxShowsTheStartOfAnEndlessName();
     void anInputBoxShowsANameAsText();
     void theBoxAboutQtKeepsItsMarkup();
     void aScriptPressesWhatTheUserMayPress();
@@ -204,6 +205,19 @@ void TestHostileNames::anInputBoxShowsANameAsText()
     expectFormats(boxes, "QInputDialog", formats);
     QInputDialog::getItem(&session->window(), "Voie aérienne", picture, {"UT158", "UM729"});
     QCOMPARE(formats, QList<Qt::TextFormat>{Qt::PlainText});
+}
+
+void TestHostileNames::aBoxShowsTheStartOfAnEndlessName()
+{
+    PlanWindow world([](const Sandbox& inner) { inner.addAirport({{"ukey", "BIG"}, {"iden", QString(100000, 'I')}}); });
+    BoxResponder boxes;
+    boxes.expectAnyMessage(); // no runway
+    world.add({"BIG"});
+    world.plan().startLine.latS = 1.0;
+    boxes.expectAnyMessage(QMessageBox::Cancel);
+    world.click("btnStartPos");
+    QVERIFY(boxes.allUsed());
+    QCOMPARE(boxes.seen().value(1).text, "Voulez vous définir " + QString(8000 - 20, 'I') + "...");
 }
 
 void TestHostileNames::theBoxAboutQtKeepsItsMarkup()
