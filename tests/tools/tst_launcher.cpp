@@ -13,6 +13,8 @@
 
 #include <memory>
 
+#include <sys/stat.h>
+
 namespace {
 
 const QString boxTitle = QStringLiteral("Zephan Trajector");
@@ -62,6 +64,49 @@ private slots:
         QVERIFY(launcher::rememberSimulator(path("sim é ;,=")));
         QCOMPARE(launcher::rememberedSimulator(), path("sim é ;,="));
         QVERIFY(QFile::exists(path("config/zephan-trajector/launcher.ini")));
+    }
+
+    void aDamagedFileOfSettingsRemembersNothing_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        // Two thousand million texts: QSettings would make room for them.
+        QTest::newRow("a packed value") << QByteArray("[General]\n"
+                                                      "simulator=@Variant(\\0\\0\\0\\xb\\x7f\\xff\\xff\\xff)\n");
+        QTest::newRow("more than settings are") << "[General]\nsimulator=/sim\n" + QByteArray(4 * 1024 * 1024, '\n');
+    }
+
+    void aDamagedFileOfSettingsRemembersNothing()
+    {
+        QFETCH(QByteArray, bytes);
+        writeFile(path("config/zephan-trajector/launcher.ini"), bytes);
+        QCOMPARE(launcher::rememberedSimulator(), QString());
+    }
+
+    void whatIsNoFileOfSettingsIsNotWaitedFor()
+    {
+        const QString settings = path("config/zephan-trajector/launcher.ini");
+        QVERIFY(QDir().mkpath(QFileInfo(settings).path()));
+        QCOMPARE(mkfifo(QFile::encodeName(settings).constData(), 0600), 0);
+        QCOMPARE(launcher::rememberedSimulator(), QString());
+        QVERIFY(!launcher::rememberSimulator(path("sim")));
+    }
+
+    void aLockThatIsNotGivenBackIsNotWaitedFor()
+    {
+        QVERIFY(launcher::rememberSimulator(path("sim")));
+        writeFile(path("config/zephan-trajector/launcher.ini.lock/inside.txt"), "x");
+        QVERIFY(!launcher::rememberSimulator(path("other")));
+        QCOMPARE(launcher::rememberedSimulator(), path("sim"));
+    }
+
+    void aFullDiskKeepsTheFolderRemembered()
+    {
+        SKIP_WITHOUT_MOUNTS();
+        QVERIFY(launcher::rememberSimulator(path("sim")));
+        SmallDisk disk(path("config/zephan-trajector"), 65536);
+        disk.fill();
+        QVERIFY(!launcher::rememberSimulator(path("other")));
+        QCOMPARE(launcher::rememberedSimulator(), path("sim"));
     }
 
     void aRememberedFolderIsNotAskedFor()
@@ -237,13 +282,21 @@ private slots:
                  qPrintable(told));
     }
 
+    void aFullDiskKeepsTheOldFile_data()
+    {
+        QTest::addColumn<int>("size");
+        QTest::newRow("a large file") << 20000;
+        QTest::newRow("a small file") << 2000; // kept in memory until the end
+    }
+
     void aFullDiskKeepsTheOldFile()
     {
         SKIP_WITHOUT_MOUNTS();
+        QFETCH(int, size);
         layOutPackage();
         const QString page = path("sim/Tools/Trajector/maps/page/map.js");
         writeFile(page, "older page");
-        writeFile(path("package/maps/page/map.js"), QByteArray(20000, 'p'));
+        writeFile(path("package/maps/page/map.js"), QByteArray(size, 'p'));
         SmallDisk disk(path("sim/Tools/Trajector/maps/page"), 65536);
         disk.fill();
         const QString told = launcher::bringUpToDate(path("package"), path("sim/Tools/Trajector"));

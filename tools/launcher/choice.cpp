@@ -1,9 +1,13 @@
 // The simulator's folder: remembered, looked at, asked for.
 #include "launcher.h"
 
+#include "settingsfile.h"
+#include "wideini.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QSettings>
 #include <QStandardPaths>
@@ -49,11 +53,15 @@ bool wantsAnother(const QString& goneFolder)
 
 QString launcher::rememberedSimulator()
 {
-    return QSettings(settingsFile(), QSettings::IniFormat).value(key).toString();
+    const ReadableIni ini(settingsFile());
+    return settingsValue(QSettings(ini.path(), QSettings::IniFormat), key, QVariant()).toString();
 }
 
 bool launcher::rememberSimulator(const QString& folder)
 {
+    if (!QDir().mkpath(QFileInfo(settingsFile()).path()) || !canSaveSettings(settingsFile())) {
+        return false;
+    }
     QSettings settings(settingsFile(), QSettings::IniFormat);
     settings.setValue(key, folder);
     settings.sync();

@@ -65,7 +65,8 @@ QString copyFile(const QString& from, const QString& to)
     target.write(source.readAll());
     // A disk of another system knows no such rights, and then needs none.
     target.setPermissions(source.permissions() | QFileDevice::WriteOwner);
-    return target.commit() ? QString() : target.errorString();
+    // Flushed by hand: what fails in the flush of `commit` itself goes unnoticed there, and an empty file takes over.
+    return target.flush() && target.commit() ? QString() : target.errorString();
 }
 
 QString cannotPlace(const QString& path, const QString& why)
