@@ -1,23 +1,26 @@
-/** Meridians and parallels at a round step that suits the zoom, with their degrees and minutes on the view's edges. */
+/**
+ * Meridians and parallels at a round step that suits the zoom, with their degrees, minutes and seconds on the view's
+ * edges.
+ */
 (function () {
   'use strict';
   const engine = window.mapEngine;
 
   /** Steps in degrees; the finest that leaves at least `leastPixels` between two meridians is drawn. */
-  const steps = [1 / 60, 1 / 30, 1 / 12, 1 / 6, 0.5, 1, 2, 5, 10, 30];
+  const steps = [1 / 720, 1 / 360, 1 / 120, 1 / 60, 1 / 30, 1 / 12, 1 / 6, 0.5, 1, 2, 5, 10, 30];
   const leastPixels = 110;
   /**
    * From this latitude on the projection stretches the way between parallels so far that a view may lie between two of
    * them: there they have a finer step, a part of the other.
    */
   const polar = 60;
-  /** The projection ends a little farther. */
+  /** The projection ends a little farther: this one is drawn whatever the step before it. */
   const lastParallel = 85;
   /** The ink is that of the names on the water; lines are drawn with so much of it. */
   const lineStrength = 0.32;
 
   /** CSS pixels: the strips that the labels stand in, and what they leave free for the map's controls. */
-  const strip = { height: 16, width: 64 };
+  const strip = { height: 16, width: 76 };
   const corners = { right: 60, top: 20, bottom: 60 };
 
   function stepFor(scale) {
@@ -25,6 +28,7 @@
   }
 
   const isWhole = value => Math.abs(value - Math.round(value)) < 1e-6;
+  const isLast = latitude => Math.abs(Math.abs(latitude) - lastParallel) < 1e-6;
 
   /**
    * The step of the parallels about a latitude: the same wherever the view lies, for the map is painted in squares.
@@ -37,12 +41,16 @@
     return steps.find(each => isWhole(step / each) && each / 360 * stretched >= leastPixels) || step;
   }
 
-  /** Degrees, and minutes where the step has any: 2°E, 48°30'N. */
-  function label(degrees, positive, negative, withMinutes) {
-    const minutes = Math.round(Math.abs(degrees) * 60);
-    const side = minutes % 10800 === 0 ? '' : degrees > 0 ? positive : negative;
-    const rest = minutes % 60;
-    return `${Math.floor(minutes / 60)}°${withMinutes ? `${rest < 10 ? '0' : ''}${rest}'` : ''}${side}`;
+  /** @param {number} value */
+  const two = value => `${value < 10 ? '0' : ''}${value}`;
+
+  /** Degrees, and minutes and seconds where the step has any: 2°E, 48°30'N, 48°30'05"N. */
+  function label(degrees, positive, negative, step) {
+    const seconds = Math.round(Math.abs(degrees) * 3600);
+    const side = seconds % 648000 === 0 ? '' : degrees > 0 ? positive : negative;
+    const minutesText = step < 1 ? `${two(Math.floor(seconds / 60) % 60)}'` : '';
+    const secondsText = step < 1 / 60 ? `${two(seconds % 60)}"` : '';
+    return `${Math.floor(seconds / 3600)}°${minutesText}${secondsText}${side}`;
   }
 
   /** Lines of one pixel are sharp on half pixels; counted from the world's edge, so that neighbours agree. */
@@ -57,7 +65,7 @@
     const last = Math.floor(engine.longitudeOf((area.left + area.width) / scale) / step);
     for (let i = Math.ceil(engine.longitudeOf(area.left / scale) / step); i <= last; ++i) {
       const turned = i * step - 360 * Math.round(i * step / 360);
-      lines.push({ at: half(engine.unitX(i * step), scale, area.left), text: label(turned, 'E', 'W', step < 1) });
+      lines.push({ at: half(engine.unitX(i * step), scale, area.left), text: label(turned, 'E', 'W', step) });
     }
     return lines;
   }
@@ -68,13 +76,15 @@
     const south = Math.max(-lastParallel, engine.latitudeOf((area.top + area.height) / scale));
     const finest = parallelStepAt(Math.max(Math.abs(north), Math.abs(south)), scale);
     const lines = [];
+    const add = (latitude, step) =>
+      lines.push({ at: half(engine.unitY(latitude), scale, area.top), text: label(latitude, 'N', 'S', step) });
     steps.filter(step => step >= finest && step <= stepFor(scale)).forEach(step => {
       for (let i = Math.ceil(south / step); i <= Math.floor(north / step); ++i) {
-        const latitude = i * step;
-        if (parallelStepAt(latitude, scale) === step)
-          lines.push({ at: half(engine.unitY(latitude), scale, area.top), text: label(latitude, 'N', 'S', step < 1) });
+        if (!isLast(i * step) && parallelStepAt(i * step, scale) === step)
+          add(i * step, step);
       }
     });
+    [north, south].filter(isLast).forEach(latitude => add(latitude, parallelStepAt(latitude, scale)));
     return lines;
   }
 

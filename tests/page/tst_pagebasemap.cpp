@@ -243,9 +243,11 @@ void TestPageBaseMap::theDegreesStandOnTheEdges_data()
     QTest::newRow("half degrees") << -33.8 << 151.2 << 8.5
                                   << QStringList{"150°30'E", "151°00'E", "151°30'E", "34°00'S", "33°30'S"};
     QTest::newRow("minutes") << 46.21 << 6.15 << 11.0 << QStringList{"6°05'E", "6°10'E", "46°15'N", "46°10'N"};
+    QTest::newRow("from very near") << 48.7295 << 2.35896 << 18.0
+                                    << QStringList{"2°21'30\"E", "2°21'35\"E", "48°43'45\"N"};
     QTest::newRow("over 180 degrees") << 0.0 << 180.0 << 5.0
                                       << QStringList{"175°E", "180°", "175°W", "5°N", "0°", "5°S"};
-    QTest::newRow("near the north pole") << 83.0 << 20.0 << 3.0 << QStringList{"70°N", "80°N"};
+    QTest::newRow("near the north pole") << 83.0 << 20.0 << 3.0 << QStringList{"70°N", "80°N", "85°N"};
     QTest::newRow("between two wide steps") << 77.5 << -40.0 << 6.0 << QStringList{"77°N", "78°N"};
     QTest::newRow("near the south pole") << -79.5 << 20.0 << 4.0 << QStringList{"75°S", "80°S", "82°S"};
 }
