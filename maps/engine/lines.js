@@ -31,6 +31,8 @@
     constructor() {
       this.lines = new Set();
       this.ordered = null;
+      /** Those on the ground below these, once there are any. @type {?Lines} */
+      this.below = null;
     }
 
     add(line) {
@@ -81,12 +83,14 @@
     }
 
     /**
-     * Tells the pieces in a frame of the lines that are broad enough to strike a text out.
+     * Tells the pieces in a frame of the lines that are broad enough to strike a text out. On the ground these are the
+     * edges of areas: a line there grows with every move of an aircraft, and would drive the texts before it.
      * @param {Frame} frame
      * @param {Emit} tell x and y of both ends, pixels of the frame
      */
     eachPiece(frame, tell) {
-      this.lines.forEach(line => {
+      const standing = this.below ? Array.from(this.below.lines).filter(line => line.fillOpacity > 0) : [];
+      Array.from(this.lines).concat(standing).forEach(line => {
         if (line.strokeWeight < broad || line.strokeOpacity <= 0)
           return;
         line.geometry.extend(line.positions());
@@ -345,6 +349,7 @@
     if (height >= 0)
       return { lines: map.lines, canvas: map.chart, grow: () => map.chart.invalidate() };
     map.ground = map.ground || new Ground(map.leaflet);
+    map.lines.below = map.ground.lines;
     return map.ground;
   };
 })();

@@ -8,6 +8,9 @@
   const font = `bold 11px ${page.letterFamily}`;
   const nameFont = `bold 12px ${page.letterFamily}`;
 
+  /** Degrees: a leg over a pole is not drawn from here on, and the map's edge tells no direction. */
+  const lastLatitude = 85;
+
   /** Pixels: the height of the text, from the line to the text's middle, and free line at each end of the text. */
   const textHeight = page.discSize;
   const textOffset = 12;
@@ -204,6 +207,7 @@
           this.symbols.take(page.hasRose(marker) ? page.discsAround(at, roseReach) : [at]);
         });
       });
+      page.shownRunways().forEach(([from, to]) => this.symbols.take(page.discsBetween(this.projection, from, to)));
     }
 
     /** @param {number} latitude */
@@ -242,13 +246,13 @@
       const at = this.projection.fromLatLngToDivPixel(position);
       const step = Math.min(0.01, 4 / length);
       const next = this.projection.fromLatLngToDivPixel(page.pointAlong(leg.from, leg.to, part + step));
-      const world = this.projection.getWorldWidth();
-      const dx = next.x - at.x - world * Math.round((next.x - at.x) / world);
+      const way = page.wayBetween(this.projection, at, next);
       return {
         x: at.x,
         y: at.y,
         view: this.projection.fromLatLngToContainerPixel(position),
-        angle: Math.atan2(next.y - at.y, dx),
+        isDrawn: Math.abs(position.lat()) < lastLatitude,
+        angle: Math.atan2(way.y, way.x),
         length: length,
         part: part,
         discs: [],
@@ -258,7 +262,7 @@
     /** @param {LegSpot} spot */
     isInView(spot) {
       const size = this.size();
-      return spot.view.x > 0 && spot.view.y > 0 && spot.view.x < size.x && spot.view.y < size.y;
+      return spot.isDrawn && spot.view.x > 0 && spot.view.y > 0 && spot.view.x < size.x && spot.view.y < size.y;
     }
 
     /**
@@ -296,7 +300,7 @@
         for (const offset of [-textOffset, textOffset]) {
           const x = spot.x - offset * Math.sin(upright);
           const y = spot.y + offset * Math.cos(upright);
-          if (!this.fits(spot, offset, leg.width))
+          if (!spot.isDrawn || !this.fits(spot, offset, leg.width))
             continue;
           const discs = page.discsAlong(x, y, leg.width, upright);
           const covered = discs.filter(disc => !this.symbols.isFree(disc)).length;

@@ -19,6 +19,15 @@
 
   /** What is drawn, each with its zoom and what gives it its colours. @type {RunwayPart[]} */
   let drawn = [];
+  /** The two ends of each. @type {Place[][]} */
+  let shown = [];
+
+  /** Labels and the legs' texts give way to what is drawn, and come back when it goes. */
+  function makeRoom() {
+    page.dressLayers();
+    page.dressPlan();
+    page.route.refreshTexts();
+  }
 
   /** @param {RunwayPart} part */
   const fit = part => part.shape.setMap(map.getZoom() >= part.from ? map : null);
@@ -69,6 +78,8 @@
     draw(new google.maps.Polyline({ path: [highEnd, lowEnd], strokeOpacity: 0, clickable: false }), paintFrom.centre,
       palette => ({ icons: centreLine(palette.runwayCentre), zIndex: zIndex + 1 }));
     ends.forEach(drawThreshold);
+    shown.push([highEnd, lowEnd]);
+    makeRoom();
   };
 
   /** @type {(colour: string) => google.maps.IconSequence[]} */
@@ -81,9 +92,12 @@
   page.clearRunways = function () {
     drawn.forEach(item => item.shape.setMap(null));
     drawn = [];
+    shown = [];
+    makeRoom();
   };
 
   page.hasRunways = () => drawn.length > 0;
+  page.shownRunways = () => shown;
 
   page.onPalette(palette => drawn.forEach(item => item.shape.setOptions(item.look(palette))));
   google.maps.event.addListener(map, 'zoom_changed', () => drawn.forEach(fit));

@@ -17,6 +17,25 @@
     return discs;
   };
 
+  /** Pixels: what is longer is no runway but a row of the data without its other end. */
+  const longest = 20000;
+
+  /** From one pixel to another, the shorter way round the world. */
+  page.wayBetween = function (projection, from, to) {
+    const world = projection.getWorldWidth();
+    const x = to.x - from.x;
+    return { x: x - world * Math.round(x / world), y: to.y - from.y };
+  };
+
+  /** The middles of discs from one place to another; none where it is too far. */
+  page.discsBetween = function (projection, from, to) {
+    const start = projection.fromLatLngToDivPixel(from);
+    const way = page.wayBetween(projection, start, projection.fromLatLngToDivPixel(to));
+    const length = Math.hypot(way.x, way.y);
+    return length > longest ? []
+      : page.discsAlong(start.x + way.x / 2, start.y + way.y / 2, length, Math.atan2(way.y, way.x));
+  };
+
   /** The middles of discs that cover a circle. */
   page.discsAround = function (middle, reach) {
     const discs = [];

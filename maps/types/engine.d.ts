@@ -250,6 +250,7 @@ interface Line extends Required<Omit<PolylineOptions, 'path' | 'map'>> {
 }
 
 interface Lines extends HeightPainter, Painter {
+  below: Lines | null;
   add(line: Line): void;
   remove(line: Line): void;
   eachPiece(frame: Frame, tell: Emit): void;

@@ -178,6 +178,8 @@ interface Spot {
 /** A place on a leg, in pixels of the map's panes and of the view; angle is the way's direction there, radians. */
 interface LegSpot extends Spot {
   view: Spot;
+  /** Whether the leg is drawn there. */
+  isDrawn: boolean;
   angle: number;
   /** Of the leg, pixels. */
   length: number;
@@ -368,6 +370,8 @@ interface Page {
   discSize: number;
   discsAlong(x: number, y: number, width: number, angle: number): Spot[];
   discsAround(middle: Spot, reach: number): Spot[];
+  discsBetween(projection: google.maps.MapCanvasProjection, from: Place, to: Place): Spot[];
+  wayBetween(projection: google.maps.MapCanvasProjection, from: Spot, to: Spot): Spot;
   Room: new () => Room;
   LegTexts: new (colours: () => { text: string, rim: string }) => LegTexts;
   Track: new (style: TrackStyle) => Track;
@@ -377,6 +381,7 @@ interface Page {
   drawRunway(highEnd: Place, lowEnd: Place): void;
   clearRunways(): void;
   hasRunways(): boolean;
+  shownRunways(): Place[][];
 
   openAirway(level: string): void;
   addToAirway(position: Place): void;

@@ -20,6 +20,7 @@ private slots:
     void aNameOfTheBaseMapGivesWayToASymbol();
     void aNameWithNoRoomStaysAway();
     void aLabelStandsBesideALine();
+    void aLabelStandsBesideARunway();
     void aLabelKeepsAwayFromTheStartMarker();
     void aDegreeStaysAwayFromALabel();
     void aRowOfSymbolsLeavesTheirOwnLabelsRoom();
@@ -229,6 +230,24 @@ void TestPageLabels::aLabelStandsBesideALine()
                                ".find(point => point.look.label.text === 'LFXX'))")
                          .toInt();
     QVERIFY2(side > 1, qPrintable(QString::number(side)));
+}
+
+void TestPageLabels::aLabelStandsBesideARunway()
+{
+    const QString runways =
+        "drawRwy(new google.maps.LatLng(46.50000,2.52000),new google.maps.LatLng(46.50000,2.60000));";
+    addAirport("LFXX", 46.5, 2.5);
+    window->run("pushAPT();" + runways);
+    QVERIFY2(!labelsInView().contains("LFXX 0"), qPrintable(labelsInView().join(' ')));
+    QCOMPARE(labelsInView().size(), 1);
+    window->run("clearRunway();map.setZoom(8)");
+    window->settle();
+    window->run("map.setZoom(9)");
+    QCOMPARE(labelsInView(), QStringList{"LFXX 0"});
+    // The airport knows it by now: nothing else about it is new.
+    window->run(runways);
+    QVERIFY2(!labelsInView().contains("LFXX 0"), qPrintable(labelsInView().join(' ')));
+    QCOMPARE(labelsInView().size(), 1);
 }
 
 void TestPageLabels::aLabelKeepsAwayFromTheStartMarker()

@@ -22,6 +22,7 @@ private slots:
     void aTextOnAMeridianGoesUp();
     void aTextSparesTheSymbolsOfTheChart();
     void aTextSparesVorsOfAWholeCountry();
+    void aTextSparesRunways();
     void aTextStandsOffTheStart();
     void theLabelsOfTheChartSpareTheTexts();
     void aTextStandsOffARose();
@@ -32,6 +33,7 @@ private slots:
     void aTextAtTheEdgeOfTheViewIsWhole_data();
     void aTextAtTheEdgeOfTheViewIsWhole();
     void theTextOfALegOverTheDateLineStandsOnIt();
+    void theTextOfALegOverThePoleStandsWhereItIsDrawn();
     void theTextsTakeTheColoursOfTheNight();
 
 private:
@@ -233,6 +235,21 @@ void TestPageLegs::aTextSparesVorsOfAWholeCountry()
     QVERIFY(pixels(QRect(360, 306, 80, 14), QColor(routeColour)) > 10);
 }
 
+void TestPageLegs::aTextSparesRunways()
+{
+    draw({{46.5, 1.9}, {46.5, 3.1}});
+    QVERIFY(pixels(QRect(360, 280, 80, 12), QColor(routeColour)) > 10);
+    // 12 pixels above the line, as long as it; beside it another one that the data give without its other end.
+    window->run("drawRwy(new google.maps.LatLng(46.54500,1.90000),new google.maps.LatLng(46.54500,3.10000));"
+                "drawRwy(new google.maps.LatLng(46.54500,1.90000),new google.maps.LatLng(0.00000,0.00000));");
+    window->settle();
+    QCOMPARE(texts().size(), 1);
+    QVERIFY(pixels(QRect(360, 308, 80, 12), QColor(routeColour)) > 10);
+    window->run("clearRunway();");
+    window->settle();
+    QVERIFY(pixels(QRect(360, 280, 80, 12), QColor(routeColour)) > 10);
+}
+
 void TestPageLegs::aTextStandsOffTheStart()
 {
     draw({{46.5, 2.0}, {46.5, 3.0}});
@@ -387,6 +404,17 @@ void TestPageLegs::theTextOfALegOverTheDateLineStandsOnIt()
     window->settle();
     QCOMPARE(texts(), QStringList{"090°  600 NM"});
     QVERIFY(pixels(QRect(344, 280, 66, 12), QColor(routeColour)) > 10);
+}
+
+void TestPageLegs::theTextOfALegOverThePoleStandsWhereItIsDrawn()
+{
+    window->run("map.setZoom(2);map.setCenter(new google.maps.LatLng(75.00000,0.00000));");
+    draw({{60, 10}, {62, -170}});
+    QCOMPARE(texts(), QStringList{"360°  3480 NM"});
+    // On the meridian of 10 degrees east, left of it, and not where the projection ends.
+    const QPoint end = window->mouse->pointOf(84, 10);
+    QVERIFY(pixels(QRect(end.x() - 20, end.y() + 60, 14, 200), QColor(routeColour)) > 10);
+    QCOMPARE(pixels(QRect(end.x() - 60, 0, 56, end.y()), QColor(routeColour)), 0);
 }
 
 void TestPageLegs::theTextsTakeTheColoursOfTheNight()
