@@ -4,6 +4,8 @@
 #include "mainwindow.h"
 
 #include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
@@ -163,8 +165,12 @@ void TourHands::expectMessage(QMessageBox::StandardButton button, const char* pi
 void TourHands::expectFile(const QString& name, const char* pictureName)
 {
     boxes.expectDialog("QFileDialog", [this, name, pictureName](QDialog* dialog) {
+        const QFileInfo file(name);
+        if (file.isAbsolute()) {
+            qobject_cast<QFileDialog*>(dialog)->setDirectory(file.path());
+        }
         settle();
-        dialog->findChild<QLineEdit*>("fileNameEdit")->setText(name);
+        dialog->findChild<QLineEdit*>("fileNameEdit")->setText(file.fileName());
         picture(dialog, pictureName);
         QMetaObject::invokeMethod(dialog, "accept");
     });
