@@ -26,6 +26,7 @@ private slots:
     void airwaysAreAskedForThoughThePageHasNone();
     void boundaryIsRememberedWithNoVisibleEffect();
     void firstClickOnFullScreenHidesAllSixDocks();
+    void aFullScreenOfTheLastRunHidesItsDocksWithTheSecondClick();
     void zoomOfTheFile_data();
     void zoomOfTheFile();
     void centreOfTheFile_data();
@@ -138,6 +139,21 @@ void TestView::firstClickOnFullScreenHidesAllSixDocks()
     QVERIFY(CNavGlobalVar::instance()->showDock);
     for (const QString& dock : docks)
         QVERIFY2(!session->find<QDockWidget>(dock)->isHidden(), qPrintable(dock));
+}
+
+void TestView::aFullScreenOfTheLastRunHidesItsDocksWithTheSecondClick()
+{
+    session.reset();
+    sandbox->setSetting("view/showBoundary", false); // where the state of the docks is kept
+    session.reset(new WindowSession);
+    QVERIFY(session->load());
+    QAction* action = session->action("actDock");
+    QVERIFY(!action->isChecked());
+    QVERIFY(!session->find<QDockWidget>("dockWSearch")->isHidden());
+    action->trigger();
+    QVERIFY(!session->find<QDockWidget>("dockWSearch")->isHidden());
+    action->trigger();
+    QVERIFY(session->find<QDockWidget>("dockWSearch")->isHidden());
 }
 
 void TestView::zoomOfTheFile_data()
