@@ -18,6 +18,21 @@ const QString movedText = QStringLiteral("Le fichier de la base OSM_FR.db a ét�
                                          "ouverture.\nRien n'est modifié : redémarrez Zephan Trajector.");
 const QString idents = QStringLiteral("SELECT Ident FROM OSM_OBJ ORDER BY Ident");
 
+/// A file that gives less than its size tells, as some of the system and of networks do: it never comes to its end.
+/// Here it does in the end, for a reader that goes on asking.
+class ShortFile : public QFile
+{
+public:
+    using QFile::QFile;
+
+    bool atEnd() const override
+    {
+        return ++asked > 1000;
+    }
+
+    mutable int asked = 0;
+};
+
 /// A database as the simulator's OpenStreetMap tool makes it, as far as an import touches it.
 void makeOsmDatabase(const UpdateWorld& world, const QStringList& objects)
 {
@@ -46,6 +61,7 @@ private slots:
     void osmGoesOnAfterAFailure();
     void osmRunsNoNameThatGoesOnAsSql();
     void osmTakesAnEmptyLineForAnEmptyName();
+    void osmEndsWhereAFileGivesNoMore();
     void osmWritesToTheLog();
     void osmAtTheEndOfTheFile();
     void osmWithADatabaseThatCannotBeOpened();
@@ -204,6 +220,18 @@ void TestImportFiles::osmTakesAnEmptyLineForAnEmptyName()
     makeOsmDatabase(world, {"", "way/1", "way/2"});
     QVERIFY(world.importToTheEnd("OSM\nOSM_FR.db\n\nway/1\n"));
     QCOMPARE(world.column(osmFile, idents), QString("way/2"));
+}
+
+void TestImportFiles::osmEndsWhereAFileGivesNoMore()
+{
+    UpdateWorld world;
+    makeOsmDatabase(world, {"way/1", "way/2"});
+    ShortFile file(world.write("OSM\nOSM_FR.db\nway/1\n"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    world.expectImported(file.fileName());
+    QVERIFY(world.exchange.importDB(file, world.variables.get()));
+    QCOMPARE(world.column(osmFile, idents), QString("way/2"));
+    QVERIFY2(file.asked < 10, qPrintable(QString::number(file.asked)));
 }
 
 void TestImportFiles::osmWritesToTheLog()

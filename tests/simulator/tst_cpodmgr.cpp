@@ -400,6 +400,31 @@ private slots:
         QVERIFY(!pod.findBySuffix("SVH"));
     }
 
+    void entryCountBeyondWhatAnArchiveHoldsTakesNoMemory()
+    {
+        constexpr int tooMany = 4 * 1024 * 1024 + 1;
+        const QString path = write(header(tooMany));
+        QVERIFY(QFile::resize(path, headerSize + qint64{tooMany} * (recordSize + 1))); // of zeros, without a page
+        CPodMgr pod(path);
+        QCOMPARE(pod.entryCount, tooMany);
+        QVERIFY(pod.entries.isEmpty());
+    }
+
+    void entryLargerThanATextIsCut()
+    {
+        constexpr int longest = 64 * 1024 * 1024;
+        const QString path = write(podArchive({{"A.SVH", "text"}}));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QByteArray bytes = file.readAll();
+        setNumber(bytes, headerSize + 4 + 4, longest + 1);
+        QVERIFY(file.seek(0) && file.write(bytes) == bytes.size() && file.resize(2 * qint64{longest}));
+        file.close();
+        CPodMgr pod(path);
+        QVERIFY(pod.findBySuffix("SVH"));
+        QCOMPARE(pod.content.size(), longest);
+    }
+
     void damagedEntryGivesAnEmptyText_data()
     {
         QTest::addColumn<int>("size");
