@@ -4,6 +4,7 @@
 #include "aeozephannavrecord.h"
 #include "sharedblock.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>
@@ -43,6 +44,7 @@ private slots:
     void theRateIsObeyed();
     void aBlockThatIsCutShortIsMadeWholeAgain();
     void aMissingBlockIsMade();
+    void aRefusedBlockIsTold();
     void itEndsCleanlyOnCtrlC();
     void itEndsCleanlyOnATerminationRequest();
     void aKilledOneLeavesTheBlockReadable();
@@ -346,6 +348,29 @@ void TestFlySim::aMissingBlockIsMade()
     TRY_VERIFY(isNear(now(record->latS), 3600.0));
 #else
     QSKIP("on Windows the test's own block is there as long as the test is");
+#endif
+}
+
+void TestFlySim::aRefusedBlockIsTold()
+{
+#ifdef Q_OS_UNIX
+    block.release();
+    block.detach();
+    record = nullptr;
+    NoBlock::remove();
+    // Refused to root as well, whom another user's block would not be.
+    QVERIFY(QDir().mkdir(NoBlock::path()));
+    flysim = std::make_unique<QProcess>();
+    flysim->start(program(), {"--start", "1,2"});
+    const bool ended = flysim->waitForFinished(patience);
+    NoBlock::remove();
+    QVERIFY(ended);
+    QCOMPARE(flysim->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(flysim->exitCode(), 1);
+    QCOMPARE(flysim->readAllStandardError(),
+             QByteArray("flysim: the system refuses the shared block; another user may have left it\n"));
+#else
+    QSKIP("A block of Windows is its user's alone.");
 #endif
 }
 

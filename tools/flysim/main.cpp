@@ -117,7 +117,7 @@ int run(const std::vector<std::string>& arguments)
     listenForStop();
     if (!block.attach() || block.map() == nullptr ||
         !fly(points.empty() ? Route(options.start, options.course) : Route(points), options, block)) {
-        return complain("the system refuses the shared block", nothingToFly);
+        return complain("the system refuses the shared block; another user may have left it", nothingToFly);
     }
     std::puts("ended; the block keeps the last position");
     return stopped;

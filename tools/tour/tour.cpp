@@ -1,10 +1,12 @@
 // The tour, and its steps from the start to a plan that is saved and loaded again.
 #include "tour.h"
 
+#include "blockpeer.h"
 #include "mainwindow.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QProcess>
 #include <QSettings>
@@ -26,14 +28,22 @@ const Place balan{46.51611, 1.03333};
 
 } // namespace
 
-Tour::Tour(const TourOptions& options) : TourHands(options)
+Tour::Tour(const TourOptions& options) : TourHands(options), blockWasThere(QFileInfo::exists(NoBlock::path()))
 {
     forgetWorkFolder();
     answerWorkFolder();
     session = std::make_unique<WindowSession>();
 }
 
-Tour::~Tour() = default;
+Tour::~Tour()
+{
+    simulator.reset();
+    session.reset();
+    // The block outlives its users and lets in its maker alone: left here by root, the next tour would have none.
+    if (!blockWasThere) {
+        NoBlock::remove();
+    }
+}
 
 void Tour::forgetWorkFolder()
 {

@@ -117,5 +117,6 @@ private:
     void clickRow(int row);
     void clickProcedure(const QString& tree, const QString& name);
 
+    const bool blockWasThere;            ///< the shared block, before the tour
     std::unique_ptr<QProcess> simulator; ///< while the plan is flown; killed when the tour ends before the flight
 };

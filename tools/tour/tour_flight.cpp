@@ -107,8 +107,9 @@ void Tour::startFlight(const QStringList& way)
     simulator->start(QCoreApplication::applicationDirPath() + "/flysim",
                      way + QStringList{"--speed", "450", "--factor", "200"});
     // It tells its status once it has published: a block that an earlier simulator left says nothing.
-    require(QTest::qWaitFor([this] { return simulator->canReadLine(); }, patience),
-            "flysim does not fly: " + simulator->readAllStandardError());
+    QTest::qWaitFor([this] { return simulator->canReadLine() || simulator->state() == QProcess::NotRunning; },
+                    patience);
+    require(simulator->canReadLine(), "flysim does not fly: " + simulator->readAllStandardError());
 }
 
 void Tour::traceFlight()
