@@ -16,13 +16,16 @@ private slots:
     void aFullDiskKeepsTheSettings_data()
     {
         QTest::addColumn<bool>("full");
-        QTest::newRow("full") << true;
-        QTest::newRow("read-only") << false;
+        QTest::addColumn<int>("pagesLeft");
+        QTest::newRow("full") << true << 0;
+        QTest::newRow("full but for the lock") << true << 1;
+        QTest::newRow("read-only") << false << 0;
     }
     void aFullDiskKeepsTheSettings()
     {
         SKIP_WITHOUT_MOUNTS();
         QFETCH(bool, full);
+        QFETCH(int, pagesLeft);
         Sandbox sandbox;
         sandbox.setSetting("view/zoom", 9);
         sandbox.setSetting("view/route", "BE");
@@ -33,7 +36,7 @@ private slots:
         BoxResponder boxes; // none comes
         WindowSession session;
         session.action("actVor")->trigger();
-        full ? disk.fill() : disk.protect();
+        full ? disk.fill(pagesLeft) : disk.protect();
         session.close();
         QCOMPARE(sandbox.readFile("Tools/Trajector/trajector.ini"), before);
         full ? disk.makeRoom() : disk.unprotect();

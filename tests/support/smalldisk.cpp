@@ -94,13 +94,14 @@ SmallDisk::~SmallDisk()
     unmount(folder);
 }
 
-void SmallDisk::fill()
+void SmallDisk::fill(int pagesLeft)
 {
     QFile file(QDir(folder).filePath(filler));
     check(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered), "filling");
     const QByteArray page(4096, 'x');
     while (file.write(page) == page.size()) {
     }
+    check(pagesLeft == 0 || file.resize(file.size() - pagesLeft * page.size()), "leaving pages");
 }
 
 void SmallDisk::makeRoom()

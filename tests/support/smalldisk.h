@@ -39,8 +39,8 @@ public:
     SmallDisk(const SmallDisk&) = delete;
     SmallDisk& operator=(const SmallDisk&) = delete;
 
-    /// Takes all room that is left, and gives it back.
-    void fill();
+    /// Takes all room that is left but for these pages, and gives it back.
+    void fill(int pagesLeft = 0);
     void makeRoom();
     /// From here on no file can be added, however much room there is.
     void takeNoFurtherFile();
