@@ -142,6 +142,19 @@
     pen.lift();
   }
 
+  /** Cells overlap a little, and a band that shines through would be twice as strong there. */
+  function clipToCell(frame, cell) {
+    const { box, left } = cell;
+    const at = (value, least, most) => Math.max(least, Math.min(most, Math.round(value)));
+    const x = at(box.left * frame.scale - left, 0, frame.width);
+    const y = at(box.top * frame.scale - frame.top, 0, frame.height);
+    const right = at(box.right * frame.scale - left, 0, frame.width);
+    const bottom = at(box.bottom * frame.scale - frame.top, 0, frame.height);
+    frame.context.beginPath();
+    frame.context.rect(x, y, right - x, bottom - y);
+    frame.context.clip();
+  }
+
   class Outlines {
     constructor(data) {
       this.levels = engine.worldLevels(data);
@@ -165,6 +178,7 @@
       const pick = lines => lines.filter(line => isNear(frame, line, cell.left));
       return {
         left: cell.left,
+        box: cell.box,
         land: pick(cell.lines.land),
         lakes: pick(cell.lines.lakes.filter(lake => frame.zoom < lake.last)),
         borders: pick(cell.lines.borders),
@@ -200,7 +214,13 @@
       context.strokeStyle = this.colours[style.colour];
       context.lineWidth = style.width * (frame.zoom < farZoom ? farWidth : 1);
       context.globalAlpha = style.strength;
-      cells.forEach(cell => cell[style.kind].forEach(line => strokeLine(frame, line, cell.left, style.step)));
+      cells.filter(cell => cell[style.kind].length).forEach(cell => {
+        context.save();
+        if (style === shallows)
+          clipToCell(frame, cell);
+        cell[style.kind].forEach(line => strokeLine(frame, line, cell.left, style.step));
+        context.restore();
+      });
       context.globalAlpha = 1;
     }
   }

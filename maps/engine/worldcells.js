@@ -31,6 +31,9 @@
     return values;
   }
 
+  /** Degrees: from here on no shore lies. */
+  const nearPole = 89.9;
+
   function isCellEdge(from, to, edges) {
     return from === to && edges.indexOf(from) >= 0;
   }
@@ -87,9 +90,15 @@
       for (let i = 0; i < count; ++i) {
         const next = (i + 1) % count;
         shore[i] = isCellEdge(whole[2 * i], whole[2 * next], edges.x)
-          || isCellEdge(whole[2 * i + 1], whole[2 * next + 1], edges.y) ? 0 : 1;
+          || isCellEdge(whole[2 * i + 1], whole[2 * next + 1], edges.y)
+          || this.isAtPole(whole[2 * i + 1]) && this.isAtPole(whole[2 * next + 1]) ? 0 : 1;
       }
       return Object.assign(this.line(whole), { shown: shore });
+    }
+
+    /** Antarctica's ring runs along the pole, and not at 90 degrees exactly. @param {number} latitude in units */
+    isAtPole(latitude) {
+      return Math.abs(latitude) > nearPole * this.units;
     }
 
     /** Where cutting has made edges: the cell's own, the closing at 180 degrees and at the poles. */
@@ -123,6 +132,18 @@
       return box;
     }
 
+    /** A cell without what overlaps its neighbours, in unit coordinates. */
+    boxOf(column, row) {
+      const west = column * this.cell - 180;
+      const south = row * this.cell - 90;
+      return {
+        left: engine.unitX(west),
+        right: engine.unitX(west + this.cell),
+        top: engine.unitY(south + this.cell),
+        bottom: engine.unitY(south),
+      };
+    }
+
     /** The cells that a frame shows, with the frame's left edge as seen from the copy of the world that they lie in. */
     inFrame(frame) {
       const found = [];
@@ -134,9 +155,10 @@
       for (let at = this.index(west - reach, 180); at <= this.index(east + reach, 180); ++at) {
         const world = Math.floor(at / this.columns);
         for (let row = this.index(south - reach, 90); row <= this.index(north + reach, 90); ++row) {
-          const lines = this.cellAt(at - world * this.columns, row);
+          const column = at - world * this.columns;
+          const lines = this.cellAt(column, row);
           if (lines)
-            found.push({ lines: lines, left: frame.left - world * frame.scale });
+            found.push({ lines: lines, left: frame.left - world * frame.scale, box: this.boxOf(column, row) });
         }
       }
       return found;

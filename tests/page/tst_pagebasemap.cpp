@@ -41,6 +41,8 @@ private slots:
     void aPanBringsNoGap();
     void theMapGoesOnOverTheDateLine();
     void southOfTheLimitLiesAntarctica();
+    void noShoreRunsAlongTheLimit();
+    void shallowsAreEvenWhereCellsMeet();
     void northOfTheLimitLiesTheSea();
     void theScaleFollowsTheLatitude();
 
@@ -323,6 +325,46 @@ void TestPageBaseMap::southOfTheLimitLiesAntarctica()
     QCOMPARE(window->pixelsAround(-84.9, 40.3, 6, coast), 0);
     window->settle();
     QCOMPARE(window->view->grab().toImage().pixelColor(402, 500), land);
+}
+
+void TestPageBaseMap::noShoreRunsAlongTheLimit()
+{
+    // Inside Antarctica, between the lines of the graticule; each scale of the coasts ends there in its own way.
+    for (const double zoom : {3.5, 5.0, 8.0}) {
+        look(-85.03, 42.55, zoom);
+        QCOMPARE(window->pixelsAround(-85.05, 42.55, 3, land), 7 * 7);
+    }
+}
+
+void TestPageBaseMap::shallowsAreEvenWhereCellsMeet()
+{
+    // Quiberon, on both sides of a cell's edge at 47.5 north.
+    look(47.5, -3.13, 11);
+    window->settle();
+    const QImage image = window->view->grab().toImage();
+    // The coast's colour over the sea's, once and twice.
+    const auto tone = [](int times) {
+        QVector<double> channels{double(sea.red()), double(sea.green()), double(sea.blue())};
+        const QVector<int> over{coast.red(), coast.green(), coast.blue()};
+        for (int i = 0; i < times; ++i)
+            for (int k = 0; k < 3; ++k)
+                channels[k] += 0.16 * (over[k] - channels[k]);
+        return channels;
+    };
+    const auto count = [&image](const QVector<double>& channels) {
+        int found = 0;
+        for (int y = 150; y < 400; ++y)
+            for (int x = 300; x < 500; ++x) {
+                const QColor pixel = image.pixelColor(x, y);
+                found += qAbs(pixel.red() - channels[0]) < 1.5 && qAbs(pixel.green() - channels[1]) < 1.5 &&
+                                 qAbs(pixel.blue() - channels[2]) < 1.5
+                             ? 1
+                             : 0;
+            }
+        return found;
+    };
+    QVERIFY2(count(tone(1)) > 1000, qPrintable(QString::number(count(tone(1)))));
+    QVERIFY2(count(tone(2)) < 40, qPrintable(QString::number(count(tone(2)))));
 }
 
 void TestPageBaseMap::northOfTheLimitLiesTheSea()
