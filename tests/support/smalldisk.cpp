@@ -101,7 +101,7 @@ void SmallDisk::fill(int pagesLeft)
     const QByteArray page(4096, 'x');
     while (file.write(page) == page.size()) {
     }
-    check(pagesLeft == 0 || file.resize(file.size() - pagesLeft * page.size()), "leaving pages");
+    check(pagesLeft == 0 || file.resize(file.size() - qint64{pagesLeft} * page.size()), "leaving pages");
 }
 
 void SmallDisk::makeRoom()
