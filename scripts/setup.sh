@@ -72,27 +72,36 @@ missing_packages() {
     done
 }
 
+# By a sudo that asks for no password, unless it is root already.
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then
         "$@"
-    elif command -v sudo >/dev/null; then
-        sudo -n "$@"
     else
-        say 'not root, and no sudo to become it'
+        sudo -n "$@"
+    fi
+}
+
+may_become_root() {
+    if ! as_root true </dev/null 2>/dev/null; then
+        say 'not root, and no sudo that makes it root without a password'
         return 1
     fi
 }
 
-install_with_apt() {
+install_packages() {
     local apt=(env DEBIAN_FRONTEND=noninteractive apt-get -qq -y -o Dpkg::Use-Pty=0)
     say "installing, which takes a few minutes: $*"
     # Old package lists may still do, so a failing update is only told.
     as_root "${apt[@]}" update </dev/null >/dev/null || say 'the package lists could not be brought up to date'
-    as_root "${apt[@]}" install --no-install-recommends "$@" </dev/null >/dev/null || {
-        say 'these packages could not be installed; call again after this, as root or with sudo:'
-        say "apt-get install --no-install-recommends $*"
-        return 1
-    }
+    as_root "${apt[@]}" install --no-install-recommends "$@" </dev/null >/dev/null
+}
+
+install_with_apt() {
+    may_become_root && install_packages "$@" && return
+    say 'packages are missing; call again after this, as root or with sudo:'
+    say 'apt-get update'
+    say "apt-get install --no-install-recommends $*"
+    return 1
 }
 
 set_up_packages() {
