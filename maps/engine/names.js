@@ -13,9 +13,10 @@
   /** Half the height of the letters, and what a picture has around them for their rim and their slant. */
   const half = 8;
   const margin = 4;
-  /** The least width of a sheet of pictures. On it pictures begin at whole pixels of most screens. */
-  const sheetWidth = 1024;
-  const sheetStep = 4;
+  /** The least width of a strip of pictures. On it pictures begin at whole pixels of most screens. */
+  const stripWidth = 1024;
+  const stripStep = 4;
+  const stripHeight = 2 * (half + margin);
 
   /** Letters of each kind; countries are spaced capitals. The colours are parts of the base colours. */
   const kinds = {
@@ -138,6 +139,30 @@
     }
   }
 
+  /** Pictures of names side by side; it is filled from the left. */
+  class Strip {
+    /** @param {Name} first the one for which it is made, which may be wider than others */
+    constructor(first) {
+      this.ratio = window.devicePixelRatio || 1;
+      this.canvas = document.createElement('canvas');
+      this.width = Math.max(stripWidth, widthOnStrip(first));
+      this.end = 0;
+      engine.clearPicture(this.canvas, { width: this.width, height: stripHeight });
+    }
+
+    hasRoom(name) {
+      return this.end + widthOnStrip(name) <= this.width;
+    }
+
+    take(name) {
+      const width = widthOnStrip(name);
+      name.picture = { canvas: this.canvas, ratio: this.ratio, x: this.end, width: width };
+      this.end += width;
+    }
+  }
+
+  const widthOnStrip = name => stripStep * Math.ceil((name.width + 2 * margin) / stripStep);
+
   class Names {
     /** @param {?Array} data rows as Name takes them, those that come first have the room first */
     constructor(data) {
@@ -148,6 +173,10 @@
       this.placedIn = null;
       this.placed = [];
       this.written = [];
+      /** The one with room for more pictures, and for which palette and screen these are. */
+      this.strip = null;
+      this.drawnIn = null;
+      this.drawnFor = NaN;
       /** A raster map has its own names. */
       this.hidden = false;
     }
@@ -225,9 +254,9 @@
     /** Copies the name's picture; the dot and the letters stand on whole pixels, so that it stays sharp. */
     write(context, place, left, top) {
       const name = place.name;
-      const { canvas, ratio, x, y, width, height } = name.picture;
-      context.drawImage(canvas, x * ratio, y * ratio, width * ratio, height * ratio,
-        place.letters - left - margin, place.row - top - half - margin, width, height);
+      const { canvas, ratio, x, width } = name.picture;
+      context.drawImage(canvas, x * ratio, 0, width * ratio, stripHeight * ratio,
+        place.letters - left - margin, place.row - top - half - margin, width, stripHeight);
       if (name.dot) {
         context.fillStyle = this.colours[name.kind.colour];
         context.beginPath();
@@ -237,44 +266,51 @@
     }
 
     /**
-     * Draws the letters with their rims, once for a palette and screen. Names that appear together share a sheet: a
-     * canvas for each takes longer than its letters.
+     * Draws the letters with their rims, once for a palette and screen. Names share strips: a canvas for each takes
+     * longer than its letters, and far more memory.
      */
     makePictures(names) {
-      const ratio = window.devicePixelRatio || 1;
-      const missing = new Set(names.filter(name =>
-        !name.picture || name.picture.colours !== this.colours || name.picture.ratio !== ratio));
-      if (!missing.size)
-        return;
+      this.forgetOthers();
       // A new font takes as long as several letters.
-      const sorted = Array.from(missing).sort((a, b) => (a.font.name < b.font.name ? -1 : 1));
-      const sheet = this.layOut(sorted, { canvas: document.createElement('canvas'), ratio, colours: this.colours });
-      const context = engine.clearPicture(sheet.canvas, sheet);
-      engine.drawRim(context, sheet, letters => this.drawAll(letters, sorted, 'rim'));
-      this.drawAll(context, sorted, 'colour');
+      const missing = Array.from(new Set(names.filter(name => !name.picture)))
+        .sort((a, b) => (a.font.name < b.font.name ? -1 : 1));
+      for (let i = 0; i < missing.length;) {
+        if (!this.strip || !this.strip.hasRoom(missing[i]))
+          this.strip = new Strip(missing[i]);
+        const first = i;
+        const left = this.strip.end;
+        for (; i < missing.length && this.strip.hasRoom(missing[i]); ++i)
+          this.strip.take(missing[i]);
+        this.drawPictures(missing.slice(first, i), left);
+      }
     }
 
-    /** Gives names their places on a sheet, row by row. @return the size of the sheet */
-    layOut(names, sheet) {
-      const height = 2 * (half + margin);
-      let x = 0;
-      let y = 0;
-      let right = sheetWidth;
-      names.forEach(name => {
-        const width = sheetStep * Math.ceil((name.width + 2 * margin) / sheetStep);
-        if (x > 0 && x + width > sheetWidth) {
-          x = 0;
-          y += height;
-        }
-        name.picture = Object.assign({ x, y, width, height }, sheet);
-        x += width;
-        right = Math.max(right, x);
+    /** Those of another palette or screen go, of names that are not in view too: nobody would ever copy them again. */
+    forgetOthers() {
+      const ratio = window.devicePixelRatio || 1;
+      if (this.colours === this.drawnIn && ratio === this.drawnFor)
+        return;
+      this.drawnIn = this.colours;
+      this.drawnFor = ratio;
+      this.strip = null;
+      this.all.forEach(name => {
+        name.picture = null;
       });
-      return Object.assign({ width: right, height: y + height }, sheet);
+    }
+
+    /** @param {number} left where their places on the present strip begin */
+    drawPictures(names, left) {
+      const context = this.strip.canvas.getContext('2d');
+      context.save();
+      context.translate(left, 0);
+      engine.drawRim(context, { width: this.strip.end - left, height: stripHeight },
+        letters => this.drawAll(letters, names, left, 'rim'));
+      this.drawAll(context, names, left, 'colour');
+      context.restore();
     }
 
     /** @param {string} part of their kinds' colours */
-    drawAll(context, names, part) {
+    drawAll(context, names, left, part) {
       let font = null;
       context.textBaseline = 'middle';
       names.forEach(name => {
@@ -285,7 +321,7 @@
           context.font = name.font.name;
         font = name.font;
         context.fillStyle = colour;
-        this.letters(name, (text, x) => context.fillText(text, name.picture.x + x, name.picture.y + half + margin));
+        this.letters(name, (text, x) => context.fillText(text, name.picture.x - left + x, half + margin));
       });
     }
 

@@ -28,6 +28,9 @@ private slots:
     void namesComeInThePagesLanguage();
     void aNameStaysWhileTheMapMoves();
     void aNameRunsOverTheDateLine();
+    void namesThatComeOneByOneShareCanvases();
+    void noPictureIsKeptOfAnotherPalette();
+    void aNameIsWholeOnASharedCanvas();
     void everyCityIsAtItsPlace_data();
     void everyCityIsAtItsPlace();
     void lakesAreWater_data();
@@ -68,6 +71,26 @@ private:
     QStringList names()
     {
         return window->run("map.base.names.placed.map(place => place.name.text)").toStringList();
+    }
+    /// Shows the places of cities one after the other. A new zoom is painted after its script, another place at once.
+    void visitCities(int count)
+    {
+        window->run("map.setZoom(8)");
+        window->settle();
+        window->run(QString("worldNames.filter(n => n[0] === 'city').slice(0, %1)"
+                            ".forEach(n => map.setCenter(new google.maps.LatLng(n[3], n[4])))")
+                        .arg(count));
+    }
+    /// How many names have been drawn, and how many canvases hold them.
+    int drawnNames()
+    {
+        return window->run("map.base.names.all.filter(name => name.picture).length").toInt();
+    }
+    int nameCanvases()
+    {
+        return window
+            ->run("new Set(map.base.names.all.filter(name => name.picture).map(name => name.picture.canvas)).size")
+            .toInt();
     }
     /// The texts that the map writes during a script.
     QStringList written(const QString& during)
@@ -161,6 +184,43 @@ void TestPageBaseMap::aNameRunsOverTheDateLine()
         QVERIFY(window->pixelsAround(58, centre - 1, 10, sea) < 21 * 21 - 40);
         QVERIFY(window->pixelsAround(58, centre + 1, 10, sea) < 21 * 21 - 40);
     }
+}
+
+void TestPageBaseMap::namesThatComeOneByOneShareCanvases()
+{
+    visitCities(100);
+    QVERIFY2(drawnNames() > 60, qPrintable(QString::number(drawnNames())));
+    // A dozen names fill one.
+    QVERIFY2(nameCanvases() * 8 < drawnNames(), qPrintable(QString::number(nameCanvases())));
+}
+
+void TestPageBaseMap::noPictureIsKeptOfAnotherPalette()
+{
+    visitCities(20);
+    QVERIFY(drawnNames() > 40);
+    window->run(
+        "var former = new Set(map.base.names.all.filter(name => name.picture).map(name => name.picture.canvas));"
+        "page.setPalette('night')");
+    window->settle();
+    QVERIFY(drawnNames() > 0);
+    // Nor of the names that are not in view.
+    QCOMPARE(window->run("map.base.names.all.filter(name => name.picture && former.has(name.picture.canvas)).length"),
+             QVariant(0.0));
+}
+
+void TestPageBaseMap::aNameIsWholeOnASharedCanvas()
+{
+    // Drawn among many at once, and as the last of many that came one by one.
+    look(48.86, 2.35, 8);
+    window->settle();
+    const QImage first = window->view->grab().toImage();
+    window->run("page.setPalette('night')");
+    window->settle();
+    window->run("page.setPalette('day')");
+    visitCities(60);
+    look(48.86, 2.35, 8);
+    window->settle();
+    QCOMPARE(window->view->grab().toImage(), first);
 }
 
 void TestPageBaseMap::everyCityIsAtItsPlace_data()
