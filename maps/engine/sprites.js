@@ -3,8 +3,10 @@
   'use strict';
   const engine = window.mapEngine;
   const cache = new WeakMap();
-  /** The paths seen so far, read once: they are the few dozen of the page's symbols. */
+  /** Paths are read once: those few dozen of the page, and those of the airports that have runways of their own. */
   const shapes = new Map();
+  /** More than one view shows. */
+  const mostShapes = 500;
 
   /** The farthest reach of a path from its origin; numbers that are no coordinates only make it a little larger. */
   function pathReach(path) {
@@ -14,6 +16,8 @@
   function shapeOf(path) {
     let shape = shapes.get(path);
     if (!shape) {
+      if (shapes.size >= mostShapes)
+        shapes.clear();
       shape = { path: new Path2D(path), reach: pathReach(path) };
       shapes.set(path, shape);
     }

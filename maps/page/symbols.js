@@ -155,14 +155,30 @@
     made = {};
   });
 
+  /** @type {(name: string, form: SymbolForm, scale: number, path: string) => google.maps.Symbol} */
+  const newSymbol = (name, form, scale, path) => page.labelledBelow(forms[form](designs[name], scale, path));
+
+  /**
+   * That of a marker with a path of its own, which keeps the last one alone: there are thousands of airports, each with
+   * its runways, and each is drawn in all scales in the course of time.
+   * @type {(marker: ChartMarker, scale: number) => google.maps.Symbol}
+   */
+  function ownSymbol(marker, scale) {
+    const key = `${page.palette.name} ${scale} ${marker.path}`;
+    if (!marker.own || marker.own.key !== key)
+      marker.own = { key: key, symbol: newSymbol(marker.symbol, 'symbol', scale, marker.path) };
+    return marker.own.symbol;
+  }
+
   /**
    * The symbol of a marker: the same object for all markers that look alike, which is drawn once. The scale is that of
    * the full symbol.
    */
   page.symbolOf = function (marker, form, scale) {
-    const path = marker.path || '';
-    const key = `${marker.symbol} ${form} ${scale} ${path}`;
-    return made[key] || (made[key] = page.labelledBelow(forms[form](designs[marker.symbol], scale, path)));
+    if (marker.path && form === 'symbol')
+      return ownSymbol(marker, scale);
+    const key = `${marker.symbol} ${form} ${scale}`;
+    return made[key] || (made[key] = newSymbol(marker.symbol, form, scale, ''));
   };
 
   /** @return {number} which of two symbols at one place lies above: that of the higher number */

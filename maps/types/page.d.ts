@@ -33,6 +33,8 @@ interface ChartMarker {
   lines?: string[];
   /** The path of a symbol of its own: an airport with its runways. */
   path?: string;
+  /** The symbol with that path in which it was last drawn in full, and what it depends on. */
+  own?: { key: string, symbol: google.maps.Symbol };
   /** The two ends of each runway that the program has told. */
   runways?: Map<string, RunwayEnd[]>;
 }

@@ -11,6 +11,9 @@ private slots:
     void runwaysShowInTheSymbolOfTheirAirport();
     void runwaysOfOneDirectionAreOneStrip();
     void aRunwayFarFromAllAirportsChangesNone();
+    void anAirportWithRunwaysKeepsItsLastSymbolAlone();
+    void airportsWithRunwaysShareTheirDot();
+    void thePathsOfManySymbolsAreNotAllKept();
     void aVorOnAnAirportIsDrawnAroundIt();
     void aRoseStandsAroundAVorFromNear();
     void ofTwoRosesThatOverlapOneIsDrawn();
@@ -63,6 +66,45 @@ void TestPageRoses::aRunwayFarFromAllAirportsChangesNone()
         "drawRwy(new google.maps.LatLng(nan, 2.30000),new google.maps.LatLng(46.70000, 2.32000));clearRunway();",
         46.7, 2.3));
     QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageRoses::anAirportWithRunwaysKeepsItsLastSymbolAlone()
+{
+    window->run("addAPTMarker(new google.maps.LatLng(46.70000, 2.30000),\"LFXX\",1,\"x\");pushAPT();"
+                "drawRwy(new google.maps.LatLng(46.70000, 2.28000),new google.maps.LatLng(46.70000, 2.32000));"
+                "var symbol = scale => page.symbolOf(listApt[0], 'symbol', scale), first = symbol(1);");
+    QVERIFY(window->run("symbol(1) === first").toBool());
+    QVERIFY(window->run("symbol(0.9) !== first && symbol(0.9) === symbol(0.9)").toBool());
+    QVERIFY(window->run("symbol(1) !== first").toBool());
+    // Other colours, and another runway.
+    QVERIFY(window->run("first = symbol(1); page.setPalette('night'); symbol(1) !== first").toBool());
+    QVERIFY(window
+                ->run("first = symbol(1);drawRwy(new google.maps.LatLng(46.68000, 2.30000),"
+                      "new google.maps.LatLng(46.71000, 2.31000)); symbol(1) !== first")
+                .toBool());
+}
+
+void TestPageRoses::airportsWithRunwaysShareTheirDot()
+{
+    window->run("addAPTMarker(new google.maps.LatLng(46.70000, 2.30000),\"LFXX\",1,\"x\");"
+                "addAPTMarker(new google.maps.LatLng(46.40000, 2.30000),\"LFYY\",1,\"x\");pushAPT();"
+                "drawRwy(new google.maps.LatLng(46.70000, 2.28000),new google.maps.LatLng(46.70000, 2.32000));"
+                "drawRwy(new google.maps.LatLng(46.38000, 2.30000),new google.maps.LatLng(46.42000, 2.30000));");
+    for (const char* form : {"dot", "sign"})
+        QVERIFY(
+            window->run(QString("page.symbolOf(listApt[0], '%1', 1) === page.symbolOf(listApt[1], '%1', 1)").arg(form))
+                .toBool());
+    QVERIFY(window->run("page.symbolOf(listApt[0], 'symbol', 1) !== page.symbolOf(listApt[1], 'symbol', 1)").toBool());
+}
+
+void TestPageRoses::thePathsOfManySymbolsAreNotAllKept()
+{
+    window->run("var plain = Path2D, read = 0;"
+                "Path2D = function (text) { ++read; return new plain(text); };"
+                "var draw = number => mapEngine.drawSymbol({ path: `M 0 0 L ${number} 1`, strokeWeight: 1 });");
+    QCOMPARE(window->run("draw(7); draw(7); read"), QVariant(1.0));
+    QCOMPARE(window->run("for (let i = 1000; i < 2000; ++i) draw(i); read"), QVariant(1001.0));
+    QCOMPARE(window->run("draw(7); read"), QVariant(1002.0));
 }
 
 void TestPageRoses::aVorOnAnAirportIsDrawnAroundIt()
