@@ -157,8 +157,7 @@
     }
 
     begin(point) {
-      const last = this.runs[this.runs.length - 1];
-      this.runs.push(new Run(point[0] - Math.floor(point[0]), point[1], last ? last.start + last.length : 0));
+      this.runs.push(new Run(point[0] - Math.floor(point[0]), point[1], this.length()));
     }
 
     put(x, y) {
@@ -171,10 +170,15 @@
       this.runs[this.runs.length - 1].add(x, y);
     }
 
-    /** The whole line's length in units. */
+    /**
+     * The whole line's length in units. A line without a run is asked for first: the program's web view now and then
+     * throws where code that runs often reads before the beginning of an array.
+     */
     length() {
+      if (!this.runs.length)
+        return 0;
       const last = this.runs[this.runs.length - 1];
-      return last ? last.start + last.length : 0;
+      return last.start + last.length;
     }
   }
 

@@ -24,6 +24,7 @@ private slots:
     void aProcedureIsDashed();
     void symbolsPointTheWayOfTheLine();
     void symbolsOfAHugeLineStandInTheView();
+    void noLineReadsBeforeTheBeginningOfAnArray();
     void runwaysAreToScaleFromNear();
     void aRunwayIsSeenFromAfar();
     void anAreaIsFilled();
@@ -240,6 +241,19 @@ void TestPageLines::symbolsOfAHugeLineStandInTheView()
     // Eight dashes of ten pixels by four.
     QVERIFY2(found > 150 && found < 350, qPrintable(QString::number(found)));
     QCOMPARE(window->page->messages, QStringList());
+}
+
+void TestPageLines::noLineReadsBeforeTheBeginningOfAnArray()
+{
+    // Once such a read has been made often enough, the engine throws there now and then.
+    window->run("var early = 0;"
+                "Object.defineProperty(Array.prototype, '-1', { get: () => { ++early; }, configurable: true });"
+                "drawRwy(new google.maps.LatLng(46.50000, 2.48000),new google.maps.LatLng(46.50000, 2.52000));"
+                "clearFP();addPointToFp(new google.maps.LatLng(46.60000, 2.20000),\"LFXX\");"
+                "addPointToFp(new google.maps.LatLng(46.60000, 2.80000),\"LFYY\");pushFP();");
+    window->settle();
+    QVERIFY(window->run("map.lines.lines.size").toInt() > 0);
+    QCOMPARE(window->run("delete Array.prototype['-1']; early"), QVariant(0.0));
 }
 
 void TestPageLines::runwaysAreToScaleFromNear()
