@@ -129,6 +129,8 @@
       this.weight = this.height >= boldFrom ? 'bold' : 'normal';
       /** @type {?google.maps.Data.StyleOptions} */
       this.common = null;
+      /** @type {?google.maps.Data.StyleOptions} */
+      this.commonAround = null;
     }
 
     /**
@@ -139,7 +141,7 @@
     of(marker, isAround, isTold) {
       if (this.at.form === 'none')
         return hidden;
-      const style = isAround || marker.path ? this.newStyle(marker, isAround) : this.commonStyle(marker);
+      const style = marker.path ? this.newStyle(marker, isAround) : this.commonStyle(marker, isAround);
       return this.at.text && !isTold ? labelledStyle(style, this, marker) : style;
     }
 
@@ -149,11 +151,14 @@
       return { icon: page.symbolOf(marker, /** @type {SymbolForm} */ (this.at.form), scale), zIndex: this.height };
     }
 
-    /** What all markers share that have nothing of their own. @param {ChartMarker} marker one of them */
-    commonStyle(marker) {
-      if (!this.common)
-        this.common = this.newStyle(marker, false);
-      return this.common;
+    /**
+     * What all markers share that have nothing of their own.
+     * @type {(marker: ChartMarker, isAround: boolean) => google.maps.Data.StyleOptions} of one of them
+     */
+    commonStyle(marker, isAround) {
+      if (isAround)
+        return this.commonAround || (this.commonAround = this.newStyle(marker, true));
+      return this.common || (this.common = this.newStyle(marker, false));
     }
 
     /** @param {ChartMarker} marker */

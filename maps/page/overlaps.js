@@ -15,56 +15,74 @@
   const nearZoom = 9.5;
   const nearCell = 0.0125;
 
-  /** The row or column of cells of a latitude or longitude. @type {(degrees: number, width: number) => number} */
-  const lineOf = (degrees, width) => Math.floor(degrees / width);
-
-  /** The number of a cell; the column in any copy of the world. @type {(row: number, column: number, width: number) => number} */
-  function keyOf(row, column, width) {
-    const columns = Math.round(360 / width);
-    return row * columns + (column % columns + columns) % columns;
-  }
+  /** @param {number} zoom */
+  const pixelsPerDegree = zoom => 256 * Math.pow(2, zoom) / 360;
 
   /**
-   * Places in cells. Those of a cell are a chain, for nearly all hold one and a list for each would take longer: `last`
-   * tells the number of a cell's last place, `before` that of the place before it in the same cell, or -1.
+   * Places in cells, in plain numbers, for they are made anew for every feed. Cells share as many lists as there are
+   * places, and those of a list are a chain: `last` tells the number of a list's last place, `before` that of the place
+   * before it, or -1. What a list holds of cells elsewhere is told apart by its place.
    */
   class PlaceCells {
     /** @param {ChartMarker[]} markers @param {number} width */
     constructor(markers, width) {
+      const count = markers.length;
       this.width = width;
-      this.places = markers.map(marker => marker.position);
-      /** @type {Map<number, number>} */
-      this.last = new Map();
-      this.before = new Int32Array(this.places.length);
-      for (let i = 0; i < this.places.length; ++i) {
-        const place = this.places[i];
-        const key = keyOf(lineOf(place.lat(), width), lineOf(place.lng(), width), width);
-        const there = this.last.get(key);
-        this.before[i] = there === undefined ? -1 : there;
-        this.last.set(key, i);
+      this.columns = Math.round(360 / width);
+      this.mask = Math.pow(2, Math.ceil(Math.log2(count + 1))) - 1;
+      this.lats = new Float64Array(count);
+      this.lngs = new Float64Array(count);
+      this.last = new Int32Array(this.mask + 1).fill(-1);
+      this.before = new Int32Array(count);
+      for (let i = 0; i < count; ++i) {
+        const place = markers[i].position;
+        const lat = place.lat();
+        const lng = place.lng();
+        const list = this.listAt(Math.floor(lat / width), Math.floor(lng / width));
+        this.lats[i] = lat;
+        this.lngs[i] = lng;
+        this.before[i] = this.last[list];
+        this.last[list] = i;
       }
+    }
+
+    /** The list of a cell; the column in any copy of the world. @type {(row: number, column: number) => number} */
+    listAt(row, column) {
+      const columns = this.columns;
+      return (row * columns + (column % columns + columns) % columns) & this.mask;
     }
 
     /** Whether one of the places lies under a symbol. @param {Place} place @param {number} zoom */
     hasNear(place, zoom) {
       const width = this.width;
-      const reach = nearPixels / pixelsPerDegree(zoom);
-      const lastRow = lineOf(place.lat() + reach, width);
-      const lastColumn = lineOf(place.lng() + reach, width);
-      for (let row = lineOf(place.lat() - reach, width); row <= lastRow; ++row) {
-        for (let column = lineOf(place.lng() - reach, width); column <= lastColumn; ++column) {
-          if (this.hasNearIn(keyOf(row, column, width), place, zoom))
+      const lat = place.lat();
+      const lng = place.lng();
+      const pixels = pixelsPerDegree(zoom);
+      const reach = nearPixels / pixels;
+      const lastRow = Math.floor((lat + reach) / width);
+      const lastColumn = Math.floor((lng + reach) / width);
+      for (let row = Math.floor((lat - reach) / width); row <= lastRow; ++row) {
+        for (let column = Math.floor((lng - reach) / width); column <= lastColumn; ++column) {
+          if (this.hasNearIn(this.listAt(row, column), lat, lng, pixels))
             return true;
         }
       }
       return false;
     }
 
-    /** @param {number} key that of a cell @param {Place} place @param {number} zoom */
-    hasNearIn(key, place, zoom) {
-      const last = this.last.get(key);
-      for (let i = last === undefined ? -1 : last; i >= 0; i = this.before[i]) {
-        if (isNear(this.places[i], place, zoom))
+    /** @type {(list: number, lat: number, lng: number, pixels: number) => boolean} pixels of a degree of longitude */
+    hasNearIn(list, lat, lng, pixels) {
+      for (let i = this.last[list]; i >= 0; i = this.before[i]) {
+        const north = this.lats[i] - lat;
+        // Nearly all are told apart by this; the cosine takes longer.
+        if (Math.abs(north) * pixels > nearPixels)
+          continue;
+        const turn = this.lngs[i] - lng;
+        const east = turn - 360 * Math.round(turn / 360);
+        if (Math.abs(east) * pixels > nearPixels)
+          continue;
+        const stretch = Math.max(0.01, Math.cos(this.lats[i] * Math.PI / 180));
+        if (Math.hypot(north / stretch, east) * pixels <= nearPixels)
           return true;
       }
       return false;
@@ -73,20 +91,6 @@
 
   /** The airports that are shown; null: to be sorted when somebody asks. @type {?PlaceCells} */
   let airports = null;
-
-  /** @param {number} zoom */
-  const pixelsPerDegree = zoom => 256 * Math.pow(2, zoom) / 360;
-
-  /** @type {(a: Place, b: Place, zoom: number) => boolean} */
-  function isNear(a, b, zoom) {
-    const pixels = pixelsPerDegree(zoom);
-    const north = a.lat() - b.lat();
-    const east = page.degreesEast(a, b);
-    // Nearly all are told apart by this; the cosine takes longer.
-    if (Math.max(Math.abs(north), Math.abs(east)) * pixels > nearPixels)
-      return false;
-    return Math.hypot(north / Math.max(0.01, Math.cos(a.lat() * Math.PI / 180)), east) * pixels <= nearPixels;
-  }
 
   /** Whether markers of a kind are drawn around an airport where they would lie under it. */
   page.goesAround = symbol => around.indexOf(symbol) >= 0;
