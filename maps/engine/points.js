@@ -178,27 +178,16 @@
     const firstRow = Math.floor((top - margin) / crowd.pixels);
     const taken = new Uint8Array(columns * rows);
     const isKept = new Uint8Array(count);
-    let kept = 0;
     for (let i = count - 1; i >= 0; --i) {
       const column = Math.floor((xs[i] + left) / crowd.pixels) - firstColumn;
       const row = Math.floor((ys[i] + top) / crowd.pixels) - firstRow;
       const square = row * columns + column;
-      if (taken[square])
-        continue;
-      taken[square] = isKept[i] = 1;
-      ++kept;
+      isKept[i] = 1 - taken[square];
+      taken[square] = 1;
     }
-    level.points = new Array(kept);
-    level.xs = new Array(kept);
-    level.ys = new Array(kept);
-    for (let i = 0, to = 0; i < count; ++i) {
-      if (!isKept[i])
-        continue;
-      level.points[to] = points[i];
-      level.xs[to] = xs[i];
-      level.ys[to] = ys[i];
-      ++to;
-    }
+    level.points = points.filter((point, i) => isKept[i]);
+    level.xs = xs.filter((x, i) => isKept[i]);
+    level.ys = ys.filter((y, i) => isKept[i]);
   }
 
   engine.Points = Points;
