@@ -1,5 +1,6 @@
 #include "plainboxes.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QInputDialog>
@@ -18,12 +19,23 @@ bool isWithNames(const QObject* object)
     return qobject_cast<const QInputDialog*>(object) != nullptr;
 }
 
-/// No box is that long by itself. A name of a million letters would be laid out for many seconds.
+constexpr int longest = 8000; // characters: no box is that long by itself
+
+/// A name of a million letters would be laid out for many seconds.
 void shorten(QLabel& label)
 {
-    constexpr int longest = 8000;
     if (label.text().size() > longest) {
         label.setText(label.text().left(longest) + QLatin1String("..."));
+    }
+}
+
+/// A choice is as wide as its longest entry.
+void shorten(QComboBox& choice)
+{
+    for (int i = 0; i < choice.count(); ++i) {
+        if (choice.itemText(i).size() > longest) {
+            choice.setItemText(i, choice.itemText(i).left(longest) + QLatin1String("..."));
+        }
     }
 }
 
@@ -41,6 +53,9 @@ bool PlainBoxes::eventFilter(QObject* object, QEvent* event)
         for (QLabel* label : object->findChildren<QLabel*>()) {
             label->setTextFormat(Qt::PlainText);
             shorten(*label);
+        }
+        for (QComboBox* choice : object->findChildren<QComboBox*>()) {
+            shorten(*choice);
         }
     }
     return false;

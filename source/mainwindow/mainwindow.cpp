@@ -13,6 +13,7 @@
 #include "mywebpage.h"
 #include "plainboxes.h"
 #include "sealeddocument.h"
+#include "shorttexts.h"
 #include "simulatorfolders.h"
 #include "viewlayer.h"
 
@@ -77,6 +78,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(std::make_uniq
     }
     ui->setupUi(this);
     sealDebugText(*ui->debugText);
+    shortenTexts({ui->treeWFound, ui->fltplnGrid, ui->treeWSid, ui->treeWStar});
     setWindowTitle(tr("Zephan Trajector - Version %1").arg(version));
     createViewActions();
     connectMenuActions();

@@ -4,6 +4,7 @@
 #include "ui_mainwindow.h"
 
 #include "aircraftarchives.h"
+#include "boxtext.h"
 #include "cnavglobalvar.h"
 #include "cpodmgr.h"
 #include "platformpath.h"
@@ -19,7 +20,7 @@ void MainWindow::loadAircraft()
     for (const QString& path : paths) {
         // An archive that tells no maker gives an empty item: the indexes stay in step.
         aircraftList << QSharedPointer<CAircraftData>::create(readAircraftArchive(path));
-        ui->cbAircraftType->addItem(aircraftList.last()->make);
+        ui->cbAircraftType->addItem(boxText(aircraftList.last()->make));
         // So the last archive's numbers stay in the fields, until the dock is seen.
         showAircraft(*aircraftList.last());
     }

@@ -3,6 +3,7 @@
 #include "mainwindow.h"
 #include "ui_mainwindow.h"
 
+#include "boxtext.h"
 #include "cflightplan.h"
 #include "cnavglobalvar.h"
 #include "legs.h"
@@ -183,8 +184,8 @@ void MainWindow::on_fltplnGrid_cellClicked(int row, int column)
     ui->treeWSid->clear();
     ui->treeWStar->clear();
     fillSidStarTrees(line->dbKey);
-    ui->dockWSid->setWindowTitle(tr("SID : %1").arg(line->iden));
-    ui->dockWStar->setWindowTitle(tr("STAR : %1").arg(line->iden));
+    ui->dockWSid->setWindowTitle(tr("SID : %1").arg(boxText(line->iden)));
+    ui->dockWStar->setWindowTitle(tr("STAR : %1").arg(boxText(line->iden)));
 }
 
 void MainWindow::on_fltplnGrid_currentCellChanged(int currentRow, int currentColumn, int previousRow,

@@ -255,6 +255,9 @@ private slots:
         QTest::newRow("a tag in the last line")
             << podArchive({{"A.NFO", "<make>"}, {"A.SVH", "<acid>\nX\n<CEIL>"}}) << ""
             << "X 0 0 0 0";
+        QTest::newRow("a maker without an end")
+            << podAircraft(QByteArray(100000, 'M'), svh("F-LONG", 10)) << QString(2000, 'M') + "..."
+            << "F-LONG 11 12 14 15";
     }
     void anUnfitArchiveGivesItsItemAndItsNumbers()
     {

@@ -8,6 +8,7 @@
 #include "cflightplan.h"
 #include "mainwindow.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QContextMenuEvent>
 #include <QDialog>
@@ -16,6 +17,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
+#include <QTableWidget>
 #include <QTextEdit>
 #include <QWebView>
 #include <QtTest>
@@ -61,6 +63,8 @@ private slots:
     void theStatusBarShowsMarkupAsText();
     void aBoxShowsANameAsText();
     void aBoxShowsTheStartOfAnEndlessName();
+    void aListShowsTheStartOfAnEndlessName();
+    void aChoiceShowsTheStartOfAnEndlessName();
     void anInputBoxShowsANameAsText();
     void theBoxAboutQtKeepsItsMarkup();
     void aScriptPressesWhatTheUserMayPress();
@@ -218,6 +222,39 @@ void TestHostileNames::aBoxShowsTheStartOfAnEndlessName()
     world.click("btnStartPos");
     QVERIFY(boxes.allUsed());
     QCOMPARE(boxes.seen().value(1).text, "Voulez vous définir " + QString(8000 - 20, 'I') + "...");
+}
+
+void TestHostileNames::aListShowsTheStartOfAnEndlessName()
+{
+    const QString endless(100000, 'I');
+    PlanWindow world([&](const Sandbox& inner) {
+        inner.addAirport({{"ukey", "BIG"}, {"iden", endless}, {"name", endless}});
+        inner.addRunway({{"rapt", "BIG"}});
+        inner.addProcedureLeg({{"sapt", "BIG"}, {"sqnm", 10}, {"styp", 2}, {"strm", endless}});
+        inner.addProcedureLeg({{"skey", "2"}, {"sapt", "BIG"}, {"sqnm", 10}, {"styp", 1}, {"strm", endless}});
+    });
+    world.add({"BIG"});
+    world.grid()->cellClicked(0, 1);
+    world.window->findChild<QLineEdit*>("searchData")->setText("BIG");
+    world.window->searchInTable(true);
+    QCOMPARE(world.cell(0, 2), endless);
+    const QMap<QString, int> columns{{"fltplnGrid", 2}, {"treeWFound", 3}, {"treeWSid", 0}, {"treeWStar", 0}};
+    for (auto column = columns.begin(); column != columns.end(); ++column) {
+        const auto* view = world.window->findChild<QAbstractItemView*>(column.key());
+        QVERIFY2(view->model()->rowCount() == 1, qPrintable(column.key()));
+        QVERIFY2(view->sizeHintForColumn(column.value()) < 50000, qPrintable(column.key())); // 50 pixels a letter
+    }
+    QCOMPARE(world.title("dockWSid"), "SID : " + QString(2000, 'I') + "...");
+    QCOMPARE(world.title("dockWStar"), "STAR : " + QString(2000, 'I') + "...");
+}
+
+void TestHostileNames::aChoiceShowsTheStartOfAnEndlessName()
+{
+    session.reset(new WindowSession);
+    BoxResponder boxes;
+    boxes.expectInputRejected("Voie aérienne", "");
+    QInputDialog::getItem(&session->window(), "Voie aérienne", "", {QString(100000, 'I'), "UM729"});
+    QCOMPARE(boxes.seen().value(0).choices, (QStringList{QString(8000, 'I') + "...", "UM729"}));
 }
 
 void TestHostileNames::theBoxAboutQtKeepsItsMarkup()
