@@ -14,9 +14,12 @@
 
   /**
    * How lines are drawn; `step` is their least step. The first lies under the land: a broad band that lets the water
-   * change its tone towards the shore. Rivers end in their lakes, the others lie over the fills in this order.
+   * change its tone towards the shore, by so much of the coast's colour. It is opaque: one that shines through would be
+   * twice as strong where cells overlap, and in straits. Rivers end in their lakes, the others lie over the fills in
+   * this order.
    */
-  const shallows = { kind: 'land', colour: 'coast', width: 9, strength: 0.16, step: 3, fromZoom: 4.5 };
+  const shallows = { kind: 'land', width: 9, strength: 1, step: 3, fromZoom: 4.5 };
+  const shallowsTone = 0.16;
   const rivers = { kind: 'rivers', colour: 'coast', width: 1, strength: 0.8, step: leastStep, fromZoom: 0 };
   const lines = [
     { kind: 'borders', colour: 'border', width: 1.2, strength: 1, step: leastStep, fromZoom: 0 },
@@ -30,8 +33,17 @@
       && line.bottom * scale - frame.top >= -margin && line.top * scale - frame.top <= frame.height + margin;
   }
 
-  /** A ring's points in pixels of the frame, those that fall together once. */
-  function pixelsOf(frame, points, left) {
+  /** Whether a point of a ring ends one of the edges that cutting into cells has made. */
+  function isCut(shown, i) {
+    return !shown[i] || !shown[(i || shown.length) - 1];
+  }
+
+  /**
+   * A ring's points in pixels of the frame, those that fall together once. The ends of a cut stay: where two of a
+   * ring's cuts lie on each other, between two bays, they would gape by a part of a pixel and leave a line on the sea.
+   */
+  function pixelsOf(frame, line, left) {
+    const { points, shown } = line;
     const scale = frame.scale;
     const ring = [];
     let lastX = Infinity;
@@ -39,7 +51,7 @@
     for (let i = 0; i < points.length; i += 2) {
       const x = points[i] * scale - left;
       const y = points[i + 1] * scale - frame.top;
-      if (Math.abs(x - lastX) + Math.abs(y - lastY) > leastStep) {
+      if (Math.abs(x - lastX) + Math.abs(y - lastY) > leastStep || isCut(shown, i / 2)) {
         ring.push(x, y);
         lastX = x;
         lastY = y;
@@ -49,9 +61,9 @@
   }
 
   /** Far zoomed in a ring is cut, for a canvas has no room for numbers without end. */
-  function traceRing(frame, points, left) {
+  function traceRing(frame, line, left) {
     const context = frame.context;
-    let ring = pixelsOf(frame, points, left);
+    let ring = pixelsOf(frame, line, left);
     if (frame.zoom > 8)
       ring = engine.clipRing(ring, -margin, -margin, frame.width + margin, frame.height + margin);
     for (let i = 0; i < ring.length; i += 2) {
@@ -65,7 +77,7 @@
 
   function fillRings(frame, rings, left) {
     frame.context.beginPath();
-    rings.forEach(ring => traceRing(frame, ring.points, left));
+    rings.forEach(ring => traceRing(frame, ring, left));
     frame.context.fill('evenodd');
   }
 
@@ -142,19 +154,6 @@
     pen.lift();
   }
 
-  /** Cells overlap a little, and a band that shines through would be twice as strong there. */
-  function clipToCell(frame, cell) {
-    const { box, left } = cell;
-    const at = (value, least, most) => Math.max(least, Math.min(most, Math.round(value)));
-    const x = at(box.left * frame.scale - left, 0, frame.width);
-    const y = at(box.top * frame.scale - frame.top, 0, frame.height);
-    const right = at(box.right * frame.scale - left, 0, frame.width);
-    const bottom = at(box.bottom * frame.scale - frame.top, 0, frame.height);
-    frame.context.beginPath();
-    frame.context.rect(x, y, right - x, bottom - y);
-    frame.context.clip();
-  }
-
   class Outlines {
     constructor(data) {
       this.levels = engine.worldLevels(data);
@@ -178,7 +177,6 @@
       const pick = lines => lines.filter(line => isNear(frame, line, cell.left));
       return {
         left: cell.left,
-        box: cell.box,
         land: pick(cell.lines.land),
         lakes: pick(cell.lines.lakes.filter(lake => frame.zoom < lake.last)),
         borders: pick(cell.lines.borders),
@@ -207,20 +205,22 @@
       cells.forEach(cell => fillRings(frame, cell[kind], cell.left));
     }
 
+    colourOf(style) {
+      const { sea, coast } = this.colours;
+      if (style === shallows)
+        return sea && coast ? engine.mixed(sea, coast, shallowsTone) : null;
+      return this.colours[style.colour];
+    }
+
     stroke(frame, cells, style) {
       const context = frame.context;
-      if (!this.colours[style.colour] || frame.zoom < style.fromZoom)
+      const colour = this.colourOf(style);
+      if (!colour || frame.zoom < style.fromZoom)
         return;
-      context.strokeStyle = this.colours[style.colour];
+      context.strokeStyle = colour;
       context.lineWidth = style.width * (frame.zoom < farZoom ? farWidth : 1);
       context.globalAlpha = style.strength;
-      cells.filter(cell => cell[style.kind].length).forEach(cell => {
-        context.save();
-        if (style === shallows)
-          clipToCell(frame, cell);
-        cell[style.kind].forEach(line => strokeLine(frame, line, cell.left, style.step));
-        context.restore();
-      });
+      cells.forEach(cell => cell[style.kind].forEach(line => strokeLine(frame, line, cell.left, style.step)));
       context.globalAlpha = 1;
     }
   }

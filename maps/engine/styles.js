@@ -48,9 +48,19 @@
     return colours;
   };
 
+  /** One of the three channels of a colour of the form #rrggbb. @type {(colour: string, at: number) => number} */
+  const channel = (colour, at) => parseInt(colour.slice(2 * at + 1, 2 * at + 3), 16);
+
   /** @return {boolean} whether a colour of the form #rrggbb is nearer to black than to white */
-  engine.isDark = colour => {
-    const channel = at => parseInt(colour.slice(at, at + 2), 16);
-    return 0.299 * channel(1) + 0.587 * channel(3) + 0.114 * channel(5) < 128;
+  engine.isDark = colour =>
+    0.299 * channel(colour, 0) + 0.587 * channel(colour, 1) + 0.114 * channel(colour, 2) < 128;
+
+  /**
+   * A colour with a part of another, both of the form #rrggbb.
+   * @param {number} part from 0 to 1
+   */
+  engine.mixed = (colour, other, part) => {
+    const mixed = [0, 1, 2].map(at => Math.round(channel(colour, at) * (1 - part) + channel(other, at) * part));
+    return `rgb(${mixed.join()})`;
   };
 })();

@@ -132,18 +132,6 @@
       return box;
     }
 
-    /** A cell without what overlaps its neighbours, in unit coordinates. */
-    boxOf(column, row) {
-      const west = column * this.cell - 180;
-      const south = row * this.cell - 90;
-      return {
-        left: engine.unitX(west),
-        right: engine.unitX(west + this.cell),
-        top: engine.unitY(south + this.cell),
-        bottom: engine.unitY(south),
-      };
-    }
-
     /** The cells that a frame shows, with the frame's left edge as seen from the copy of the world that they lie in. */
     inFrame(frame) {
       const found = [];
@@ -155,10 +143,9 @@
       for (let at = this.index(west - reach, 180); at <= this.index(east + reach, 180); ++at) {
         const world = Math.floor(at / this.columns);
         for (let row = this.index(south - reach, 90); row <= this.index(north + reach, 90); ++row) {
-          const column = at - world * this.columns;
-          const lines = this.cellAt(column, row);
+          const lines = this.cellAt(at - world * this.columns, row);
           if (lines)
-            found.push({ lines: lines, left: frame.left - world * frame.scale, box: this.boxOf(column, row) });
+            found.push({ lines: lines, left: frame.left - world * frame.scale });
         }
       }
       return found;

@@ -356,6 +356,7 @@ interface MapEngine {
 
   baseColours(rules?: google.maps.MapTypeStyle[] | null): Colours;
   isDark(colour: string): boolean;
+  mixed(colour: string, other: string, part: number): string;
   worldLevels(data: any[] | null): any[];
   Outlines: new (data: any[] | null) => Painter & { colours: Colours };
   Graticule: new () => Painter & { colours: Colours };

@@ -45,7 +45,10 @@ private slots:
     void theMapGoesOnOverTheDateLine();
     void southOfTheLimitLiesAntarctica();
     void noShoreRunsAlongTheLimit();
-    void shallowsAreEvenWhereCellsMeet();
+    void shallowsAreOfOneTone_data();
+    void shallowsAreOfOneTone();
+    void noLineCrossesTheSeaBetweenTwoBays_data();
+    void noLineCrossesTheSeaBetweenTwoBays();
     void northOfTheLimitLiesTheSea();
     void theScaleFollowsTheLatitude();
 
@@ -396,10 +399,21 @@ void TestPageBaseMap::noShoreRunsAlongTheLimit()
     }
 }
 
-void TestPageBaseMap::shallowsAreEvenWhereCellsMeet()
+void TestPageBaseMap::shallowsAreOfOneTone_data()
 {
-    // Quiberon, on both sides of a cell's edge at 47.5 north.
-    look(47.5, -3.13, 11);
+    QTest::addColumn<double>("latitude");
+    QTest::addColumn<double>("longitude");
+    QTest::addColumn<double>("zoom");
+    QTest::newRow("where cells meet, at Quiberon") << 47.5 << -3.13 << 11.0;
+    QTest::newRow("between the Hebrides") << 57.3 << -7.0 << 5.0;
+}
+
+void TestPageBaseMap::shallowsAreOfOneTone()
+{
+    QFETCH(double, latitude);
+    QFETCH(double, longitude);
+    QFETCH(double, zoom);
+    look(latitude, longitude, zoom);
     window->settle();
     const QImage image = window->view->grab().toImage();
     // The coast's colour over the sea's, once and twice.
@@ -425,6 +439,25 @@ void TestPageBaseMap::shallowsAreEvenWhereCellsMeet()
     };
     QVERIFY2(count(tone(1)) > 1000, qPrintable(QString::number(count(tone(1)))));
     QVERIFY2(count(tone(2)) < 40, qPrintable(QString::number(count(tone(2)))));
+}
+
+void TestPageBaseMap::noLineCrossesTheSeaBetweenTwoBays_data()
+{
+    QTest::addColumn<double>("latitude");
+    QTest::addColumn<double>("longitude");
+    QTest::addColumn<double>("zoom");
+    QTest::newRow("Bristol Channel") << 50.9 << -4.95 << 7.0;
+    QTest::newRow("Mediterranean") << 35.5 << 22.55 << 4.6;
+}
+
+void TestPageBaseMap::noLineCrossesTheSeaBetweenTwoBays()
+{
+    // On a cell's edge, with land of one ring north and south of it.
+    QFETCH(double, latitude);
+    QFETCH(double, longitude);
+    QFETCH(double, zoom);
+    look(latitude, longitude, zoom);
+    QCOMPARE(window->pixelsAround(latitude, longitude, 5, sea), 11 * 11);
 }
 
 void TestPageBaseMap::northOfTheLimitLiesTheSea()
