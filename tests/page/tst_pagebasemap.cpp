@@ -24,6 +24,7 @@ private slots:
 
     void citiesAreNamedByZoom();
     void theListsOfNamesAreWhole();
+    void aSeaIsNotNamedTwiceSideBySide();
     void namesDoNotOverlap();
     void namesComeInThePagesLanguage();
     void aNameStaysWhileTheMapMoves();
@@ -119,6 +120,17 @@ void TestPageBaseMap::citiesAreNamedByZoom()
     QVERIFY(!names().contains("Vichy"));
     look(46.8, 2.4, 8);
     QVERIFY(names().contains("Vichy"));
+}
+
+void TestPageBaseMap::aSeaIsNotNamedTwiceSideBySide()
+{
+    look(30, 180, 2);
+    QCOMPARE(names().count("Océan Pacifique nord"), 1);
+    look(36, 15, 4);
+    QCOMPARE(names().count("Mer Méditerranée"), 1);
+    // A view from nearer has room for one of its two basins alone.
+    look(36, 15, 5);
+    QCOMPARE(names().count("Mer Méditerranée"), 2);
 }
 
 void TestPageBaseMap::theListsOfNamesAreWhole()
