@@ -165,6 +165,7 @@ private slots:
         QTest::addColumn<QByteArray>("value");
         QTest::addColumn<QString>("path");
         QTest::newRow("a drive letter is absolute") << QByteArray("D:/Data") << "D:/Data";
+        QTest::newRow("a digit is no drive letter") << QByteArray("1:/Data") << "%1/1:/Data";
         QTest::newRow("absolute") << QByteArray("/srv/../data") << "/srv/../data";
         QTest::newRow("relative is cleaned") << QByteArray("data/../sql") << "%1/sql";
         QTest::newRow("relative upwards") << QByteArray("../SQL/") << "%1/../SQL";

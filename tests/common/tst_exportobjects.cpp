@@ -48,6 +48,7 @@ private slots:
     void anObjectWithoutATexture();
     void anObjectThatIsNotThere();
     void anObjectsExistingFile();
+    void anObjectsProtectedFileIsReplaced();
     void anObjectsExistingFileIsKeptOnNo();
     void anObjectsFileThatCannotBeOpenedIsASuccess();
     void aProjectWithItsObjects();
@@ -176,6 +177,20 @@ void TestExportObjects::anObjectsExistingFile()
     addModel(world, "T.SMF", "", "1");
     world.sandbox.writeFile("t.CSV", QByteArray(5000, 'x'));
     const QString path = world.sandbox.path("t.CSV");
+    world.boxes.expectMessage("Attention", existsText(path), QMessageBox::Yes);
+    world.boxes.expectMessage("", "L'objet 3D T.SMF a été enregistré dans " + path);
+    QVERIFY(world.exchange.exportM3D(dbfile::m3d, "T.SMF", path));
+    QCOMPARE(world.sandbox.readFile("t.CSV").count('\n'), 2);
+}
+
+// Root may write any file: it is all others whose file is taken away first.
+void TestExportObjects::anObjectsProtectedFileIsReplaced()
+{
+    UpdateWorld world;
+    addModel(world, "T.SMF", "", "1");
+    world.sandbox.writeFile("t.CSV", "old");
+    const QString path = world.sandbox.path("t.CSV");
+    QVERIFY(QFile::setPermissions(path, QFile::ReadOwner));
     world.boxes.expectMessage("Attention", existsText(path), QMessageBox::Yes);
     world.boxes.expectMessage("", "L'objet 3D T.SMF a été enregistré dans " + path);
     QVERIFY(world.exchange.exportM3D(dbfile::m3d, "T.SMF", path));

@@ -177,6 +177,10 @@ private slots:
                                                   << "00 00' 60.00 N";
         QTest::newRow("beyond the pole") << 360000.0 << "100 00' 00.00\" N"
                                          << "100 00' 00.00 N";
+        QTest::newRow("not a number") << notANumber << "nan nan' 00nan\" N"
+                                      << "nan nan' 00nan N";
+        QTest::newRow("infinity") << infinity << "inf nan' 00nan\" N"
+                                  << "inf nan' 00nan N";
     }
 
     void latitudeTexts()

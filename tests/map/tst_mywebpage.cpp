@@ -123,6 +123,35 @@ private slots:
         QCOMPARE(QWebSettings::maximumPagesInCache(), 0);
     }
 
+    // Whatever the engine's own defaults are: a page takes over what it does not set itself.
+    void whatAMapNeedsNoneOfIsOff()
+    {
+        const QVector<QWebSettings::WebAttribute> attributes{QWebSettings::JavaEnabled,
+                                                             QWebSettings::PluginsEnabled,
+                                                             QWebSettings::JavascriptCanOpenWindows,
+                                                             QWebSettings::JavascriptCanCloseWindows,
+                                                             QWebSettings::JavascriptCanAccessClipboard,
+                                                             QWebSettings::DeveloperExtrasEnabled,
+                                                             QWebSettings::OfflineStorageDatabaseEnabled,
+                                                             QWebSettings::OfflineWebApplicationCacheEnabled,
+                                                             QWebSettings::LocalStorageEnabled,
+                                                             QWebSettings::LocalContentCanAccessRemoteUrls,
+                                                             QWebSettings::LocalContentCanAccessFileUrls,
+                                                             QWebSettings::DnsPrefetchEnabled,
+                                                             QWebSettings::HyperlinkAuditingEnabled,
+                                                             QWebSettings::NotificationsEnabled,
+                                                             QWebSettings::MediaEnabled};
+        QWebSettings* all = QWebSettings::globalSettings();
+        for (const QWebSettings::WebAttribute attribute : attributes) {
+            const bool usual = all->testAttribute(attribute);
+            all->setAttribute(attribute, true);
+            QVERIFY(QWebPage().settings()->testAttribute(attribute));
+            const bool isOn = myWebPage().settings()->testAttribute(attribute);
+            all->setAttribute(attribute, usual);
+            QVERIFY2(!isOn, qPrintable(QString::number(attribute)));
+        }
+    }
+
     void confirmAndPromptAnswerNoWithoutABox()
     {
         OpenPage page;
@@ -133,6 +162,7 @@ private slots:
 
     void noScriptChoosesAFile()
     {
+        QVERIFY(!myWebPage().supportsExtension(QWebPage::ChooseMultipleFilesExtension));
         Scene scene;
         scene.run(
             "['', 'multiple'].forEach(kind => { var input = document.createElement('input'); input.type = 'file'; "

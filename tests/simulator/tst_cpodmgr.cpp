@@ -157,6 +157,16 @@ private slots:
         QCOMPARE(names(pod), QStringList({QString(300000, 'n') + "SVH", "B"}));
     }
 
+    void nameWithoutAnEndIsCut()
+    {
+        constexpr int longest = 1024 * 1024;
+        constexpr int block = 64 * 1024; // the last one of a name comes in whole
+        const CPodMgr pod(write(podArchive({{QByteArray(3 * longest, 'n'), "x"}})));
+        QCOMPARE(pod.entries.size(), 1);
+        const int size = pod.entries.first()->name.size();
+        QVERIFY2(size >= longest && size < longest + block, qPrintable(QString::number(size)));
+    }
+
     void emptyNameIsAName()
     {
         const CPodMgr pod(write({{"", "x"}, {"B", "y"}, {"", "z"}}));
