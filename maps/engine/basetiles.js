@@ -12,6 +12,8 @@
   const ring = 1;
   /** What may go to them of one frame, milliseconds. One is painted in any case. */
   const spareTime = 2;
+  /** Of the canvases in use, how many more wait for their next use. */
+  const spareCanvases = 0.5;
 
   engine.BaseTiles = L.Layer.extend({
     /**
@@ -41,6 +43,7 @@
       window.cancelAnimationFrame(this.pending);
       this.pending = 0;
       this.drop(() => true);
+      this.keepFew();
       this.box.remove();
       this.leaflet = null;
     },
@@ -80,6 +83,7 @@
         painted += this.paint(tile) ? 1 : 0;
       });
       this.paintAround(around, painted === 0);
+      this.keepFew();
     },
 
     /** @param {boolean} now whether this frame has time for it; what is left waits for the next */
@@ -149,6 +153,13 @@
         this.tiles.delete(key);
         this.box.removeChild(tile.canvas);
         this.unused.push(tile.canvas);
+      });
+    },
+
+    /** What a larger window has needed goes, its pixels at once: the engine collects rubbish in its own time. */
+    keepFew: function () {
+      this.unused.splice(Math.floor(this.tiles.size * spareCanvases)).forEach(canvas => {
+        canvas.width = canvas.height = 0;
       });
     },
 

@@ -10,6 +10,7 @@ class TestPageView : public PageTest
 private slots:
     void whatIsSetIsReadBackExactly();
     void theCentreSurvivesZoomAndResize();
+    void aSmallWindowKeepsNoPixelsOfALargeOne();
     void aZoomOutOfRangeIsCut();
     void whatIsNoNumberIsIgnored();
     void eachCentreIsReported();
@@ -69,6 +70,28 @@ void TestPageView::theCentreSurvivesZoomAndResize()
     QCOMPARE(number("map.getCenter().lat()"), 48.12345);
     QCOMPARE(number("map.getCenter().lng()"), 2.98765);
     QCOMPARE(number("map.getZoom()"), 6.0);
+}
+
+void TestPageView::aSmallWindowKeepsNoPixelsOfALargeOne()
+{
+    const auto resize = [this](const QSize& size) {
+        window->view->resize(size);
+        QTRY_COMPARE_WITH_TIMEOUT(window->run("innerWidth").toInt(), size.width(), 20000);
+        QTRY_COMPARE_WITH_TIMEOUT(window->run("innerHeight").toInt(), size.height(), 20000);
+        window->settle();
+    };
+    resize({1500, 1000});
+    QTRY_VERIFY_WITH_TIMEOUT(number("map.base.world.tiles.size") > 60, 20000);
+    window->run("var former = Array.from(map.base.world.tiles.values()).map(tile => tile.canvas)");
+    const double large = number("former.length");
+    resize({400, 300});
+    QTRY_VERIFY_WITH_TIMEOUT(number("map.base.world.tiles.size") * 2 < large, 20000);
+    const double inUse = number("map.base.world.tiles.size");
+    // Some more wait for a pan.
+    const double kept = number("former.filter(canvas => canvas.width > 0).length");
+    QVERIFY2(kept <= inUse * 1.5, qPrintable(QString("%1 of %2").arg(kept).arg(large)));
+    window->run("map.setCenter(new google.maps.LatLng(46.50000,-8.00000))");
+    QVERIFY(window->pixelsAround(46.5, -8, 60, QColor("#d3e4ee")) > 1000);
 }
 
 void TestPageView::aZoomOutOfRangeIsCut()
