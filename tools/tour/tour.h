@@ -103,8 +103,9 @@ private:
     /// Clicks a switch of the tool bar, which is then to be as told.
     void clickToolBar(const QString& action, bool checked);
 
-    /// Starts the simulator's stand-in with the options that tell its way, and returns once it publishes.
-    void startFlight(const QStringList& way);
+    /// Starts the simulator's stand-in with the options that tell its way, `factor` times faster than in reality, and
+    /// returns once it publishes.
+    void startFlight(const QStringList& way, int factor);
     void endFlight();
     /// Fills the open dialog of the new waypoint, and ends it by its OK.
     void fillWaypoint(QDialog* dialog);
