@@ -107,9 +107,9 @@ void Tour::startFlight(const QStringList& way, int factor)
     simulator->start(QCoreApplication::applicationDirPath() + "/flysim",
                      way + QStringList{"--speed", "450", "--factor", QString::number(factor)});
     // It tells its status once it has published: a block that an earlier simulator left says nothing.
-    QTest::qWaitFor([this] { return simulator->canReadLine() || simulator->state() == QProcess::NotRunning; },
-                    patience);
-    require(simulator->canReadLine(), "flysim does not fly: " + simulator->readAllStandardError());
+    const bool isOver = QTest::qWaitFor(
+        [this] { return simulator->canReadLine() || simulator->state() == QProcess::NotRunning; }, patience);
+    require(isOver && simulator->canReadLine(), "flysim does not fly: " + simulator->readAllStandardError());
 }
 
 void Tour::traceFlight()
