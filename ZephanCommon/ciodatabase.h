@@ -25,7 +25,8 @@ public:
     /// Asks for update files and imports each. A file that cannot be opened is skipped without a word.
     void importFiles(CGlobalVar* navVar);
     /// Carries out the lines of an open file to its end. A line that fails is reported and the next one follows; false
-    /// when a line stopped the file: one for a database or a table that is not known.
+    /// when a line stopped the file, of which a box has told: one for a database or a table that is not known, one for
+    /// a database whose file is no longer in place, one that is too long.
     bool importDB(QFile& file, CGlobalVar* navVar);
     /// Carries out one line that deletes: the rows with a key, or, with an empty key and after a question, the table.
     void deleteAll(const QSqlDatabase& db, const QStringList& fields);

@@ -65,6 +65,6 @@ public:
     QTableWidget* grid;      ///< not owned
     QStringList textLines;   ///< text of the file last built, each piece with its own line feed
     int userWptCount = 0;
-    CFpLinePtr currentLine; ///< the line that the file reader is filling
+    CFpLinePtr currentLine; ///< the last line of the file loaded last; nothing looks at it
     CFpLine startLine;      ///< only latS, lonS, elev and heading matter
 };
