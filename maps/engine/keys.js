@@ -30,7 +30,7 @@
    * The keys of plus and minus, of the block of figures and of the rest, as browsers number them.
    * @type {Record<number, boolean>}
    */
-  const inwards = { 43: true, 61: true, 107: true, 171: true, 187: true, 45: false, 109: false, 173: false, 189: false };
+  const inwards = { 61: true, 107: true, 171: true, 187: true, 109: false, 173: false, 189: false };
 
   /** Glides: each press lengthens the way, each frame goes a part of it, whole pixels at a time. */
   class Glide {

@@ -15,6 +15,7 @@ private slots:
     void theArrowsMoveTheMap();
     void twoArrowsGoTwiceAsFar();
     void plusAndMinusZoom();
+    void insertDoesNotZoom();
     void zoomingByKeysKeepsTheCentre();
     void keysWithModifiersAreNotTheMaps();
     void theMapCanBeReachedByTab();
@@ -107,6 +108,18 @@ void TestPageKeys::plusAndMinusZoom()
     for (int i = 0; i < 20; ++i)
         window->pressKey(Qt::Key_Minus);
     QCOMPARE(number("map.getZoom()"), 2.0);
+}
+
+void TestPageKeys::insertDoesNotZoom()
+{
+    // Its number is the letter code of the minus, and it is the 0 of the block of figures while that gives no figures.
+    window->pressKey(Qt::Key_Insert);
+    window->pressKey(Qt::Key_Insert, Qt::KeypadModifier);
+    QCOMPARE(number("map.getZoom()"), 8.0);
+    window->pressKey(Qt::Key_Plus, Qt::KeypadModifier);
+    QCOMPARE(number("map.getZoom()"), 9.0);
+    window->pressKey(Qt::Key_Minus, Qt::KeypadModifier);
+    QCOMPARE(number("map.getZoom()"), 8.0);
 }
 
 void TestPageKeys::zoomingByKeysKeepsTheCentre()
