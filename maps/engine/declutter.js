@@ -229,6 +229,14 @@
       return this.room && zoom === this.zoom ? this.room.heightIn(x, y, width, height, pinLevel) : 0;
     }
 
+    /**
+     * Takes the room of a name that is written beside its place; `coverAt` tells of it from now on.
+     * @param {Box} box pixels of the whole world at the zoom of the last picture
+     */
+    putName(box) {
+      this.room.putBox(box.left, box.top, box.right, box.bottom, nameLevel);
+    }
+
     putSymbols(each) {
       const height = level(each.height);
       const { points, xs, ys } = each;

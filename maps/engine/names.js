@@ -216,8 +216,11 @@
       });
       waiting.forEach(place => {
         const other = this.otherPlace(place, frame.zoom, room);
-        if (other)
+        if (other) {
           this.written.push(other);
+          // The chart knows where the name asked to stand, not where it stands now.
+          room.putName(other);
+        }
       });
       this.makePictures(this.written.map(place => place.name));
       this.written.forEach(place => this.write(frame.context, place, frame.left, frame.top));

@@ -181,6 +181,8 @@ interface WrittenNames {
 /** What the chart has taken of the room for texts: declutter.js tells the heights. */
 interface TakenRoom {
   coverAt(zoom: number, x: number, y: number, width: number, height: number): number;
+  /** A name stands elsewhere than where `placesAt` has it. */
+  putName(box: Box): void;
 }
 
 interface Declutter extends TakenRoom {

@@ -23,6 +23,7 @@ private slots:
     void aLabelStandsBesideARunway();
     void aLabelKeepsAwayFromTheStartMarker();
     void aDegreeStaysAwayFromALabel();
+    void aDegreeStaysAwayFromANameThatHasMoved();
     void aRowOfSymbolsLeavesTheirOwnLabelsRoom();
     void aLongLabelIsCutBeforeItLiesOnASymbol();
 };
@@ -282,6 +283,27 @@ void TestPageLabels::aDegreeStaysAwayFromALabel()
     window->run("ArptMgr.clearMarkers()");
     window->settle();
     QVERIFY(window->run("map.base.labels.shown").toStringList().contains("2°30'E"));
+}
+
+void TestPageLabels::aDegreeStaysAwayFromANameThatHasMoved()
+{
+    // Nevers, 29 pixels east of a meridian, 9 below the upper edge of the view; its name stands right of its dot.
+    window->run("map.setZoom(8);map.setCenter(new google.maps.LatLng("
+                "mapEngine.latitudeOf(mapEngine.unitY(46.99) + 291 / 65536), 3.16))");
+    window->settle();
+    const QString side = "var town = map.base.names.written.find(each => each.name.text === 'Nevers');"
+                         "Math.sign(town.letters - town.x) + ' ' + (town.row - town.y)";
+    QCOMPARE(window->run(side).toString(), QString("1 0"));
+    QVERIFY(window->run("map.base.labels.shown").toStringList().contains("3°E"));
+    // 28 pixels east of the dot: the name goes to the other side, where the degree stands.
+    addAirport("LFXX", 46.99, 3.31);
+    window->run("pushAPT();");
+    window->settle();
+    QCOMPARE(window->run(side).toString(), QString("-1 0"));
+    QVERIFY(!window->run("map.base.labels.shown").toStringList().contains("3°E"));
+    window->run("ArptMgr.clearMarkers()");
+    window->settle();
+    QVERIFY(window->run("map.base.labels.shown").toStringList().contains("3°E"));
 }
 
 void TestPageLabels::aRowOfSymbolsLeavesTheirOwnLabelsRoom()
