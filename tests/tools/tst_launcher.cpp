@@ -306,6 +306,25 @@ private slots:
         QCOMPARE(contentOf(page), QByteArray("older page"));
     }
 
+    void aFileThatCannotBeReadKeepsTheOldOne()
+    {
+        const QString unreadable = "/sys/class/net/lo/speed"; // opens, and fails every read
+        if (!QFile::exists(unreadable))
+            QSKIP("no such file on this machine");
+        layOutPackage();
+        const QString page = path("sim/Tools/Trajector/maps/page/map.js");
+        writeFile(page, "older page");
+        QVERIFY(QFile::remove(path("package/maps/page/map.js")));
+        QVERIFY(QFile::link(unreadable, path("package/maps/page/map.js")));
+        const QString start = "Zephan Trajector ne peut pas être placé dans le dossier du simulateur :\n" + page + '\n';
+        const QString told = launcher::bringUpToDate(path("package"), path("sim/Tools/Trajector"));
+        QVERIFY2(told.startsWith(start), qPrintable(told));
+        QCOMPARE(contentOf(page), QByteArray("older page"));
+        // Nor does the comparison of two such files go on for ever.
+        QVERIFY(QFile::remove(page) && QFile::link(unreadable, page));
+        QVERIFY(launcher::bringUpToDate(path("package"), path("sim/Tools/Trajector")).startsWith(start));
+    }
+
 private:
     QString path(const QString& name) const
     {

@@ -44,8 +44,9 @@ bool sameBytes(const QString& one, const QString& other)
     }
     constexpr qint64 portion = 1 << 20; // bytes
     while (!a.atEnd()) {
-        if (a.read(portion) != b.read(portion)) {
-            return false;
+        const QByteArray bytes = a.read(portion);
+        if (bytes.isEmpty() || bytes != b.read(portion)) {
+            return false; // nothing comes, ahead of the end, where the reading fails
         }
     }
     return true;
@@ -62,7 +63,11 @@ QString copyFile(const QString& from, const QString& to)
     if (!target.open(QIODevice::WriteOnly)) {
         return target.errorString();
     }
-    target.write(source.readAll());
+    const QByteArray bytes = source.readAll();
+    if (source.error() != QFileDevice::NoError) {
+        return source.errorString(); // what came ahead of a failure is no program
+    }
+    target.write(bytes);
     // A disk of another system knows no such rights, and then needs none.
     target.setPermissions(source.permissions() | QFileDevice::WriteOwner);
     // Flushed by hand: what fails in the flush of `commit` itself goes unnoticed there, and an empty file takes over.
