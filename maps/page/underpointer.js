@@ -91,6 +91,16 @@
   /** @param {ChartMarker} marker */
   const kindOf = marker => pageWords[`kind${capital(marker.symbol)}`] || pageWords[`kind${capital(marker.family)}`];
 
+  /** What is shown of a text, in characters, and of its lines: the layout takes the square of a word's length. */
+  const longest = 1000;
+  const mostLines = 10;
+
+  /** @param {string} text */
+  const start = text => (text.length > longest ? `${text.slice(0, longest)}…` : text);
+
+  /** @type {(head: string, lines: string[]) => Title} */
+  const shown = (head, lines) => ({ head: start(head), lines: lines.slice(0, mostLines).map(start) });
+
   /**
    * What a marker is called, as text: "VOR-DME CGO" and the lines of its pop-up between the first and the position.
    * @return {{head: string, lines: string[]}}
@@ -99,10 +109,10 @@
     const lines = page.linesOf(marker);
     const first = lines[0] || '';
     if (!page.hasRow(marker))
-      return { head: first, lines: lines.slice(1) };
+      return shown(first, lines.slice(1));
     const ident = leadingWord.test(first) ? first.replace(leadingWord, '') : marker.stem();
     const details = lines.slice(1, lines.length > 2 ? -1 : undefined).filter(line => line && line !== ident);
-    return { head: `${kindOf(marker)} ${ident}`, lines: details };
+    return shown(`${kindOf(marker)} ${ident}`, details);
   };
 
   /** Puts a box beside a pixel of the window: right of it and below, or where there is more room, but whole. */

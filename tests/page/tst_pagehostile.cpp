@@ -79,6 +79,7 @@ private slots:
 
     void everyNameIsText_data();
     void everyNameIsText();
+    void anEndlessNameIsShownByItsStart();
     void theAttributionOfTheTilesIsText();
     void aScriptDoesNotReachTheNetwork_data();
     void aScriptDoesNotReachTheNetwork();
@@ -170,6 +171,31 @@ void TestPageHostile::everyNameIsText()
     QCOMPARE(elements(), before);
     QCOMPARE(window->requests, QList<QUrl>());
     QCOMPARE(window->run("String(({}).reached)").toString(), QString("undefined"));
+}
+
+/// The layout takes the square of a word's length: a name of a million letters would keep it for an hour.
+void TestPageHostile::anEndlessNameIsShownByItsStart()
+{
+    const QString ident(5000, 'I');
+    const QString html = "<font color=blue><b>VOR " + ident + "</b><font color=black><br/>" + QString(5000, 'M') +
+                         QString("<br/>N").repeated(500) + "<br/>114.7 Mhz<br/>x";
+    window->run(QString("addVORMarker(%1,%2,1,%3);addNavMgr();VORMgr.addMarkers(listVOR);map.setZoom(10)")
+                    .arg(place, quoted(ident + "-K1FR"), quoted(html)));
+    window->settle();
+    const QStringList shown{"VOR " + QString(996, 'I') + "…", QString(1000, 'M') + "…"};
+    const QString textsOf = "Array.from(document.querySelectorAll('%1')).map(line => line.textContent)";
+    window->mouse->moveTo({5, 300});
+    window->mouse->moveTo(window->mouse->pointOf(46.5, 2.5));
+    QTRY_VERIFY_WITH_TIMEOUT(!window->run("document.getElementById('tooltip').hidden").toBool(), 20000);
+    const QStringList box = window->run(textsOf.arg("#tooltip > div")).toStringList();
+    QCOMPARE(box.mid(0, 2), shown);
+    QCOMPARE(box.size(), 11);
+    QVERIFY(!window->menuAt(46.5, 2.5).isEmpty());
+    QCOMPARE(window->run(textsOf.arg(".menu-head, .menu-line")).toStringList().mid(0, 2), shown);
+    window->closeMenu();
+    // By the whole name the program finds the row.
+    QCOMPARE(window->run("listVOR[0].getTitle()").toString(), ident + "-K1FR");
+    QCOMPARE(window->run("page.identOf(listVOR[0])").toString(), ident);
 }
 
 void TestPageHostile::theAttributionOfTheTilesIsText()
