@@ -204,9 +204,9 @@
     draw();
   };
 
-  /** The next corner. @type {(place: Place, name: string) => void} */
+  /** The next corner; a click that has only closed the menu is none. @type {(place: Place, name: string) => void} */
   page.measureTo = function (place, name) {
-    if (!open || page.pixelsBetween(corners[corners.length - 1].place, place) < sameClick)
+    if (!open || page.pressClosesMenu() || page.pixelsBetween(corners[corners.length - 1].place, place) < sameClick)
       return;
     corners.push({ place: place, name: name });
     draw();

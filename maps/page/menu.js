@@ -18,6 +18,8 @@
    */
   let panels = [];
   let hoverTimer = 0;
+  /** Whether the last press of a button was beside an open menu. */
+  let pressCloses = false;
 
   /** @type {(parent: HTMLElement, className: string, text?: string) => HTMLElement} */
   function addElement(parent, className, text) {
@@ -175,6 +177,7 @@
   }
 
   page.menuIsOpen = () => !root.hidden;
+  page.pressClosesMenu = () => pressCloses;
 
   page.closeMenu = function () {
     if (root.hidden)
@@ -254,7 +257,8 @@
   const isInMenu = target => panels.some(panel => panel.element.contains(/** @type {Node} */ (target)));
 
   document.addEventListener('mousedown', event => {
-    if (!isInMenu(event.target))
+    pressCloses = page.menuIsOpen() && !isInMenu(event.target);
+    if (pressCloses)
       page.closeMenu();
   }, true);
   document.addEventListener('wheel', event => {

@@ -343,6 +343,7 @@ interface Page {
   openMenuHere(): void;
   closeMenu(): void;
   menuIsOpen(): boolean;
+  pressClosesMenu(): boolean;
   menuKey(event: KeyboardEvent): void;
   pointAt(marker: ChartMarker | null): void;
   reportMarker(marker: ChartMarker | null): void;

@@ -28,6 +28,7 @@ private slots:
     void aClickOnAMarkerOpensNoPopUp();
     void noMarkerIsChosenWhileMeasuring();
     void theShortWayGoesOverTheDateLine();
+    void aClickThatClosesTheMenuIsNoCorner();
     void theMenuEndsAndClearsIt();
     void theCrossClearsIt();
     void theProgramIsNotToldOfIt();
@@ -274,6 +275,25 @@ void TestPageMeasure::theShortWayGoesOverTheDateLine()
     QVERIFY(window->pixelsAround(0, 180.07, 8, violet) > 0);
     QCOMPARE(window->pixelsAround(0, 179.8, 5, violet), 0);
     QCOMPARE(window->pixelsAround(0, 180.2, 5, violet), 0);
+}
+
+void TestPageMeasure::aClickThatClosesTheMenuIsNoCorner()
+{
+    const auto rows = [this] { return texts(*window, "#measure tr").size(); };
+    measureFrom(nothing);
+    window->mouse->click({200, 500});
+    QCOMPARE(rows(), 1);
+    // On the map, then on a marker, which the menu leaves free.
+    for (const QPoint& beside : {QPoint(100, 300), pixel(*window, ndb)}) {
+        window->mouse->contextMenu({500, 40});
+        QVERIFY(!window->menuEntries().isEmpty());
+        window->mouse->click(beside);
+        QCOMPARE(window->menuEntries(), QStringList());
+        QCOMPARE(rows(), 1);
+    }
+    QVERIFY(isMeasuring());
+    window->mouse->click({100, 300});
+    QCOMPARE(rows(), 3); // with the sum
 }
 
 void TestPageMeasure::theMenuEndsAndClearsIt()
