@@ -29,19 +29,17 @@
       this.zoom = NaN;
       this.ratio = NaN;
       this.leaflet = null;
-      this.pending = 0;
+      this.frame = new engine.NextFrame(() => this.update());
     },
 
     onAdd: function (leaflet) {
       this.leaflet = leaflet;
       this.box = L.DomUtil.create('div', 'base-tiles', this.getPane());
-      // Not at once: the page has yet to say its colours, and the program its view.
       this.later();
     },
 
     onRemove: function () {
-      window.cancelAnimationFrame(this.pending);
-      this.pending = 0;
+      this.frame.cancel();
       this.drop(() => true);
       this.keepFew();
       this.box.remove();
@@ -61,13 +59,12 @@
     },
 
     later: function () {
-      if (!this.pending && this.leaflet)
-        this.pending = window.requestAnimationFrame(() => this.update());
+      if (this.leaflet)
+        this.frame.ask();
     },
 
     update: function () {
-      window.cancelAnimationFrame(this.pending);
-      this.pending = 0;
+      this.frame.cancel();
       const inView = this.range(0);
       const around = this.range(ring);
       const zoom = this.leaflet.getZoom();

@@ -45,12 +45,12 @@
       L.setOptions(this, { pane: pane });
       this.painters = painters;
       this.area = { zoom: NaN };
+      this.next = new engine.NextFrame(() => this.paint());
     },
 
     onAdd: function (leaflet) {
       this.leaflet = leaflet;
       this.canvas = L.DomUtil.create('canvas', 'chart-canvas', this.getPane());
-      // Not at once: the page has yet to say its colours, and the program its view.
       this.invalidate();
     },
 
@@ -60,8 +60,7 @@
 
     /** Something shown has changed: paint with the next frame, once for all changes until then. */
     invalidate: function () {
-      if (!this.pending)
-        this.pending = window.requestAnimationFrame(() => this.paint());
+      this.next.ask();
     },
 
     /**
@@ -105,9 +104,7 @@
     },
 
     paint: function () {
-      if (this.pending)
-        window.cancelAnimationFrame(this.pending);
-      this.pending = 0;
+      this.next.cancel();
       const view = this.view();
       const spareX = Math.ceil(view.width * reach);
       const spareY = Math.ceil(view.height * reach);
@@ -128,7 +125,7 @@
      * @param {function(Frame)} paint not called when everything is about to be painted anyway
      */
     paintMore: function (paint) {
-      if (!this.pending)
+      if (!this.next.asked)
         engine.paintSafely({ paint: paint }, this.frame(true));
     },
 

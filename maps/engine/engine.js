@@ -14,6 +14,7 @@ function loadMapEngine() {
     'maps/engine/mercator.js',
     'maps/engine/events.js',
     'maps/engine/latlng.js',
+    'maps/engine/nextframe.js',
     'maps/engine/canvas.js',
     'maps/engine/basetiles.js',
     'maps/engine/sprites.js',

@@ -160,18 +160,18 @@
       this.room = null;
       /** The texts that stand on the view's edges. */
       this.shown = [];
+      this.next = new engine.NextFrame(() => this.write());
     },
 
     onAdd: function (leaflet) {
       this.leaflet = leaflet;
       this.top = L.DomUtil.create('canvas', 'graticule-labels', leaflet.getContainer());
       this.side = L.DomUtil.create('canvas', 'graticule-labels', leaflet.getContainer());
-      // Not at once: the page has yet to say its colours.
-      this.pending = window.requestAnimationFrame(() => this.write());
+      this.next.ask();
     },
 
     onRemove: function () {
-      window.cancelAnimationFrame(this.pending);
+      this.next.cancel();
       this.top.remove();
       this.side.remove();
     },
@@ -181,7 +181,7 @@
     },
 
     write: function () {
-      window.cancelAnimationFrame(this.pending);
+      this.next.cancel();
       const corner = this.leaflet.containerPointToLayerPoint([0, 0]).add(this.leaflet.getPixelOrigin());
       const size = this.leaflet.getSize();
       const scale = engine.tileSize * Math.pow(2, this.leaflet.getZoom());

@@ -349,6 +349,7 @@ interface MapEngine {
 
   frameOf(context: CanvasRenderingContext2D, area: Area): Frame;
   paintSafely(painter: Painter, frame: Frame): void;
+  NextFrame: new (paint: () => void) => { asked: boolean, ask(): void, cancel(): void };
   ChartCanvas: new (pane: string, painters: Painter[]) => Canvas;
   BaseTiles: new (pane: string, painters: Painter[]) => L.Layer & { invalidate(): void };
   Stack: new (parts: HeightPainter[]) => Painter;
