@@ -35,7 +35,7 @@ clang|clang++
 libclang-rt-dev|
 llvm|llvm-symbolizer
 clang-format|clang-format
-clang-tidy|run-clang-tidy
+clang-tidy|clang-tidy
 shellcheck|shellcheck
 sqlite3|sqlite3
 chromium|chromium

@@ -1,6 +1,7 @@
 // The base map in its parts: degrees on the edges, squares that fit, the world's ends.
 #include "basemaptest.h"
 
+#include <QWebFrame>
 #include <QtTest>
 
 namespace {
@@ -12,6 +13,7 @@ class TestPageBaseMap : public BaseMapTest
     Q_OBJECT
 
 private slots:
+    void theFirstFrameWaitsForThePage();
     void lakesAreWater_data();
     void lakesAreWater();
     void anIslandInALakeIsLand();
@@ -43,6 +45,23 @@ private:
             .toStringList();
     }
 };
+
+void TestPageBaseMap::theFirstFrameWaitsForThePage()
+{
+    QWebFrame* frame = window->page->mainFrame();
+    connect(frame, &QWebFrame::javaScriptWindowObjectCleared, frame, [frame] {
+        frame->evaluateJavaScript(
+            "var paintedAt = [], plainTransform = CanvasRenderingContext2D.prototype.setTransform;"
+            "CanvasRenderingContext2D.prototype.setTransform = function () {"
+            "  if (this.canvas.className === 'chart-canvas') paintedAt.push(document.readyState);"
+            "  plainTransform.apply(this, arguments); };");
+    });
+    QVERIFY(window->load());
+    window->settle();
+    const QStringList states = window->run("paintedAt").toStringList();
+    QVERIFY(!states.isEmpty());
+    QVERIFY2(!states.contains("loading"), qPrintable(states.join(' ')));
+}
 
 void TestPageBaseMap::lakesAreWater_data()
 {
