@@ -38,7 +38,7 @@ const otherOptions = source => source.command.replace(folders, '').replace(/ -o 
 
 /** A test, or what begins a program, can be put into a namespace: nothing of it is declared elsewhere. */
 const isClosed = source => /^#include "\w+\.moc"$|^int main\(/m.test(source.text);
-/** What has to stand outside of any, and once in a program; and what is only judged in the file that is read itself. */
+/** What has to stand outside of any, and once in a program; and a name that may be of no use but to another source. */
 const standsAlone = source => /Q_DECLARE_METATYPE|extern "C"|^using [\w:]+;|^namespace \w+ =/m.test(source.text);
 
 function groupsOf(sources) {
@@ -55,15 +55,17 @@ function dealt(list, parts) {
   return Array.from({ length: parts }, (_, part) => list.filter((_, i) => i % parts === part));
 }
 
-/** Writes the source that includes those of a group. @return {object} how to compile it */
+/**
+ * Writes the sources of a group into one, and how to compile it. They are copied, for some checks and the analyzer leave
+ * out what is included.
+ */
 function joined(group) {
   const folder = fs.mkdtempSync(path.join(temporary, 'group-'));
   const file = path.join(folder, 'group.cpp');
-  const include = source => `#include "${source.file}" // NOLINT(bugprone-suspicious-include)`;
-  const lines = isClosed(group[0])
-    ? headersOf(group).concat(group.map((source, i) => `namespace unit_${i} {\n${include(source)}\n}`))
-    : group.map(include);
-  fs.writeFileSync(file, lines.concat('').join('\n'));
+  const texts = isClosed(group[0])
+    ? headersOf(group).concat(group.map((source, i) => `namespace unit_${i} {\n${source.text}}\n`))
+    : group.map(source => source.text);
+  fs.writeFileSync(file, texts.join('\n'));
   const sought = new Set([].concat(...group.map(source =>
     (source.command.match(folders) || []).concat(` -I${path.dirname(source.file)}`))));
   const command = `${otherOptions(group[0])}${[...sought].join('')} -c ${file}`;
@@ -79,8 +81,8 @@ function headersOf(group) {
 }
 
 /** @return {Promise<string>} what clang-tidy finds; empty: nothing */
-function findings(folder, file, ...options) {
-  const call = ['-quiet', `-config-file=${path.join(root, '.clang-tidy')}`, '-p', folder, ...options, file];
+function findings(folder, file) {
+  const call = ['-quiet', `-config-file=${path.join(root, '.clang-tidy')}`, '-p', folder, file];
   return new Promise((resolve, reject) => {
     const run = childProcess.spawn('clang-tidy', call, { stdio: ['ignore', 'pipe', 'pipe'] });
     let output = '';
@@ -97,8 +99,7 @@ async function judge(group) {
   if (group.length === 1)
     return findings(build, group[0].file);
   const { folder, file } = joined(group);
-  const ofOurs = `-header-filter=^${root}/(${rooms.join('|')})/.*\\.(h|cpp)$`;
-  if (!await findings(folder, file, ofOurs))
+  if (!await findings(folder, file))
     return '';
   const [some, others] = dealt(group, 2);
   return await judge(some) + await judge(others);
