@@ -4,6 +4,8 @@
 #include <QDialog>
 #include <QEvent>
 
+#include <iterator>
+
 KeptObjects::KeptObjects(QObject* window) : QObject(window)
 {
     keepWithChildren(window);
@@ -15,24 +17,23 @@ bool KeptObjects::eventFilter(QObject* object, QEvent* event)
     if (event->type() == QEvent::Show && isDialogOfWindow(object)) {
         keepWithChildren(object);
     }
-    return event->type() == QEvent::DeferredDelete && (object == this || kept.contains(object));
+    return event->type() == QEvent::DeferredDelete && isKept(object);
 }
 
-void KeptObjects::keep(QObject* object)
+bool KeptObjects::isKept(QObject* object) const
 {
-    // Not itself: it tells its end when the set is gone already.
-    if (object == this || kept.contains(object)) {
-        return;
-    }
-    kept.insert(object);
-    connect(object, &QObject::destroyed, this, [this, object] { kept.remove(object); });
+    return !kept.value(object).isNull();
 }
 
 void KeptObjects::keepWithChildren(QObject* root)
 {
-    keep(root);
+    // What has gone since the last time: a day's boxes would fill the memory.
+    for (auto entry = kept.begin(); entry != kept.end();) {
+        entry = entry->isNull() ? kept.erase(entry) : std::next(entry);
+    }
+    kept.insert(root, root);
     for (QObject* child : root->findChildren<QObject*>()) {
-        keep(child);
+        kept.insert(child, child);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "mainwindow.h"
 #include "ui_mainwindow.h"
 
+#include "boxtext.h"
 #include "mapscript.h"
 #include "positions.h"
 #include "viewlayer.h"
@@ -145,7 +146,7 @@ void MainWindow::doViewRwy(const QString& value)
     QSqlQuery query(QSqlDatabase::database(settings->dbGEN));
     const QString key = settings->sqlMgr->getAPT(value, true, query) ? query.value(1).toString() : QString();
     const bool found = settings->sqlMgr->getRWY(key, true, query);
-    statusBar()->showMessage(key, 0);
+    statusBar()->showMessage(boxText(key), 0);
     if (!found) {
         return;
     }

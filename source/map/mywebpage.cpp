@@ -54,9 +54,17 @@ bool myWebPage::acceptNavigationRequest(QWebFrame* frame, const QNetworkRequest&
     if (frame != mainFrame()) {
         return request.url().scheme() == QLatin1String("about");
     }
-    const QUrl shown = frame->url();
-    const bool isOurs = shown.isEmpty() ? request.url().isLocalFile() : isBesidePage(request.url(), shown);
-    return isOurs && QWebPage::acceptNavigationRequest(frame, request, type);
+    const bool isOurs = first.isEmpty() ? request.url().isLocalFile() : isBesidePage(request.url(), first);
+    const bool accepted = isOurs && QWebPage::acceptNavigationRequest(frame, request, type);
+    if (accepted && first.isEmpty()) {
+        first = request.url();
+    }
+    return accepted;
+}
+
+QUrl myWebPage::firstPage() const
+{
+    return first;
 }
 
 void myWebPage::javaScriptAlert(QWebFrame* frame, const QString& msg)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QUrl>
 #include <QWebPage>
 
 /// The map page: never served from WebKit's caches, its `alert` goes to the log instead of a box. A script in it, be it
@@ -13,6 +14,9 @@ public:
 
     /// False for the engine's own error page (a missing map page leaves the map blank) and its choice of files.
     bool supportsExtension(Extension extension) const override;
+
+    /// In whose folder all others lie; empty until it is asked for.
+    QUrl firstPage() const;
 
 public slots:
     void javaScriptAlert(QWebFrame* frame, const QString& msg) override;
@@ -29,4 +33,8 @@ protected:
     bool javaScriptPrompt(QWebFrame* frame, const QString& msg, const QString& defaultValue, QString* result) override;
     /// Always none, without a box.
     QString chooseFile(QWebFrame* frame, const QString& oldFile) override;
+
+private:
+    /// Not the page that is shown: a style sheet can set the view's property `url`, and there is none in between.
+    QUrl first;
 };

@@ -1,18 +1,20 @@
 #include "pagenetwork.h"
 
+#include "mywebpage.h"
+
 #include <QDebug>
 #include <QNetworkRequest>
 #include <QUrl>
 #include <QWebFrame>
-#include <QWebPage>
 
 namespace {
 
-/// The page that a request is for; empty while the first one comes.
+/// The first of the pages that a request is for, be one of them shown or none; empty without any.
 QUrl pageOf(const QNetworkRequest& request)
 {
     const auto* frame = qobject_cast<QWebFrame*>(request.originatingObject());
-    return frame == nullptr ? QUrl() : frame->page()->mainFrame()->url();
+    const auto* page = frame == nullptr ? nullptr : qobject_cast<myWebPage*>(frame->page());
+    return page == nullptr ? QUrl() : page->firstPage();
 }
 
 bool isAhead(const QNetworkRequest& request)

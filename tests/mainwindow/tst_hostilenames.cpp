@@ -17,8 +17,10 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
+#include <QStatusBar>
 #include <QTableWidget>
 #include <QTextEdit>
+#include <QWebFrame>
 #include <QWebView>
 #include <QtTest>
 
@@ -64,6 +66,7 @@ private slots:
     void aBoxShowsANameAsText();
     void aBoxShowsTheStartOfAnEndlessName();
     void aListShowsTheStartOfAnEndlessName();
+    void theStatusBarShowsTheStartOfAnEndlessKey();
     void aChoiceShowsTheStartOfAnEndlessName();
     void anInputBoxShowsANameAsText();
     void theBoxAboutQtKeepsItsMarkup();
@@ -72,9 +75,11 @@ private slots:
     void aScriptShowsNoFileInTheDebugText();
     void aScriptEndsNoPartOfTheWindow();
     void aScriptThatTakesTheNamesAwayEndsNothingEither();
+    void aScriptThatTellsAnEndEndsNothingEither();
     void aScriptEndsNoDialog();
     void theMenusOfALineEditEnd();
     void aScriptLeadsTheMapNowhere();
+    void aStyleSheetLeadsTheMapNowhere();
     void aTitleBringsNoSecondStatement();
     void aKeyWithAQuoteDeletesNothing();
     void anIdentifierIsNoWayOutOfTheFolder();
@@ -248,6 +253,14 @@ void TestHostileNames::aListShowsTheStartOfAnEndlessName()
     QCOMPARE(world.title("dockWStar"), "STAR : " + QString(2000, 'I') + "...");
 }
 
+void TestHostileNames::theStatusBarShowsTheStartOfAnEndlessKey()
+{
+    sandbox->addAirport({{"ukey", QString(100000, 'K')}, {"iden", "BIG"}});
+    session.reset(new WindowSession);
+    session->window().doViewRwy("BIG");
+    QCOMPARE(session->window().statusBar()->currentMessage(), QString(2000, 'K') + "...");
+}
+
 void TestHostileNames::aChoiceShowsTheStartOfAnEndlessName()
 {
     session.reset(new WindowSession);
@@ -351,6 +364,22 @@ void TestHostileNames::aScriptThatTakesTheNamesAwayEndsNothingEither()
     QVERIFY(window && action);
 }
 
+// A signal is a function to a script.
+void TestHostileNames::aScriptThatTellsAnEndEndsNothingEither()
+{
+    session.reset(new WindowSession);
+    QVERIFY(session->load());
+    const QPointer<QObject> window = &session->window();
+    const QPointer<QObject> action = session->action("actVor");
+    QCOMPARE(evaluate("mainWindow.destroyed(); mainWindow.actVor.destroyed(); mainWindow.actVor.deleteLater();"
+                      "mainWindow.deleteLater(); 'done'")
+                 .toString(),
+             QString("done"));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    QVERIFY(window && action);
+}
+
 void TestHostileNames::aScriptEndsNoDialog()
 {
     session.reset(new WindowSession);
@@ -393,6 +422,17 @@ void TestHostileNames::aScriptLeadsTheMapNowhere()
     QTest::qWait(200);
     QCOMPARE(session->find<QWebView>("map")->url(), page);
     QCOMPARE(evaluate("confirm('?')").toBool(), false);
+}
+
+void TestHostileNames::aStyleSheetLeadsTheMapNowhere()
+{
+    session.reset(new WindowSession);
+    QVERIFY(session->load());
+    sandbox->writeFile("Work/other.html", "<html><body>other</body></html>");
+    evaluate("mainWindow.styleSheet = \"QWebView { qproperty-url: '" +
+             QUrl::fromLocalFile(sandbox->path("Work/other.html")).toString() + "' }\"");
+    QTest::qWait(200);
+    QCOMPARE(session->find<QWebView>("map")->page()->mainFrame()->toPlainText(), QString());
 }
 
 void TestHostileNames::aTitleBringsNoSecondStatement()

@@ -217,6 +217,20 @@ private slots:
         QCOMPARE(calls.count(), 0);
     }
 
+    // As a style sheet sets the property of the view.
+    void theViewsAddressIsNoWayOutEither()
+    {
+        Scene scene;
+        QSignalSpy changes(scene.page.mainFrame(), &QWebFrame::urlChanged);
+        scene.view.setUrl(QUrl::fromLocalFile(scene.root.filePath("secret.html")));
+        QTest::qWait(100);
+        const QUrl other = QUrl::fromLocalFile(scene.root.filePath("bin/other.html"));
+        scene.view.setUrl(other);
+        QTRY_COMPARE_WITH_TIMEOUT(scene.shown(), QString("other.html"), 20000);
+        for (const QList<QVariant>& change : changes)
+            QVERIFY(change.at(0).toUrl().fileName() != "secret.html");
+    }
+
     void thePageMayStartAgain()
     {
         Scene scene;
