@@ -11,14 +11,21 @@
 namespace {
 
 // Neither a file of two-byte characters, between whose bytes QSettings would put the new keys, nor one with values that
-// it cannot unpack without harm is a file that it may write to. False where such a file cannot be replaced.
+// it cannot unpack without harm is a file that it may write to. False where such a file cannot be replaced, and for one
+// that cannot be read: QSettings takes it for an empty one.
 bool makeWritable(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!QFileInfo::exists(path)) {
         return true; // there is none yet
     }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
     const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        return false;
+    }
     const QByteArray understood = withHarmlessValues(settingsBytes(bytes));
     file.close();
     return understood == bytes || writeWholeFile(path, understood) == WriteEnd::Whole;

@@ -8,7 +8,9 @@
 #include <QTextCodec>
 #include <QtTest>
 
+#include <sys/prctl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -21,6 +23,28 @@ void leave()
 {
     CNavGlobalVar::deleteInstance();
 }
+
+/// Rights bind no administrator, as whom the tests may run: meanwhile it is somebody else, and a file his.
+class OrdinaryUser
+{
+public:
+    explicit OrdinaryUser(const QByteArray& file)
+    {
+        constexpr uid_t nobody = 65534;
+        is = before != 0 || (chown(file.constData(), nobody, gid_t(-1)) == 0 && seteuid(nobody) == 0);
+    }
+    ~OrdinaryUser()
+    {
+        if (seteuid(before) != 0)
+            qFatal("not the user from before");
+        prctl(PR_SET_DUMPABLE, 1); // who was another is hidden from LeakSanitizer
+    }
+
+    bool is = false;
+
+private:
+    const uid_t before = geteuid();
+};
 
 struct Switch
 {
@@ -185,6 +209,28 @@ private slots:
         QCOMPARE(file.size(), 4LL * 1024 * 1024 + 1);
         QVERIFY(file.resize(4LL * 1024 * 1024));
         QCOMPARE(settings().route, QString("BE"));
+    }
+
+    void aFileThatCannotBeReadStays()
+    {
+        Sandbox sandbox(Sandbox::Databases::None);
+        const QByteArray before = sandbox.readFile("Tools/Trajector/trajector.ini");
+        for (QDir way(sandbox.path("Tools/Trajector")); way.path().startsWith(QDir::tempPath() + '/'); way.cdUp())
+            QCOMPARE(chmod(QFile::encodeName(way.path()).constData(), 0777), 0);
+        const QByteArray file = QFile::encodeName(sandbox.path("Tools/Trajector/trajector.ini"));
+        QCOMPARE(chmod(file.constData(), 0200), 0);
+        MessageLog log;
+        {
+            const OrdinaryUser user(file);
+            if (!user.is || !QFile(QFile::decodeName(file)).open(QIODevice::WriteOnly | QIODevice::Append))
+                QSKIP("the administrator can be nobody else here");
+            QVERIFY(!QFile(QFile::decodeName(file)).open(QIODevice::ReadOnly));
+            QCOMPARE(settings().zoom, 6.0);
+            leave();
+        }
+        QCOMPARE(chmod(file.constData(), 0600), 0);
+        QCOMPARE(log.messages(), QStringList{"trajector.ini not saved"});
+        QCOMPARE(sandbox.readFile("Tools/Trajector/trajector.ini"), before);
     }
 
     void aPipeIsNotWaitedFor()
