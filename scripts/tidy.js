@@ -2,8 +2,8 @@
 /**
  * clang-tidy over every source of ours, as a build compiled it: node scripts/tidy.js BUILD_FOLDER [JOBS]
  *
- * Each run of it goes through all of Qt's headers, which takes ten times as long as a source of ours. So a run reads a
- * group of sources. A group only acquits: where something is found, its halves are read, and what is found in a source
+ * Each run of it goes through all of Qt's headers, which takes longer than most sources of ours. So a run reads a group
+ * of sources. A group only acquits: where something is found, its halves are read, and what is found in a source
  * that is read alone is told. So two sources may use one name for two things; it costs time, no more.
  */
 'use strict';
